@@ -1,0 +1,49 @@
+#include "cli/FileNames.h"
+
+#include "common/Error.h"
+#include "common/File.h"
+
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <unordered_set>
+
+namespace ovisto {
+
+namespace {
+
+void readNames(std::vector<std::string>& files, std::istream& input, char separator)
+{
+    for (std::string name; std::getline(input, name, separator);) {
+        if (separator == '\n' && name.ends_with('\r'))
+            name.pop_back();
+        if (!name.empty())
+            files.push_back(name);
+    }
+}
+
+} // namespace
+
+std::vector<std::string> fileNames(const CommandLine& line)
+{
+    std::vector<std::string> files = line.files;
+    const char separator = line.zeroSeparated ? '\0' : '\n';
+    if (line.filesFrom == "-") {
+        readNames(files, std::cin, separator);
+    } else if (!line.filesFrom.empty()) {
+        std::ifstream input(line.filesFrom, std::ios::binary);
+        if (!input)
+            throw Error{kFileNotFound, "The file list " + line.filesFrom + " cannot be read"};
+        readNames(files, input, separator);
+    }
+    return files;
+}
+
+std::vector<std::string> withoutRepeats(std::vector<std::string> files)
+{
+    std::unordered_set<std::string> seen;
+    std::erase_if(files, [&](const std::string& file) { return !seen.insert(realPath(file)).second; });
+    return files;
+}
+
+} // namespace ovisto

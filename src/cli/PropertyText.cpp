@@ -1,0 +1,52 @@
+#include "cli/PropertyText.h"
+
+#include "cli/TerminalReporter.h"
+#include "collection/PropertyTree.h"
+#include "common/DataType.h"
+#include "common/Error.h"
+#include "common/NodePath.h"
+#include "common/NumberText.h"
+
+namespace ovisto {
+
+namespace {
+
+/// The data type of a node; a missing or strange one counts as Undefined.
+int dataTypeOf(const XmlNode& node)
+{
+    int dataType = 0;
+    ErrorTrap trap;
+    trap.run([&] { dataType = attributeToLong(AttributeGet(node, "d")); });
+    return dataType == 0 ? kUndefined : dataType;
+}
+
+/// The value on one line; of long byte values (thumbnails, tables) only the beginning and the size.
+std::string valueText(const XmlNode& node, int dataType)
+{
+    constexpr std::size_t kMostDigits = 64;
+    constexpr std::size_t kMostCharacters = 1000;
+    const std::string text = node.text();
+    if (dataType == kByte && text.size() > kMostDigits)
+        return text.substr(0, kMostDigits) + "... " + std::to_string(text.size() / 2) + " bytes";
+    return oneLine(text, kMostCharacters);
+}
+
+} // namespace
+
+std::string propertyText(const XmlDocument& document, const TagDictionary& dictionary, bool technical)
+{
+    std::string lines;
+    for (const PropertyItem& item : propertyTree(document, dictionary, technical)) {
+        const std::string label = item.label.empty() ? item.node.name() : item.label;
+        lines += std::string(2 * static_cast<std::size_t>(item.depth), ' ') + label;
+        if (item.node.childElements().empty()) {
+            const int dataType = dataTypeOf(item.node);
+            const std::string type(dataTypeName(dataType));
+            lines += ": " + valueText(item.node, dataType) + (type.empty() ? "" : " (" + type + ")");
+        }
+        lines += '\n';
+    }
+    return lines;
+}
+
+} // namespace ovisto

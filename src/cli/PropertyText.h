@@ -1,0 +1,14 @@
+#pragma once
+
+#include "common/TagDictionary.h"
+#include "common/XmlDocument.h"
+
+#include <string>
+
+namespace ovisto {
+
+/// The property tree as text, one line a node, two blanks a level: label, value and data type. With `technical`, the
+/// technical properties too.
+std::string propertyText(const XmlDocument& document, const TagDictionary& dictionary, bool technical);
+
+} // namespace ovisto

@@ -1,0 +1,38 @@
+#include "cli/TerminalProgress.h"
+
+#include "cli/TerminalReporter.h"
+
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace ovisto {
+
+TerminalProgress::TerminalProgress() : m_isTerminal(isatty(STDERR_FILENO) == 1) {}
+
+bool TerminalProgress::step(const std::string& path, std::size_t done, std::size_t total)
+{
+    using namespace std::chrono_literals;
+    constexpr auto kInterval = 100ms;
+    constexpr std::size_t kWidth = 24;
+    constexpr std::size_t kMostName = 40;
+    const auto now = std::chrono::steady_clock::now();
+    if (!m_isTerminal || total < 2 || now - m_lastDrawn < kInterval)
+        return true;
+    m_lastDrawn = now;
+    const std::size_t filled = kWidth * done / total;
+    const std::string bar = std::string(filled, '#') + std::string(kWidth - filled, '.');
+    const std::string name = path.substr(path.find_last_of('/') + 1);
+    std::fprintf(stderr, "\r\033[K[%s] %zu/%zu %s", bar.c_str(), done, total, oneLine(name, kMostName).c_str());
+    m_drawn = true;
+    return true;
+}
+
+void TerminalProgress::clear()
+{
+    if (m_drawn)
+        std::fputs("\r\033[K", stderr);
+    m_drawn = false;
+}
+
+} // namespace ovisto

@@ -1,0 +1,56 @@
+#include "cli/TerminalReporter.h"
+
+#include "common/CodePage.h"
+
+namespace ovisto {
+
+namespace {
+
+constexpr std::size_t kMostMessage = 400;
+constexpr std::size_t kMostContext = 200; // a context may end with a whole value
+
+constexpr bool isControl(char32_t character)
+{
+    return character < 0x20 || (character >= 0x7F && character < 0xA0);
+}
+
+} // namespace
+
+void TerminalReporter::report(const std::string& context, const Error& error)
+{
+    if (!m_first)
+        m_first = (context.empty() ? context : oneLine(context, kMostContext) + ": ") + error.description;
+}
+
+std::string TerminalReporter::line(const std::string& path, const Error& error) const
+{
+    return errorLine(path, m_first.value_or(error.description));
+}
+
+std::string errorLine(const std::string& path, const std::string& message)
+{
+    const bool named = path.empty() || message.find(path) != std::string::npos;
+    return "ovisto-cli: " + (named ? "" : path + ": ") + oneLine(message, kMostMessage + path.size()) + "\n";
+}
+
+std::string oneLine(const std::string& text, std::size_t mostCharacters)
+{
+    std::string line;
+    std::size_t count = 0;
+    bool blank = false;
+    for (const char32_t character : characters(text)) {
+        if (isControl(character)) {
+            blank = true;
+            continue;
+        }
+        if (blank && !line.empty())
+            line += ' ';
+        blank = false;
+        if (++count > mostCharacters)
+            return line + "...";
+        appendCharacter(line, character);
+    }
+    return line;
+}
+
+} // namespace ovisto

@@ -1,0 +1,95 @@
+#include "collection/NodeChange.h"
+
+#include "collection/MetadataDocument.h"
+#include "common/NodePath.h"
+#include "common/TagDictionary.h"
+#include "writer/JpegDocument.h"
+#include "writer/NodeCreation.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace ovisto {
+
+namespace {
+
+struct Companion {
+    const char* deleted;
+    const char* removedToo;
+};
+
+constexpr Companion kCompanions[] = {
+    {"/JPEG/Exif[@id='FFE1']/IFDE", "/JPEG/Exif/IFD[@id='8769']"},
+    {"/JPEG/Exif[@id='FFE1']/IFDI", "/JPEG/Exif/IFDE/IFD[@id='A005']"},
+    {"/JPEG/Exif[@id='FFE1']/IFDE/MAKE", "/JPEG/Exif/IFDE/IFD[@id='927C']"},
+    {"/JPEG/Exif[@id='FFE1']/IFD1/THUM", "/JPEG/Exif/IFD1"},
+    {"/JPEG/Exif[@id='FFE1']/IFD1", "/JPEG/Exif/IFD1/THUM"},
+};
+
+XmlNode createNode(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)
+{
+    const XmlNode node = CreateNode(document, change.entry, reporter);
+    if (!node.parent())
+        throw systemError(kObjectNotSet);
+    return node;
+}
+
+/// Whether the image itself cannot be decoded without the node: it is required, and no part of the metadata.
+bool isPartOfImage(const XmlNode& entry)
+{
+    return protection(entry) == Protection::Required && !NodeXPath(entry).starts_with("/JPEG/Exif");
+}
+
+} // namespace
+
+std::string objection(const NodeChange& change)
+{
+    if (change.action == NodeAction::Set && AttributeGet(change.entry, "d").empty())
+        return "I don't know what type of data this node requires - can't set its value.";
+    if (change.action != NodeAction::Add && isPartOfImage(change.entry))
+        return "The image cannot be shown without this node as it is.";
+    return {};
+}
+
+bool applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)
+{
+    const std::string path = NodeXPath(change.entry);
+    XmlNode node = document.selectSingleNode(path);
+    if (change.action == NodeAction::Delete) {
+        if (!node)
+            return false;
+        node.remove();
+        removeCompanion(document, path);
+        return true;
+    }
+    const bool isNew = !node;
+    if (isNew)
+        node = createNode(document, change, reporter);
+    if (change.action == NodeAction::Add)
+        return isNew;
+    // A new node without a text is as good as none for a value that is empty: nothing is written for it.
+    if (node.text() == change.value)
+        return false;
+    node.setText(change.value);
+    return true;
+}
+
+void changeFile(const std::string& path, const NodeChange& change, ErrorReporter& reporter)
+{
+    XmlDocument document = loadDocument(path);
+    if (applyChange(document, change, reporter))
+        JpegDocument(reporter).WriteJpeg(document, path);
+}
+
+XmlNode removeCompanion(const XmlDocument& document, const std::string& path)
+{
+    const auto* row =
+        std::ranges::find_if(kCompanions, [&](const Companion& companion) { return path == companion.deleted; });
+    if (row == std::end(kCompanions))
+        return {};
+    XmlNode companion = document.selectSingleNode(row->removedToo);
+    companion.remove();
+    return companion;
+}
+
+} // namespace ovisto

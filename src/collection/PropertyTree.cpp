@@ -1,0 +1,32 @@
+#include "collection/PropertyTree.h"
+
+#include "common/NodePath.h"
+
+namespace ovisto {
+
+namespace {
+
+void appendItems(std::vector<PropertyItem>& items, const XmlNode& node, const TagDictionary& dictionary, bool technical,
+                 int depth)
+{
+    const std::string path = NodeXPath(node);
+    const XmlNode entry = dictionary.entry(path);
+    const Visibility visible = visibility(entry);
+    if (visible == Visibility::Hidden || (visible == Visibility::Technical && !technical))
+        return;
+    items.push_back({node, entry, path, AttributeGet(entry ? entry : node, entry ? "label" : "id"), depth});
+    for (const XmlNode& child : node.childElements())
+        appendItems(items, child, dictionary, technical, depth + 1);
+}
+
+} // namespace
+
+std::vector<PropertyItem> propertyTree(const XmlDocument& document, const TagDictionary& dictionary, bool technical)
+{
+    std::vector<PropertyItem> items;
+    if (const XmlNode root = document.documentElement())
+        appendItems(items, root, dictionary, technical, 0);
+    return items;
+}
+
+} // namespace ovisto

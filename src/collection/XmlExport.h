@@ -1,0 +1,18 @@
+#pragma once
+
+#include "common/XmlDocument.h"
+
+#include <string>
+
+namespace ovisto {
+
+/// The file that the metadata of the image at `imagePath` is exported to: beside it, ".XML" appended to the whole name.
+std::string exportPath(const std::string& imagePath);
+
+/// Removes the attributes that only serve the program while it shows or lays out a document.
+void removeBookkeeping(const XmlDocument& document);
+
+/// Writes `document` to the export file of `imagePath`, which it replaces. Raises the error that prevented it.
+void exportDocument(const XmlDocument& document, const std::string& imagePath);
+
+} // namespace ovisto

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <new>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace ovisto {
+
+/// What went wrong: a number that stays the same in every language, and a sentence for the person in front.
+struct Error {
+    int number = 0;
+    std::string description;
+};
+
+// Failures of the system and of conversions.
+inline constexpr int kInvalidCall = 5;
+inline constexpr int kOverflow = 6;
+inline constexpr int kOutOfMemory = 7;
+inline constexpr int kTypeMismatch = 13;
+inline constexpr int kFileNotFound = 53;
+inline constexpr int kDeviceError = 57;
+inline constexpr int kDiskFull = 61;
+inline constexpr int kPermissionDenied = 70;
+inline constexpr int kPathAccessError = 75;
+inline constexpr int kPathNotFound = 76;
+inline constexpr int kObjectNotSet = 91;
+
+// Failures of the program's own making.
+inline constexpr int kOpenFailed = -2147221504;     ///< a file cannot be opened, or an XML file cannot be parsed
+inline constexpr int kStructureError = -2147221503; ///< a file is no sound JPEG
+
+/// The error with one of the system numbers above and its customary description.
+Error systemError(int number);
+
+/// Runs steps that may fail, so that the ones after them still run, and keeps the latest error until it is looked at.
+class ErrorTrap {
+public:
+    template<class Step> void run(Step&& step)
+    {
+        try {
+            std::forward<Step>(step)();
+        } catch (const Error& error) {
+            m_pending = error;
+        } catch (const std::bad_alloc&) {
+            m_pending = systemError(kOutOfMemory);
+        }
+    }
+
+    bool pending() const { return m_pending.has_value(); }
+
+    /// The pending error, which stays pending. There must be one.
+    const Error& error() const { return *m_pending; }
+
+    /// The pending error, which is seen now and hence no longer pending. There must be one.
+    Error take() { return *std::exchange(m_pending, std::nullopt); }
+
+    void clear() { m_pending.reset(); }
+
+    /// Raises the pending error, if any, for the caller to deal with.
+    void raise()
+    {
+        if (pending())
+            throw take();
+    }
+
+private:
+    std::optional<Error> m_pending;
+};
+
+} // namespace ovisto

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "common/Error.h"
+
+#include <string>
+
+namespace ovisto {
+
+/// Whoever tells a person about an error: a message box, a terminal, a test.
+class ErrorReporter {
+public:
+    ErrorReporter() = default;
+    ErrorReporter(const ErrorReporter&) = delete;
+    ErrorReporter& operator=(const ErrorReporter&) = delete;
+    virtual ~ErrorReporter() = default;
+
+    /// `context`: the operation and the file concerned, or a whole message. May be empty.
+    virtual void report(const std::string& context, const Error& error) = 0;
+};
+
+/// Tells `reporter` that `error` happened in `context`.
+void ErrorReport(ErrorReporter& reporter, const std::string& context, const Error& error);
+
+/// What a message box shows for the error: context, CR LF, number, " : ", description.
+std::string errorReportText(const std::string& context, const Error& error);
+
+} // namespace ovisto

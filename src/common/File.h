@@ -1,0 +1,116 @@
+#pragma once
+
+#include "common/Error.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace ovisto {
+
+// Files as the program needs them. All functions raise an Error with one of the system numbers when the system refuses.
+// Paths are bytes as the system gives them; nothing here depends on the locale.
+
+/// The system's handle of an open file, closed with its owner.
+class FileHandle {
+public:
+    FileHandle() = default;
+    explicit FileHandle(int descriptor) : m_descriptor(descriptor) {}
+    FileHandle(FileHandle&& other) noexcept : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
+    FileHandle& operator=(FileHandle&& other) noexcept;
+    ~FileHandle();
+
+    int get() const { return m_descriptor; }
+
+private:
+    int m_descriptor = -1;
+};
+
+/// A regular file that is open for reading at any place. Another process may change it meanwhile: a read then gives
+/// what is there, or less.
+class InputFile {
+public:
+    /// Raises kPathAccessError for what is no regular file.
+    explicit InputFile(const std::string& path);
+
+    /// Bytes in the file when it was opened.
+    std::int64_t size() const { return m_size; }
+
+    /// Reads into `into` what stands from `offset` (the first byte is 0) on, and returns how many bytes that was: fewer
+    /// than asked for only where the file ends.
+    std::size_t readAt(std::int64_t offset, std::span<std::uint8_t> into) const;
+
+private:
+    friend class OutputFile;
+    FileHandle m_handle;
+    std::int64_t m_size = 0;
+};
+
+/// Who may read a new file: its owner until it takes the permissions of the file that it replaces, or as is usual.
+enum class NewFileAccess { Private, Usual };
+
+/// A new file that is being written, from its start to its end. Its bytes are on disk after sync() only.
+class OutputFile {
+public:
+    /// Creates `path` anew; a file of that name is deleted before, unless another save is writing it (then raises
+    /// kPermissionDenied).
+    explicit OutputFile(const std::string& path, NewFileAccess newFileAccess = NewFileAccess::Private);
+
+    void write(std::span<const std::uint8_t> bytes);
+
+    /// Hands to the system what is still in the buffer, so that a full disk shows now.
+    void flush();
+
+    /// Flushes and waits until the disk has it.
+    void sync();
+
+    /// Gives the new file the permission bits of `old`, and its owner and extended attributes where that is allowed.
+    void takeAttributesFrom(const InputFile& old);
+
+private:
+    FileHandle m_handle;
+    std::string m_buffer;
+};
+
+enum class ReplaceStep { Delete, Rename };
+
+/// Where and why a file could not be replaced.
+struct ReplaceFailure {
+    ReplaceStep step;
+    Error error;
+};
+
+/// Puts the complete file `replacement` in the place of `path`, so that at every instant `path` names a whole old or a
+/// whole new file. A file that may not be deleted (marked read-only, or its folder denies it) fails at the deletion.
+std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path);
+
+/// Where `path` leads to when it is a symbolic link, else `path` itself.
+std::string linkTarget(const std::string& path);
+
+/// Writes a text file as a whole: `path` names its old or its new content, never a part of it.
+void writeTextFile(const std::string& path, std::string_view content);
+
+/// A whole file.
+std::string readTextFile(const std::string& path);
+
+bool fileExists(const std::string& path);
+
+/// Whether files can be created in `folder`.
+bool isFolderWritable(const std::string& folder);
+
+/// Creates `folder` and those above it where they are missing.
+void createFolders(const std::string& folder);
+
+/// One text for all names that lead to the same file: its real path, or `path` when there is no such file.
+std::string realPath(const std::string& path);
+
+/// Full path of the running program.
+std::string executablePath();
+
+/// The folder in which the system keeps a user's program data.
+std::string userDataRoot();
+
+} // namespace ovisto

@@ -1,0 +1,338 @@
+#include "common/File.h"
+
+#include "common/PathText.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace ovisto {
+
+namespace {
+
+constexpr std::size_t kBufferSize = std::size_t{64} * 1024;
+
+Error errorOf(int errorNumber)
+{
+    switch (errorNumber) {
+    case ENOENT:
+        return systemError(kFileNotFound);
+    case ENOTDIR:
+        return systemError(kPathNotFound);
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EBUSY:
+    case ETXTBSY:
+        return systemError(kPermissionDenied);
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return systemError(kDiskFull);
+    case EIO:
+        return systemError(kDeviceError);
+    case ENOMEM:
+        return systemError(kOutOfMemory);
+    default:
+        return systemError(kPathAccessError);
+    }
+}
+
+/// Raises the system's latest error where `result` tells of one; else hands it on.
+template<class Result> Result checked(Result result)
+{
+    if (result < 0)
+        throw errorOf(errno);
+    return result;
+}
+
+/// Calls again what a signal interrupted.
+template<class Call> auto uninterrupted(Call call)
+{
+    for (;;) {
+        const auto result = call();
+        if (result >= 0 || errno != EINTR)
+            return result;
+    }
+}
+
+FileHandle openFile(const std::string& path, int flags)
+{
+    FileHandle handle(uninterrupted([&] { return open(path.c_str(), flags | O_CLOEXEC, 0600); }));
+    if (handle.get() >= 0)
+        return handle;
+    const int openError = errno;
+    const std::string folder = splitPath(path).folder;
+    if (openError == ENOENT && !folder.empty() && access(folder.c_str(), F_OK) != 0)
+        throw systemError(kPathNotFound);
+    throw errorOf(openError);
+}
+
+struct stat statusOf(int descriptor)
+{
+    struct stat status = {};
+    checked(fstat(descriptor, &status));
+    return status;
+}
+
+/// False when another save holds the file. A file system without locks has none that could.
+bool lock(int descriptor)
+{
+    return flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+/// Deletes a file that an earlier save left behind. One that a save is writing at this moment is locked, and stays.
+void deleteLeftover(const std::string& path)
+{
+    const FileHandle leftover(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    if (leftover.get() < 0 || lock(leftover.get()))
+        unlink(path.c_str());
+}
+
+/// The names in a list of extended attributes, each ended by a zero byte.
+std::vector<const char*> attributeNames(const std::vector<char>& list)
+{
+    std::vector<const char*> names;
+    for (const char* name = list.data(); name < list.data() + list.size(); name += std::string_view(name).size() + 1)
+        names.push_back(name);
+    return names;
+}
+
+/// Copies what the system allows. Attributes that cannot be set here (another owner's, a file system without them) are
+/// left out, as copying programs do.
+void copyExtendedAttributes(int from, int to)
+{
+    const auto listSize = flistxattr(from, nullptr, 0);
+    if (listSize <= 0)
+        return;
+    std::vector<char> list(static_cast<std::size_t>(listSize));
+    if (flistxattr(from, list.data(), list.size()) != listSize)
+        return;
+    for (const char* name : attributeNames(list)) {
+        const auto size = fgetxattr(from, name, nullptr, 0);
+        if (size < 0)
+            continue;
+        std::vector<char> value(static_cast<std::size_t>(size));
+        if (fgetxattr(from, name, value.data(), value.size()) == size)
+            fsetxattr(to, name, value.data(), value.size(), 0);
+    }
+}
+
+/// Makes a rename or a deletion in `folder` survive a power failure, where the file system can.
+void syncFolder(const std::string& folder)
+{
+    const FileHandle handle(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (handle.get() >= 0)
+        fsync(handle.get());
+}
+
+bool isMarkedReadOnly(const std::string& path)
+{
+    constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
+    struct stat status = {};
+    return stat(path.c_str(), &status) == 0 &&
+           ((status.st_mode & kAnyWriteBit) == 0 || access(path.c_str(), W_OK) != 0);
+}
+
+} // namespace
+
+FileHandle& FileHandle::operator=(FileHandle&& other) noexcept
+{
+    std::swap(m_descriptor, other.m_descriptor);
+    return *this;
+}
+
+FileHandle::~FileHandle()
+{
+    if (m_descriptor >= 0)
+        close(m_descriptor);
+}
+
+// O_NONBLOCK: a pipe that nobody writes to must not keep the program waiting.
+InputFile::InputFile(const std::string& path) : m_handle(openFile(path, O_RDONLY | O_NONBLOCK))
+{
+    const struct stat status = statusOf(m_handle.get());
+    if (!S_ISREG(status.st_mode))
+        throw systemError(kPathAccessError);
+    m_size = status.st_size;
+}
+
+std::size_t InputFile::readAt(std::int64_t offset, std::span<std::uint8_t> into) const
+{
+    std::size_t done = 0;
+    while (done < into.size()) {
+        const auto count = checked(uninterrupted([&] {
+            return pread(m_handle.get(), into.data() + done, into.size() - done,
+                         static_cast<off_t>(offset + static_cast<std::int64_t>(done)));
+        }));
+        if (count == 0)
+            break;
+        done += static_cast<std::size_t>(count);
+    }
+    return done;
+}
+
+OutputFile::OutputFile(const std::string& path, NewFileAccess newFileAccess)
+{
+    deleteLeftover(path);
+    constexpr mode_t kOwner = S_IRUSR | S_IWUSR;
+    constexpr mode_t kEveryone = kOwner | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+    const mode_t mode = newFileAccess == NewFileAccess::Private ? kOwner : kEveryone;
+    FileHandle handle(
+        uninterrupted([&] { return open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode); }));
+    if (handle.get() < 0)
+        throw errno == EEXIST ? systemError(kPermissionDenied) : errorOf(errno);
+    // Another save may have taken the new file for a leftover between its creation and its locking.
+    if (!lock(handle.get()) || statusOf(handle.get()).st_nlink == 0)
+        throw systemError(kPermissionDenied);
+    m_handle = std::move(handle);
+    m_buffer.reserve(kBufferSize);
+}
+
+void OutputFile::write(std::span<const std::uint8_t> bytes)
+{
+    m_buffer.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (m_buffer.size() >= kBufferSize)
+        flush();
+}
+
+void OutputFile::flush()
+{
+    // What could not be written is not tried again: the file is spoilt, and the error says so once.
+    const std::string buffer = std::exchange(m_buffer, {});
+    std::string_view rest = buffer;
+    while (!rest.empty()) {
+        const auto count = checked(uninterrupted([&] { return ::write(m_handle.get(), rest.data(), rest.size()); }));
+        // A full disk may first show as a short count, then as an error, or as nothing written at all.
+        if (count == 0)
+            throw systemError(kDiskFull);
+        rest.remove_prefix(static_cast<std::size_t>(count));
+    }
+}
+
+void OutputFile::sync()
+{
+    flush();
+    checked(uninterrupted([&] { return fsync(m_handle.get()); }));
+}
+
+void OutputFile::takeAttributesFrom(const InputFile& old)
+{
+    const struct stat status = statusOf(old.m_handle.get());
+    const int descriptor = m_handle.get();
+    constexpr auto kSame = static_cast<uid_t>(-1);
+    // Giving a file away is for the administrator; giving it to one's group is for all its members.
+    if (fchown(descriptor, status.st_uid, status.st_gid) != 0 && fchown(descriptor, kSame, status.st_gid) != 0)
+        errno = 0;
+    copyExtendedAttributes(old.m_handle.get(), descriptor);
+    constexpr mode_t kPermissionBits = S_IRWXU | S_IRWXG | S_IRWXO;
+    const mode_t permissions = status.st_mode & kPermissionBits;
+    // File systems without permission bits of their own refuse to set them, and show the same ones for every file.
+    if (fchmod(descriptor, permissions) != 0 && (statusOf(descriptor).st_mode & kPermissionBits) != permissions)
+        throw systemError(kPermissionDenied);
+}
+
+std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path)
+{
+    if (isMarkedReadOnly(path))
+        return ReplaceFailure{ReplaceStep::Delete, systemError(kPermissionDenied)};
+    if (rename(replacement.c_str(), path.c_str()) != 0) {
+        const int renameError = errno;
+        const bool denied = renameError == EACCES || renameError == EPERM;
+        return ReplaceFailure{denied ? ReplaceStep::Delete : ReplaceStep::Rename, errorOf(renameError)};
+    }
+    syncFolder(splitPath(path).folder);
+    return std::nullopt;
+}
+
+std::string linkTarget(const std::string& path)
+{
+    struct stat status = {};
+    return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode) ? realPath(path) : path;
+}
+
+void writeTextFile(const std::string& path, std::string_view content)
+{
+    const std::string target = linkTarget(path);
+    const PathParts parts = splitPath(target);
+    const std::string temporaryName = parts.folder + "~" + parts.name;
+    ErrorTrap trap;
+    trap.run([&] {
+        OutputFile file(temporaryName, NewFileAccess::Usual);
+        file.write({reinterpret_cast<const std::uint8_t*>(content.data()), content.size()});
+        if (fileExists(target))
+            file.takeAttributesFrom(InputFile(target));
+        file.sync();
+        if (const auto failure = replaceFile(temporaryName, target))
+            throw failure->error;
+    });
+    if (trap.pending())
+        unlink(temporaryName.c_str());
+    trap.raise();
+}
+
+std::string readTextFile(const std::string& path)
+{
+    const InputFile file(path);
+    std::string content(static_cast<std::size_t>(file.size()), '\0');
+    content.resize(file.readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
+    return content;
+}
+
+bool fileExists(const std::string& path)
+{
+    return access(path.c_str(), F_OK) == 0;
+}
+
+bool isFolderWritable(const std::string& folder)
+{
+    return access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
+void createFolders(const std::string& folder)
+{
+    std::error_code status;
+    std::filesystem::create_directories(folder, status);
+    if (status)
+        throw errorOf(status.value());
+}
+
+std::string realPath(const std::string& path)
+{
+    struct Free {
+        void operator()(char* text) const { std::free(text); }
+    };
+    const std::unique_ptr<char, Free> resolved(realpath(path.c_str(), nullptr));
+    return resolved ? resolved.get() : path;
+}
+
+std::string executablePath()
+{
+    std::array<char, 4096> path{};
+    const auto length = checked(readlink("/proc/self/exe", path.data(), path.size()));
+    return {path.data(), static_cast<std::size_t>(length)};
+}
+
+std::string userDataRoot()
+{
+    if (const char* root = std::getenv("XDG_DATA_HOME"); root != nullptr && *root == '/')
+        return root;
+    const char* home = std::getenv("HOME");
+    if (home == nullptr || *home == '\0') {
+        const passwd* user = getpwuid(getuid());
+        home = user != nullptr ? user->pw_dir : "";
+    }
+    return std::string(home) + "/.local/share";
+}
+
+} // namespace ovisto

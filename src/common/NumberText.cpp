@@ -1,0 +1,83 @@
+#include "common/NumberText.h"
+
+#include "common/Error.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+
+namespace ovisto {
+
+namespace {
+
+constexpr std::int64_t kExponentForm = 10'000'000; // the first number with more than 7 digits
+
+std::string_view trimmed(std::string_view text)
+{
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// The number in `text`, infinite when it is too large for a double.
+double toDouble(std::string_view text)
+{
+    text = trimmed(text);
+    if (text.starts_with('+') && !text.starts_with("+-"))
+        text.remove_prefix(1);
+    // Words for infinity are numbers to from_chars, but not here.
+    if (text.find_first_not_of("0123456789.eE+-") != std::string_view::npos)
+        throw systemError(kTypeMismatch);
+    double number = 0;
+    const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (status == std::errc::result_out_of_range)
+        return std::numeric_limits<double>::infinity();
+    if (status != std::errc() || end != text.data() + text.size())
+        throw systemError(kTypeMismatch);
+    return number;
+}
+
+} // namespace
+
+std::string numberText(std::int64_t number)
+{
+    if (-kExponentForm < number && number < kExponentForm)
+        return std::to_string(number);
+    char text[32];
+    const int length = std::snprintf(text, sizeof text, "%.7G", static_cast<double>(static_cast<float>(number)));
+    return {text, static_cast<std::size_t>(length)};
+}
+
+std::int32_t toLong(std::string_view text)
+{
+    const double rounded = std::nearbyint(toDouble(text));
+    if (rounded < std::numeric_limits<std::int32_t>::min() || rounded > std::numeric_limits<std::int32_t>::max())
+        throw systemError(kOverflow);
+    return static_cast<std::int32_t>(rounded);
+}
+
+std::int32_t attributeToLong(std::string_view text)
+{
+    return toLong("0" + std::string(text));
+}
+
+std::vector<std::string_view> split(std::string_view text, char separator)
+{
+    std::vector<std::string_view> pieces;
+    for (std::size_t end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
+        pieces.push_back(text.substr(0, end));
+        text.remove_prefix(end + 1);
+    }
+    pieces.push_back(text);
+    return pieces;
+}
+
+std::int64_t halfToEven(std::int64_t number)
+{
+    const std::int64_t half = number / 2;
+    return number % 2 != 0 && half % 2 != 0 ? half + 1 : half;
+}
+
+} // namespace ovisto

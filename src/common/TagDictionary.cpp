@@ -1,0 +1,29 @@
+#include "common/TagDictionary.h"
+
+#include "common/NodePath.h"
+#include "common/XmlLoad.h"
+
+namespace ovisto {
+
+TagDictionary::TagDictionary(const std::string& path)
+{
+    XMLLoad(m_document, path);
+}
+
+Visibility visibility(const XmlNode& entry)
+{
+    const std::string text = AttributeGet(entry, "vis");
+    if (text == "2")
+        return Visibility::Hidden;
+    return text == "1" ? Visibility::Technical : Visibility::Shown;
+}
+
+Protection protection(const XmlNode& entry)
+{
+    const std::string text = AttributeGet(entry, "prot");
+    if (text == "2")
+        return Protection::Required;
+    return text == "1" ? Protection::Protected : Protection::Free;
+}
+
+} // namespace ovisto

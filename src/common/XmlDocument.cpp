@@ -1,0 +1,188 @@
+#include "common/XmlDocument.h"
+
+#include "common/CodePage.h"
+#include "common/Error.h"
+#include "common/File.h"
+#include "common/XmlPointer.h"
+
+#include <libxml/xmlsave.h>
+
+#include <algorithm>
+#include <limits>
+#include <mutex>
+
+namespace ovisto {
+
+struct XmlDocument::Content {
+    DetachedNodes detached;
+    XmlPtr<xmlDoc> doc;
+    bool declaration = false;
+
+    explicit Content(xmlDoc* loaded) : doc(loaded) { doc->_private = &detached; }
+};
+
+namespace {
+
+// Nothing outside the document itself is brought in: no network, no external entities.
+constexpr int kParseOptions = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_BIG_LINES;
+
+void initialiseParser()
+{
+    static std::once_flag once;
+    std::call_once(once, xmlInitParser);
+}
+
+/// The line (the first is 1) of a text that has no line breaks but LF and CR LF.
+std::string_view lineOf(std::string_view text, std::int64_t line)
+{
+    for (; line > 1; --line) {
+        const auto end = text.find('\n');
+        if (end == std::string_view::npos)
+            return {};
+        text.remove_prefix(end + 1);
+    }
+    text = text.substr(0, text.find('\n'));
+    if (text.ends_with('\r'))
+        text.remove_suffix(1);
+    return text;
+}
+
+std::string withoutLineBreaks(std::string text)
+{
+    while (text.ends_with('\n') || text.ends_with('\r'))
+        text.pop_back();
+    return text;
+}
+
+XmlParseError parseError(const xmlError& error, std::string_view source)
+{
+    return {.code = error.code,
+            .reason = withoutLineBreaks(error.message != nullptr ? error.message : ""),
+            .line = error.line,
+            .linepos = error.int2,
+            .srcText = std::string(lineOf(source, error.line))};
+}
+
+XmlParseError outOfMemory()
+{
+    return {.code = XML_ERR_NO_MEMORY,
+            .reason = systemError(kOutOfMemory).description,
+            .line = 0,
+            .linepos = 0,
+            .srcText = {}};
+}
+
+/// About what the nodes of `text` take in memory: an element, its two tags in the text, with its text node; and an
+/// attribute with its value.
+std::size_t nodeMemory(std::string_view text)
+{
+    constexpr std::size_t kPerTag = 200;
+    constexpr std::size_t kPerAttribute = 200;
+    return kPerTag * static_cast<std::size_t>(std::ranges::count(text, '<')) +
+           kPerAttribute * static_cast<std::size_t>(std::ranges::count(text, '='));
+}
+
+constexpr std::size_t kNodeMemoryFree = std::size_t{24} * 1024 * 1024; ///< more must be in proportion to the text
+
+/// Holds the document type that `doc` declares, if it does, against its content.
+std::optional<XmlParseError> validate(xmlDoc* doc, std::string_view source)
+{
+    if (doc->intSubset == nullptr)
+        return std::nullopt;
+    std::optional<XmlParseError> firstError;
+    const auto remember = [](void* userData, xmlError* error) {
+        auto& [found, text] = *static_cast<std::pair<std::optional<XmlParseError>*, std::string_view>*>(userData);
+        if (!*found)
+            *found = parseError(*error, text);
+    };
+    std::pair<std::optional<XmlParseError>*, std::string_view> context{&firstError, source};
+    xmlSetStructuredErrorFunc(&context, remember);
+    const XmlPtr<xmlValidCtxt> validator(xmlNewValidCtxt());
+    const bool valid = xmlValidateDocument(validator.get(), doc) == 1;
+    xmlSetStructuredErrorFunc(nullptr, nullptr);
+    if (valid)
+        return std::nullopt;
+    return firstError ? firstError
+                      : XmlParseError{.code = XML_DTD_UNKNOWN_ELEM,
+                                      .reason = "The content does not match "
+                                                "the document type",
+                                      .line = 0,
+                                      .linepos = 0,
+                                      .srcText = {}};
+}
+
+} // namespace
+
+XmlDocument::XmlDocument() = default;
+XmlDocument::XmlDocument(XmlDocument&&) noexcept = default;
+XmlDocument& XmlDocument::operator=(XmlDocument&&) noexcept = default;
+XmlDocument::~XmlDocument() = default;
+
+std::optional<XmlParseError> XmlDocument::loadText(std::string_view text)
+{
+    m_content.reset();
+    initialiseParser();
+    if (nodeMemory(text) > kNodeMemoryFree + text.size() || text.size() > std::numeric_limits<int>::max())
+        return outOfMemory();
+    const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
+    // Long runs of digits are our own here, so the parser's limit for a text (10 MB) does not apply.
+    xmlDoc* doc = xmlCtxtReadMemory(context.get(), text.data(), static_cast<int>(text.size()), nullptr, "UTF-8",
+                                    kParseOptions | XML_PARSE_HUGE);
+    if (doc == nullptr)
+        return parseError(context->lastError, text);
+    m_content = std::make_unique<Content>(doc);
+    return std::nullopt;
+}
+
+std::optional<XmlParseError> XmlDocument::loadFile(const std::string& path, Validation validation,
+                                                   WhiteSpace whiteSpace)
+{
+    m_content.reset();
+    initialiseParser();
+    std::string source;
+    ErrorTrap trap;
+    trap.run([&] { source = readTextFile(path); });
+    if (trap.pending()) {
+        const Error error = trap.take();
+        return XmlParseError{.code = error.number, .reason = error.description, .line = 0, .linepos = 0, .srcText = {}};
+    }
+    const int options = kParseOptions | (validation == Validation::On ? XML_PARSE_DTDLOAD : 0) |
+                        (whiteSpace == WhiteSpace::Strip ? XML_PARSE_NOBLANKS : 0);
+    const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
+    xmlDoc* doc = xmlCtxtReadMemory(context.get(), source.data(), static_cast<int>(source.size()), path.c_str(),
+                                    nullptr, options);
+    if (doc == nullptr)
+        return parseError(context->lastError, source);
+    auto content = std::make_unique<Content>(doc);
+    content->declaration = source.starts_with("<?xml");
+    if (validation == Validation::On) {
+        if (auto error = validate(doc, source))
+            return error;
+    }
+    m_content = std::move(content);
+    return std::nullopt;
+}
+
+XmlNode XmlDocument::node() const
+{
+    return XmlNode(m_content ? reinterpret_cast<xmlNode*>(m_content->doc.get()) : nullptr);
+}
+
+XmlNode XmlDocument::documentElement() const
+{
+    return XmlNode(m_content ? xmlDocGetRootElement(m_content->doc.get()) : nullptr);
+}
+
+std::string XmlDocument::xml() const
+{
+    if (!m_content)
+        return {};
+    const XmlPtr<xmlBuffer> buffer(xmlBufferCreate());
+    const int options = m_content->declaration ? 0 : XML_SAVE_NO_DECL;
+    xmlSaveCtxt* context = xmlSaveToBuffer(buffer.get(), "UTF-8", options);
+    xmlSaveDoc(context, m_content->doc.get());
+    xmlSaveClose(context);
+    return toString(xmlBufferContent(buffer.get()));
+}
+
+} // namespace ovisto

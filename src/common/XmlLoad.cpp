@@ -1,0 +1,41 @@
+#include "common/XmlLoad.h"
+
+#include "common/CodePage.h"
+#include "common/Error.h"
+
+namespace ovisto {
+
+namespace {
+
+/// The first `count` characters of a UTF-8 text.
+std::string firstCharacters(const std::string& text, std::int64_t count)
+{
+    std::string first;
+    for (const char32_t character : characters(text)) {
+        if (count-- <= 0)
+            break;
+        appendCharacter(first, character);
+    }
+    return first;
+}
+
+} // namespace
+
+void XMLLoad(XmlDocument& document, const std::string& source)
+{
+    const auto error = document.loadFile(source, Validation::On, WhiteSpace::Strip);
+    if (!error)
+        return;
+    throw Error{kOpenFailed, "File " + source + "\r\n" +                                                  //
+                                 "Line " + std::to_string(error->line) + " pos " +                        //
+                                 std::to_string(error->linepos) + " " + "\r\n" + error->reason + "\r\n" + //
+                                 firstCharacters(error->srcText, error->linepos)};
+}
+
+std::string parseErrorText(const XmlParseError& error)
+{
+    return error.reason + " line:" + std::to_string(error.line) + " pos:" + std::to_string(error.linepos) +
+           " src:" + error.srcText;
+}
+
+} // namespace ovisto

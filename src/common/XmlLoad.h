@@ -1,0 +1,17 @@
+#pragma once
+
+#include "common/XmlDocument.h"
+
+#include <string>
+
+namespace ovisto {
+
+/// Loads the XML file `source` into `document`, replacing what it held: validated where it declares a document type,
+/// white space between elements left out. Raises kOpenFailed with the file, line and position, the reason and the
+/// source text up to the position; `document` is then empty.
+void XMLLoad(XmlDocument& document, const std::string& source);
+
+/// The message for a metadata document that does not parse.
+std::string parseErrorText(const XmlParseError& error);
+
+} // namespace ovisto

@@ -1,0 +1,208 @@
+#include "common/XmlNode.h"
+
+#include "common/Error.h"
+#include "common/XmlPointer.h"
+
+#include <libxml/xmlsave.h>
+#include <libxml/xpathInternals.h>
+
+#include <algorithm>
+
+namespace ovisto {
+
+namespace {
+
+DetachedNodes& detachedNodes(xmlDoc* doc)
+{
+    return *static_cast<DetachedNodes*>(doc->_private);
+}
+
+/// Keeps a node that stands in no document any more.
+void detach(xmlNode* node)
+{
+    xmlDoc* doc = node->doc;
+    xmlUnlinkNode(node);
+    detachedNodes(doc).emplace_back(node);
+}
+
+/// The node itself, no longer kept among the detached ones: it is about to be put into the document.
+xmlNode* attach(xmlNode* node)
+{
+    DetachedNodes& detached = detachedNodes(node->doc);
+    const auto kept = std::ranges::find(detached, node, &XmlPtr<xmlNode>::get);
+    if (kept == detached.end())
+        throw systemError(kInvalidCall);
+    xmlNode* released = kept->release();
+    detached.erase(kept);
+    return released;
+}
+
+void ignoreError(void* /*context*/, xmlError* /*error*/) {}
+
+} // namespace
+
+std::string XmlNode::name() const
+{
+    if (m_node == nullptr)
+        return {};
+    switch (m_node->type) {
+    case XML_TEXT_NODE:
+        return "#text";
+    case XML_CDATA_SECTION_NODE:
+        return "#cdata-section";
+    case XML_COMMENT_NODE:
+        return "#comment";
+    case XML_DOCUMENT_NODE:
+        return "#document";
+    default:
+        break;
+    }
+    if (m_node->ns == nullptr || m_node->ns->prefix == nullptr)
+        return toString(m_node->name);
+    return toString(m_node->ns->prefix) + ":" + toString(m_node->name);
+}
+
+std::string XmlNode::baseName() const
+{
+    return isElement() ? toString(m_node->name) : std::string();
+}
+
+bool XmlNode::isElement() const
+{
+    return m_node != nullptr && m_node->type == XML_ELEMENT_NODE;
+}
+
+bool XmlNode::isCData() const
+{
+    return m_node != nullptr && m_node->type == XML_CDATA_SECTION_NODE;
+}
+
+std::string XmlNode::text() const
+{
+    return toString(XmlPtr<xmlChar>(m_node != nullptr ? xmlNodeGetContent(m_node) : nullptr).get());
+}
+
+void XmlNode::setText(std::string_view text)
+{
+    if (m_node == nullptr)
+        return;
+    for (const XmlNode& child : children())
+        detach(child.m_node);
+    if (text.empty())
+        return;
+    const std::string content(text);
+    xmlAddChild(m_node, xmlNewDocText(m_node->doc, xmlText(content.c_str())));
+}
+
+std::string XmlNode::attribute(const char* name) const
+{
+    return isElement() ? toString(XmlPtr<xmlChar>(xmlGetProp(m_node, xmlText(name))).get()) : std::string();
+}
+
+bool XmlNode::hasAttribute(const char* name) const
+{
+    return isElement() && xmlHasProp(m_node, xmlText(name)) != nullptr;
+}
+
+void XmlNode::setAttribute(const char* name, std::string_view value)
+{
+    if (isElement())
+        xmlSetProp(m_node, xmlText(name), xmlText(std::string(value).c_str()));
+}
+
+void XmlNode::removeAttribute(const char* name)
+{
+    if (isElement())
+        xmlUnsetProp(m_node, xmlText(name));
+}
+
+XmlNode XmlNode::parent() const
+{
+    return XmlNode(m_node != nullptr ? m_node->parent : nullptr);
+}
+
+std::vector<XmlNode> XmlNode::children() const
+{
+    std::vector<XmlNode> nodes;
+    for (xmlNode* child = m_node != nullptr ? m_node->children : nullptr; child != nullptr; child = child->next)
+        nodes.emplace_back(child);
+    return nodes;
+}
+
+std::vector<XmlNode> XmlNode::childElements() const
+{
+    std::vector<XmlNode> elements = children();
+    std::erase_if(elements, [](const XmlNode& child) { return !child.isElement(); });
+    return elements;
+}
+
+XmlNode XmlNode::document() const
+{
+    return XmlNode(m_node != nullptr ? reinterpret_cast<xmlNode*>(m_node->doc) : nullptr);
+}
+
+std::vector<XmlNode> XmlNode::selectNodes(const std::string& xpath) const
+{
+    if (m_node == nullptr)
+        return {};
+    const XmlPtr<xmlXPathContext> context(xmlXPathNewContext(m_node->doc));
+    context->node = m_node;
+    context->error = ignoreError;
+    const XmlPtr<xmlXPathObject> found(xmlXPathEval(xmlText(xpath.c_str()), context.get()));
+    if (!found || found->type != XPATH_NODESET)
+        throw Error{kInvalidCall, "Not a valid path: " + xpath};
+    std::vector<XmlNode> nodes;
+    for (int i = 0; i < xmlXPathNodeSetGetLength(found->nodesetval); ++i)
+        nodes.emplace_back(xmlXPathNodeSetItem(found->nodesetval, i));
+    return nodes;
+}
+
+XmlNode XmlNode::selectSingleNode(const std::string& xpath) const
+{
+    const std::vector<XmlNode> nodes = selectNodes(xpath);
+    return nodes.empty() ? XmlNode() : nodes.front();
+}
+
+XmlNode XmlNode::createElement(const std::string& name) const
+{
+    if (m_node == nullptr)
+        return {};
+    xmlNode* element = xmlNewDocNode(m_node->doc, nullptr, xmlText(name.c_str()), nullptr);
+    detachedNodes(m_node->doc).emplace_back(element);
+    return XmlNode(element);
+}
+
+void XmlNode::appendChild(XmlNode child)
+{
+    if (m_node != nullptr && child)
+        xmlAddChild(m_node, attach(child.m_node));
+}
+
+void XmlNode::insertBefore(XmlNode child, XmlNode next)
+{
+    if (m_node != nullptr && child && next)
+        xmlAddPrevSibling(next.m_node, attach(child.m_node));
+}
+
+void XmlNode::remove()
+{
+    if (m_node == nullptr)
+        return;
+    if (m_node->type == XML_ATTRIBUTE_NODE)
+        xmlRemoveProp(reinterpret_cast<xmlAttr*>(m_node));
+    else if (m_node->parent != nullptr)
+        detach(m_node);
+}
+
+std::string XmlNode::xml() const
+{
+    if (m_node == nullptr)
+        return {};
+    const XmlPtr<xmlBuffer> buffer(xmlBufferCreate());
+    xmlSaveCtxt* context = xmlSaveToBuffer(buffer.get(), "UTF-8", XML_SAVE_NO_DECL);
+    xmlSaveTree(context, m_node);
+    xmlSaveClose(context);
+    return toString(xmlBufferContent(buffer.get()));
+}
+
+} // namespace ovisto

@@ -1,0 +1,169 @@
+#include "writer/ExifSegment.h"
+
+#include "common/DataType.h"
+#include "common/Hex.h"
+#include "common/NodePath.h"
+#include "common/NumberText.h"
+#include "common/TagNumbers.h"
+#include "writer/ExifLayout.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace ovisto {
+
+namespace {
+
+void writeHexValue(SegmentWriter& writer, std::string_view text)
+{
+    writer.WriteHex(text);
+}
+
+void writeStringValue(SegmentWriter& writer, std::string_view text)
+{
+    writer.WriteNarrowString(text);
+}
+
+void writeUnicodeValue(SegmentWriter& writer, std::string_view text)
+{
+    writer.WriteWideString(text);
+}
+
+// A single Short stands in the entry and is followed by two bytes that fill it.
+void writeShortValue(SegmentWriter& writer, std::string_view text)
+{
+    const auto items = split(text, ',');
+    for (const std::string_view item : items)
+        writer.WriteInteger(toLong(item));
+    if (items.size() == 1)
+        writer.WriteInteger(0);
+}
+
+void writeLongValue(SegmentWriter& writer, std::string_view text)
+{
+    for (const std::string_view item : split(text, ','))
+        writer.WriteLong(toLong(item));
+}
+
+void writeRationalValue(SegmentWriter& writer, std::string_view text)
+{
+    for (const std::string_view item : split(text, ',')) {
+        const auto parts = split(item, '/');
+        if (parts.size() < 2)
+            throw systemError(kTypeMismatch);
+        writer.WriteLong(toLong(parts[0]));
+        writer.WriteLong(toLong(parts[1]));
+    }
+}
+
+struct ValueWriter {
+    int dataType;
+    void (*write)(SegmentWriter&, std::string_view);
+};
+
+// A type that is not here has no value to write.
+constexpr ValueWriter kValueWriters[] = {
+    {kByte, writeHexValue},
+    {kSignedByte, writeHexValue},
+    {kString, writeStringValue},
+    {kUndefined, writeStringValue},
+    {kShort, writeShortValue},
+    {kSignedShort, writeShortValue},
+    {kLong, writeLongValue},
+    {kSignedLong, writeLongValue},
+    {kRational, writeRationalValue},
+    {kSignedRational, writeRationalValue},
+    {kUnicodeString, writeUnicodeValue},
+};
+
+/// Writes the value of an entry. What cannot be written is reported with the value, and raised.
+void writeEntryValue(SegmentWriter& writer, const XmlNode& entry, int dataType)
+{
+    const std::string text = entry.text();
+    ErrorTrap trap;
+    trap.run([&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
+    if (trap.pending())
+        ErrorReport(writer.reporter(), "Data format " + std::to_string(dataType) + " error:" + text, trap.error());
+    trap.raise();
+}
+
+bool standsInside(const XmlNode& entry)
+{
+    return AttributeGet(entry, "s") == "1";
+}
+
+int dataTypeOf(const XmlNode& entry)
+{
+    return attributeToLong(AttributeGet(entry, "d"));
+}
+
+} // namespace
+
+void WriteExif(SegmentWriter& writer, XmlNode exif)
+{
+    constexpr std::int64_t kLengthAndIdentifier = 8;
+    const std::int64_t tiffSize = layOutExif(exif, writer.reporter());
+
+    ErrorTrap trap;
+    trap.run([&] { writer.WriteHex("FFE1"); });
+    trap.run([&] { writer.WriteInteger(tiffSize + kLengthAndIdentifier); });
+    AttributeSet(exif, "byteSeq", "II");
+    writer.IntelOrder = true;
+    trap.run([&] { writer.WriteHex("457869660000"); }); // "Exif" and two zero bytes
+    trap.run([&] { writer.WriteHex(writer.IntelOrder ? "49492A0008000000" : "4D4D002A00000008"); });
+
+    const auto writeDirectory = [&](const XmlNode& directory) {
+        if (directory)
+            trap.run([&] { WriteIFD(writer, directory); });
+    };
+    const auto writeBytes = [&](const XmlNode& element) {
+        if (element)
+            trap.run([&] { writer.WriteHex(element.text()); });
+    };
+    writeDirectory(exif);
+    writeDirectory(exif.selectSingleNode("IFDE"));
+    writeDirectory(exif.selectSingleNode("IFDI"));
+    writeBytes(exif.selectSingleNode("IFDE/MAKE"));
+    writeDirectory(exif.selectSingleNode("IFD1"));
+    writeBytes(exif.selectSingleNode("IFD1/THUM"));
+
+    if (trap.pending())
+        ErrorReport(writer.reporter(), "Exif write failed", trap.error());
+    writer.IntelOrder = false;
+    trap.raise();
+}
+
+void WriteIFD(SegmentWriter& writer, const XmlNode& directory)
+{
+    const std::vector<XmlNode> entries = directory.selectNodes("IFD");
+    writer.WriteInteger(static_cast<std::int64_t>(entries.size()));
+    for (const XmlNode& entry : entries) {
+        const int dataType = dataTypeOf(entry);
+        writer.WriteInteger(Hex4ToLong(AttributeGet(entry, "id")));
+        writer.WriteInteger(dataType == kUnicodeString ? kByte : dataType); // in the file it is an array of bytes
+        writer.WriteLong(attributeToLong(AttributeGet(entry, "l")));
+        if (standsInside(entry))
+            writeEntryValue(writer, entry, dataType);
+        else
+            writer.WriteLong(attributeToLong(AttributeGet(entry, "o")));
+    }
+    writer.WriteLong(attributeToLong(AttributeGet(directory, "lo")));
+    for (const XmlNode& entry : entries) {
+        if (!standsInside(entry))
+            writeEntryValue(writer, entry, dataTypeOf(entry));
+    }
+}
+
+void WriteValue(SegmentWriter& writer, std::string_view text, int dataType, std::string_view id)
+{
+    const int tag = Hex4ToLong(id);
+    if (dataType == kUndefined && tag == kMakerNote)
+        return writer.WriteLong(toLong(text));
+    if (dataType == kUndefined && isFourByteTag(tag))
+        return writer.WriteHex(text);
+    const auto* row = std::ranges::find(kValueWriters, dataType, &ValueWriter::dataType);
+    if (row != std::end(kValueWriters))
+        row->write(writer, text);
+}
+
+} // namespace ovisto

@@ -1,0 +1,171 @@
+#include "writer/JpegDocument.h"
+
+#include "common/CodePage.h"
+#include "common/NodePath.h"
+#include "common/NumberText.h"
+#include "common/PathText.h"
+#include "writer/ExifSegment.h"
+#include "writer/SegmentWriter.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+namespace ovisto {
+
+namespace {
+
+/// The text of a non-Exif APP1 element is in its CDATA section; the line break before it is layout. An element whose
+/// text was set has no such section.
+std::string app1Text(const XmlNode& element)
+{
+    std::string text;
+    bool hasCData = false;
+    for (const XmlNode& child : element.children()) {
+        if (!child.isCData())
+            continue;
+        hasCData = true;
+        text += child.text();
+    }
+    return hasCData ? text : element.text();
+}
+
+void writeApp0(SegmentWriter& writer, const XmlNode& element)
+{
+    writer.WriteHex("FFE0");
+    writer.WriteSegmentHex(element.text());
+}
+
+void writeOtherApp1(SegmentWriter& writer, const XmlNode& element)
+{
+    constexpr std::int64_t kLengthAndZeros = 4;
+    const std::string identifier = AttributeGet(element, "ns");
+    const std::string text = app1Text(element);
+    writer.WriteHex("FFE1");
+    writer.WriteInteger(static_cast<std::int64_t>(characterCount(identifier) + characterCount(text)) + kLengthAndZeros);
+    writer.writeTerminated(identifier + '\0' + text);
+}
+
+void writeMarker(SegmentWriter& writer, const XmlNode& element)
+{
+    writer.WriteHex(AttributeGet(element, "id"));
+    writer.WriteSegmentHex(element.text());
+}
+
+void writeScanHeader(SegmentWriter& writer, const XmlNode& element)
+{
+    writer.WriteHex("FFDA");
+    writer.WriteSegmentHex(element.text());
+}
+
+struct ElementWriter {
+    std::string_view name;
+    void (*write)(SegmentWriter&, const XmlNode&);
+};
+
+constexpr ElementWriter kElementWriters[] = {
+    {"APP0", writeApp0},
+    {"Exif", [](SegmentWriter& writer, const XmlNode& element) { WriteExif(writer, element); }},
+    {"Exif1", writeOtherApp1},
+    {"APP1", writeMarker},
+    {"SOS", writeScanHeader},
+};
+
+/// Copies the image data: from the byte `offset` on (the first is 1), `length` + 1 bytes, which is up to the
+/// end-of-image marker. What would lie past the end of the file is not made up. Both numbers are as the document says
+/// them, with 7 digits, so that in a file of 10,000,000 bytes or more they may be off by some bytes.
+void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& to)
+{
+    constexpr std::int64_t kChunk = std::int64_t{1} << 20;
+    const XmlNode image = document.selectSingleNode("/JPEG/IMG");
+    if (!image)
+        throw systemError(kObjectNotSet);
+    std::int64_t offset = std::int64_t{attributeToLong(AttributeGet(image, "offset"))} - 1;
+    std::int64_t left = std::int64_t{attributeToLong(AttributeGet(image, "length"))} + 1;
+    if (offset < 0)
+        throw systemError(kInvalidCall);
+    std::vector<std::uint8_t> chunk(static_cast<std::size_t>(std::min(left, kChunk)));
+    while (left > 0) {
+        const auto size = static_cast<std::size_t>(std::min(left, kChunk));
+        const std::size_t read = from.readAt(offset, {chunk.data(), size});
+        to.write({chunk.data(), read});
+        if (read < size)
+            break;
+        offset += static_cast<std::int64_t>(read);
+        left -= static_cast<std::int64_t>(read);
+    }
+    to.flush();
+}
+
+std::string temporaryNameOf(const std::string& fileName)
+{
+    const auto [folder, name] = splitPath(fileName);
+    return folder + "~" + name;
+}
+
+} // namespace
+
+/// Runs `step`. Its error is reported in `context`, and raised.
+template<class Step> void JpegDocument::reported(const std::string& context, Step step)
+{
+    ErrorTrap trap;
+    trap.run(step);
+    if (trap.pending())
+        ErrorReport(m_reporter, context, trap.error());
+    trap.raise();
+}
+
+void JpegDocument::WriteJpeg(const XmlDocument& document, const std::string& fileName)
+{
+    const NewVersion version = writeTemporary(document, fileName);
+    // Here both files are whole: the place for checks that may refuse to go on.
+    replaceOld(version);
+}
+
+JpegDocument::NewVersion JpegDocument::writeTemporary(const XmlDocument& document, const std::string& fileName)
+{
+    const std::string target = linkTarget(fileName);
+    const std::string temporaryName = temporaryNameOf(target);
+    std::optional<InputFile> oldFile;
+    std::optional<OutputFile> newFile;
+    reported(fileName, [&] { oldFile.emplace(target); });
+    reported(temporaryName, [&] { newFile.emplace(temporaryName); });
+    reported("Write to " + temporaryName, [&] { SegmentWriter(*newFile, m_reporter).WriteHex("FFD8"); });
+    reported(temporaryName + " write failed", [&] { writeSegments(document, *newFile); });
+    reported(temporaryName + " transfer of image from existing file failed",
+             [&] { copyImage(document, *oldFile, *newFile); });
+    reported(temporaryName + " write failed", [&] {
+        SegmentWriter(*newFile, m_reporter).WriteHex("FFD9");
+        newFile->takeAttributesFrom(*oldFile);
+        newFile->sync();
+    });
+    return {target, temporaryName, std::move(*oldFile), std::move(*newFile)};
+}
+
+void JpegDocument::writeSegments(const XmlDocument& document, OutputFile& file)
+{
+    SegmentWriter writer(file, m_reporter);
+    for (const XmlNode& element : document.selectNodes("/JPEG/*")) {
+        writer.IntelOrder = false;
+        const auto* row = std::ranges::find(kElementWriters, element.name(), &ElementWriter::name);
+        if (row == std::end(kElementWriters))
+            continue;
+        row->write(writer, element);
+        file.flush();
+    }
+}
+
+void JpegDocument::replaceOld(const NewVersion& version)
+{
+    const auto failure = replaceFile(version.temporaryName, version.fileName);
+    if (!failure)
+        return;
+    const std::string context = failure->step == ReplaceStep::Delete
+                                    ? "Delete old file " + version.fileName
+                                    : "Rename file " + version.temporaryName + " to " + version.fileName;
+    ErrorReport(m_reporter, context, failure->error);
+    throw failure->error;
+}
+
+} // namespace ovisto

@@ -1,0 +1,141 @@
+#include "writer/SegmentWriter.h"
+
+#include "common/CodePage.h"
+#include "common/Hex.h"
+#include "common/NumberText.h"
+
+#include <array>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace ovisto {
+
+namespace {
+
+/// The text with one byte for each character, none of which is a hexadecimal digit that was not one before.
+std::string oneByteACharacter(std::string_view text)
+{
+    std::string bytes;
+    for (const char32_t character : characters(text))
+        bytes.push_back(character < 128 ? static_cast<char>(character) : '?');
+    return bytes;
+}
+
+/// The bytes that a text of hexadecimal digits names.
+std::vector<std::uint8_t> bytesOf(std::string_view hex)
+{
+    if (characterCount(hex) != hex.size())
+        return bytesOf(oneByteACharacter(hex));
+    std::vector<std::uint8_t> bytes;
+    bytes.reserve(hex.size() / 2 + 1);
+    for (std::size_t i = 0; i < hex.size(); i += 2)
+        bytes.push_back(HexToByte(hex.substr(i, 2)));
+    return bytes;
+}
+
+std::vector<std::uint8_t> codePageBytes(std::string_view text)
+{
+    std::vector<std::uint8_t> bytes;
+    for (const char32_t character : characters(text))
+        bytes.push_back(codePageByte(character));
+    return bytes;
+}
+
+} // namespace
+
+/// Runs `step`. Its error is reported in `context`, and raised for the caller.
+template<class Step> void SegmentWriter::reported(const std::string& context, Step step)
+{
+    ErrorTrap trap;
+    trap.run(step);
+    if (trap.pending())
+        ErrorReport(m_reporter, context, trap.error());
+    trap.raise();
+}
+
+void SegmentWriter::WriteHex(std::string_view hex)
+{
+    reported("Temp file write failed", [&] { writeBytes(bytesOf(hex)); });
+}
+
+void SegmentWriter::WriteSegmentHex(std::string_view hex)
+{
+    constexpr std::int64_t kLengthBytes = 2;
+    WriteInteger(halfToEven(static_cast<std::int64_t>(characterCount(hex))) + kLengthBytes);
+    WriteHex(hex);
+}
+
+void SegmentWriter::WriteInteger(std::int64_t number)
+{
+    reported("Temp file write integer " + std::to_string(number), [&] {
+        writeNumber(number, 2);
+        if (number < 0 || number > std::numeric_limits<std::uint16_t>::max())
+            throw systemError(kOverflow);
+    });
+}
+
+// Numbers were signed when files of this format were first written: the upper half of the range fails to this day.
+void SegmentWriter::WriteLong(std::int64_t number)
+{
+    reported("Temp file write long " + std::to_string(number), [&] {
+        writeNumber(number, 4);
+        if (number < 0 || number > std::numeric_limits<std::int32_t>::max())
+            throw systemError(kOverflow);
+    });
+}
+
+void SegmentWriter::WriteNarrowString(std::string_view text)
+{
+    constexpr std::size_t kFieldSize = 4;
+    const std::size_t length = characterCount(text);
+    reported("Temp file write string", [&] {
+        writeBytes(codePageBytes(text));
+        writeZeros(length < kFieldSize - 1 ? kFieldSize - length : 1);
+    });
+}
+
+void SegmentWriter::WriteWideString(std::string_view text)
+{
+    constexpr char16_t kFirstNegative = 0x8000; // as a signed unit, which is how it is split into its bytes
+    const std::u16string units = utf16(text);
+    reported("Temp file write string", [&] {
+        for (const char16_t unit : units) {
+            if (unit >= kFirstNegative)
+                throw systemError(kOverflow);
+            writeNumber(unit, 2);
+        }
+        writeZeros(units.empty() ? 4 : 2);
+    });
+}
+
+void SegmentWriter::writeTerminated(std::string_view text)
+{
+    reported("Temp file write string", [&] {
+        writeBytes(codePageBytes(text));
+        writeZeros(1);
+    });
+}
+
+void SegmentWriter::writeBytes(std::span<const std::uint8_t> bytes)
+{
+    m_file.write(bytes);
+}
+
+/// The lowest `size` bytes of `number`, in the byte order of the moment.
+void SegmentWriter::writeNumber(std::int64_t number, std::size_t size)
+{
+    std::array<std::uint8_t, 4> bytes{};
+    for (std::size_t i = 0; i < size; ++i) {
+        const std::size_t place = IntelOrder ? i : size - 1 - i;
+        bytes[place] = static_cast<std::uint8_t>(static_cast<std::uint64_t>(number) >> (8 * i));
+    }
+    writeBytes({bytes.data(), size});
+}
+
+void SegmentWriter::writeZeros(std::size_t count)
+{
+    writeBytes(std::vector<std::uint8_t>(count));
+}
+
+} // namespace ovisto
