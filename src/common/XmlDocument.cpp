@@ -14,8 +14,8 @@
 namespace ovisto {
 
 struct XmlDocument::Content {
-    DetachedNodes detached;
     XmlPtr<xmlDoc> doc;
+    DetachedNodes detached; // after the document, as their names live in its dictionary
     bool declaration = false;
 
     explicit Content(xmlDoc* loaded) : doc(loaded) { doc->_private = &detached; }
