@@ -1,0 +1,119 @@
+#include "collection/MetadataDocument.h"
+#include "collection/NodeChange.h"
+#include "collection/PropertyTree.h"
+#include "collection/XmlExport.h"
+#include "support/JpegBytes.h"
+#include "support/RecordingReporter.h"
+
+#include <gtest/gtest.h>
+
+namespace ovisto::test {
+
+namespace {
+
+const TagDictionary& dictionary()
+{
+    static const TagDictionary dictionary(OVISTO_DATA_FOLDER "Merovel.xml");
+    return dictionary;
+}
+
+NodeChange changeOf(NodeAction action, const std::string& path, const std::string& value = {})
+{
+    return {action, dictionary().entry(path), value};
+}
+
+const std::string kExif = "/JPEG/Exif[@id='FFE1']";
+
+} // namespace
+
+TEST(NodeChange, SetsDeletesAndAddsInAFile)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", JpegBytes().app0().end());
+    RecordingReporter reporter;
+    changeFile(path, changeOf(NodeAction::Set, kExif + "/IFD[@id='9C9B']", "Größe"), reporter);
+    EXPECT_EQ(loadDocument(path).selectSingleNode("//IFD[@id='9C9B']").text(), "Größe");
+    changeFile(path, changeOf(NodeAction::Delete, kExif + "/IFD[@id='9C9B']"), reporter);
+    EXPECT_FALSE(loadDocument(path).selectSingleNode("//IFD[@id='9C9B']"));
+    changeFile(path, changeOf(NodeAction::Add, kExif + "/IFD1/THUM"), reporter);
+    EXPECT_EQ(loadDocument(path).selectNodes("//IFD1/IFD").size(), 3U);
+    EXPECT_EQ(imageData(contentOf(path)), imageData(JpegBytes().app0().end()));
+    EXPECT_TRUE(reporter.contexts.empty());
+}
+
+TEST(NodeChange, DoesNotWriteAFileThatHasItAlready)
+{
+    const TemporaryFolder folder;
+    const Bytes before = fullPhotograph(false); // big-endian: any rewrite would show
+    const std::string path = folder.file("a.jpg", before);
+    RecordingReporter reporter;
+    changeFile(path, changeOf(NodeAction::Set, kExif + "/IFD[@id='010F']", "Acme"), reporter);
+    changeFile(path, changeOf(NodeAction::Delete, kExif + "/IFD[@id='0131']"), reporter);
+    changeFile(path, changeOf(NodeAction::Add, kExif + "/IFDE"), reporter);
+    EXPECT_EQ(contentOf(path), before);
+}
+
+TEST(NodeChange, RemovesTheCompanionOfADeletedContainer)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", fullPhotograph(true));
+    const struct {
+        std::string deleted;
+        const char* removedToo;
+    } cases[] = {{"/IFDE", "//IFD[@id='8769']"},
+                 {"/IFDI", "//IFD[@id='A005']"},
+                 {"/IFDE/MAKE", "//IFD[@id='927C']"},
+                 {"/IFD1/THUM", "//IFD1"},
+                 {"/IFD1", "//THUM"}};
+    for (const auto& c : cases) {
+        XmlDocument document = loadDocument(path);
+        RecordingReporter reporter;
+        ASSERT_TRUE(document.selectSingleNode(c.removedToo)) << c.deleted;
+        EXPECT_TRUE(applyChange(document, changeOf(NodeAction::Delete, kExif + c.deleted), reporter));
+        EXPECT_FALSE(document.selectSingleNode(kExif + c.deleted));
+        EXPECT_FALSE(document.selectSingleNode(c.removedToo)) << c.deleted;
+    }
+}
+
+TEST(NodeChange, ObjectsToValuesWithoutATypeAndToSpoilingTheImage)
+{
+    EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE")),
+              "I don't know what type of data this node requires - can't set its value.");
+    EXPECT_EQ(objection(changeOf(NodeAction::Delete, kExif + "/IFDE")), "");
+    EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE/IFD[@id='A001']")), "") << "required, but metadata";
+    for (const char* path : {"/JPEG", "/JPEG/SOS", "/JPEG/IMG", "/JPEG/APP1[@id='FFDB']"})
+        EXPECT_NE(objection(changeOf(NodeAction::Delete, path)), "") << path;
+    EXPECT_EQ(objection(changeOf(NodeAction::Delete, "/JPEG/APP1[@id='FFFE']")), "");
+}
+
+TEST(XmlExport, WritesTheDocumentWithoutBookkeeping)
+{
+    const TemporaryFolder folder;
+    const XmlDocument document =
+        documentOf("<JPEG lo='1' label='L'><IFD leafIndex='x000001' o='1' l='2' s='0' d='2'>\u00E9</IFD></JPEG>");
+    exportDocument(document, folder.path("photo.jpg"));
+    EXPECT_EQ(contentOf(folder.path("photo.jpg.XML")), bytes("<JPEG label=\"L\"><IFD d=\"2\">\u00E9</IFD></JPEG>\n"));
+}
+
+TEST(PropertyTree, HidesTechnicalNodesWithAllBelowThem)
+{
+    const XmlDocument document = documentOf(
+        "<JPEG><APP0/><Exif id='FFE1'><IFD id='0112'/><IFD id='ABCD'/><IFDI><IFD id='1000'/></IFDI></Exif><SOS/></JPEG>");
+    const auto labels = [&](bool technical) {
+        std::string text;
+        for (const PropertyItem& item : propertyTree(document, dictionary(), technical))
+            text += std::to_string(item.depth) + item.label + " ";
+        return text;
+    };
+    EXPECT_EQ(labels(false), "0JPEG File 1Exif Data 2Orientation 2ABCD ");
+    EXPECT_EQ(propertyTree(document, dictionary(), true).size(), 8U);
+}
+
+TEST(MetadataDocument, RefusesOtherRootsAndBrokenText)
+{
+    EXPECT_EQ(errorNumberOf([] { documentOf("<HTML/>"); }), kOpenFailed);
+    EXPECT_EQ(errorNumberOf([] { documentOf(""); }), kOpenFailed);
+    EXPECT_EQ(errorNumberOf([] { documentOf("<JPEG><![CDATA[ a]]> b]]></JPEG>"); }), kOpenFailed);
+}
+
+} // namespace ovisto::test

@@ -1,0 +1,117 @@
+#include "common/CodePage.h"
+#include "common/Hex.h"
+#include "common/NumberText.h"
+#include "common/PathText.h"
+#include "support/RecordingReporter.h"
+
+#include <gtest/gtest.h>
+
+namespace ovisto::test {
+
+TEST(Hex, ReadsDigitsOfEitherCaseAndTakesOthersForZero)
+{
+    EXPECT_EQ(HexToByte("g1"), 1);
+    EXPECT_EQ(HexToByte("fF"), 255);
+    EXPECT_EQ(HexToByte("F"), 255) << "a single digit stands for both";
+    EXPECT_EQ(Hex4ToLong("9C9B"), 40091);
+    EXPECT_EQ(Hex4ToLong("a005"), 40965);
+    EXPECT_EQ(Hex4ToLong(""), 0);
+}
+
+TEST(Hex, WritesTwoUpperCaseDigitsPerByteAndNumbersOfAWidth)
+{
+    EXPECT_EQ(hexRun(std::vector<std::uint8_t>{0x0A, 0xFF, 0xE1}), "0AFFE1");
+    EXPECT_EQ(hexRun({}), "");
+    EXPECT_EQ(hexNumber(0), "0");
+    EXPECT_EQ(hexNumber(0xFFDB), "FFDB");
+    EXPECT_EQ(hexNumber(0x10F, 4), "010F");
+}
+
+TEST(CodePage, TakesEveryByteToACharacterAndBack)
+{
+    for (int byte = 0; byte < 256; ++byte) {
+        EXPECT_EQ(codePageByte(codePageCharacter(static_cast<std::uint8_t>(byte))), byte);
+        EXPECT_EQ(codePageByte(static_cast<char32_t>(byte)), byte) << "a reference names the byte itself";
+    }
+    EXPECT_EQ(codePageCharacter(0x80), U'€');
+    EXPECT_EQ(codePageByte(U'“'), 0x93);
+    EXPECT_EQ(codePageByte(U'Ж'), '?');
+}
+
+TEST(CodePage, CountsCharactersAndUnits)
+{
+    EXPECT_EQ(characterCount("aé€😀"), 4U);
+    EXPECT_EQ(utf16("aé€😀").size(), 5U);
+    EXPECT_EQ(characters("a\xFF" "b"), U"a?b") << "a file name may hold any bytes";
+}
+
+TEST(NumberText, WritesSevenDigitsAndThenAnExponent)
+{
+    const struct {
+        std::int64_t number;
+        const char* text;
+    } cases[] = {{0, "0"},
+                 {-3, "-3"},
+                 {9'999'999, "9999999"},
+                 {10'000'000, "1E+07"},
+                 {12'345'678, "1.234568E+07"},
+                 {16'777'217, "1.677722E+07"},
+                 {4'294'967'295, "4.294967E+09"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(numberText(c.number), c.text);
+}
+
+TEST(NumberText, ReadsWholeNumbersHalvesToTheEvenOne)
+{
+    const struct {
+        const char* text;
+        std::int32_t number;
+    } cases[] = {{"1.234568E+07", 12'345'680}, {"2.5", 2},   {"3.5", 4}, {" 7 ", 7}, {"+8", 8}, {"-1", -1},
+                 {"2147483647", 2147483647},   {"1e2", 100}, {"007", 7}};
+    for (const auto& c : cases)
+        EXPECT_EQ(toLong(c.text), c.number) << c.text;
+    EXPECT_EQ(attributeToLong(""), 0);
+    EXPECT_EQ(attributeToLong("12"), 12);
+}
+
+TEST(NumberText, RefusesWhatIsNoNumberAndWhatDoesNotFit)
+{
+    for (const char* text : {"", " ", "abc", "1,2", "0x10", "inf", "nan", "1 2", "+-1", "--1", "1e"})
+        EXPECT_EQ(errorNumberOf([&] { toLong(text); }), kTypeMismatch) << text;
+    for (const char* text : {"2147483648", "-2147483649", "4.294967E+09", "1e400"})
+        EXPECT_EQ(errorNumberOf([&] { toLong(text); }), kOverflow) << text;
+    EXPECT_EQ(errorNumberOf([&] { attributeToLong("-5"); }), kTypeMismatch);
+}
+
+TEST(NumberText, HalvesOddNumbersOfDigitsToTheEvenCount)
+{
+    const std::int64_t halves[] = {0, 0, 1, 2, 2, 2, 3, 4, 4, 4, 5, 6};
+    for (std::int64_t digits = 0; digits < 12; ++digits)
+        EXPECT_EQ(halfToEven(digits), halves[digits]) << digits;
+}
+
+TEST(PathText, CutsAfterTheLastSeparatorOfEitherKind)
+{
+    EXPECT_EQ(splitPath("C:\\Photos\\a.jpg").folder, "C:\\Photos\\");
+    EXPECT_EQ(splitPath("/x\\y/a.jpg").name, "a.jpg");
+    EXPECT_EQ(splitPath("/x/y\\a.jpg").name, "a.jpg");
+    EXPECT_EQ(splitPath("a.jpg").folder, "");
+}
+
+TEST(ErrorReport, IsTheContextThenNumberAndDescriptionOnANewLine)
+{
+    EXPECT_EQ(errorReportText("Create file x", systemError(kDiskFull)), "Create file x\r\n61 : Disk full");
+}
+
+TEST(ErrorTrap, KeepsTheLatestErrorUntilItIsTaken)
+{
+    ErrorTrap trap;
+    trap.run([] { throw systemError(kOverflow); });
+    trap.run([] {});
+    EXPECT_TRUE(trap.pending()) << "a step that succeeds clears nothing";
+    trap.run([] { throw std::bad_alloc(); });
+    EXPECT_EQ(trap.take().number, kOutOfMemory);
+    EXPECT_FALSE(trap.pending());
+}
+
+} // namespace ovisto::test

@@ -1,0 +1,172 @@
+#include "common/NodePath.h"
+#include "common/TagDictionary.h"
+#include "common/XmlLoad.h"
+#include "support/JpegBytes.h"
+#include "support/RecordingReporter.h"
+
+#include <gtest/gtest.h>
+
+namespace ovisto::test {
+
+namespace {
+
+XmlDocument parsed(const std::string& text)
+{
+    XmlDocument document;
+    EXPECT_FALSE(document.loadText(text)) << text;
+    return document;
+}
+
+/// What XMLLoad() says when it refuses a file of this content.
+std::string loadError(const std::string& path)
+{
+    XmlDocument document;
+    ErrorTrap trap;
+    trap.run([&] { XMLLoad(document, path); });
+    EXPECT_FALSE(document.documentElement());
+    if (!trap.pending())
+        return {};
+    EXPECT_EQ(trap.error().number, kOpenFailed);
+    return trap.take().description;
+}
+
+} // namespace
+
+TEST(XmlNode, AnswersNothingWhenItIsNoNode)
+{
+    const XmlDocument document;
+    XmlNode none = document.selectSingleNode("/JPEG");
+    EXPECT_FALSE(none);
+    none.setText("x");
+    none.setAttribute("d", "1");
+    none.remove();
+    none.appendChild(none.createElement("IFD"));
+    EXPECT_EQ(none.text() + none.attribute("d") + none.name() + NodeXPath(none), "");
+    EXPECT_TRUE(none.children().empty());
+}
+
+TEST(XmlNode, StaysUsableAfterItWasRemoved)
+{
+    const XmlDocument document = parsed("<a><b c='1'>text<d/></b></a>");
+    XmlNode inner = document.selectSingleNode("//d");
+    XmlNode removed = document.selectSingleNode("/a/b");
+    removed.remove();
+    removed.remove();
+    EXPECT_EQ(removed.text(), "text");
+    EXPECT_EQ(inner.name(), "d");
+    EXPECT_EQ(document.xml(), "<a/>\n");
+}
+
+TEST(XmlNode, ChangesTextWithoutReadingItAsMarkup)
+{
+    const XmlDocument document = parsed("<a>old<b/></a>");
+    document.documentElement().setText("1 < 2 & \"3\"\r\n");
+    EXPECT_EQ(document.documentElement().text(), "1 < 2 & \"3\"\r\n");
+    EXPECT_EQ(document.xml(), "<a>1 &lt; 2 &amp; \"3\"&#13;\n</a>\n");
+}
+
+TEST(XmlNode, RaisesAnErrorForWhatIsNoPath)
+{
+    const XmlDocument document = parsed("<a/>");
+    EXPECT_EQ(errorNumberOf([&] { document.selectSingleNode("a[@id='x]"); }), kInvalidCall);
+    EXPECT_EQ(errorNumberOf([&] { document.selectSingleNode("count(a)"); }), kInvalidCall);
+}
+
+TEST(XmlDocument, PreservesWhiteSpaceAndCData)
+{
+    const XmlDocument document = parsed("<a>\r\n<![CDATA[<x>&amp;]]></a>");
+    const auto children = document.documentElement().children();
+    ASSERT_EQ(children.size(), 2U);
+    EXPECT_EQ(children[0].name(), "#text");
+    EXPECT_TRUE(children[1].isCData());
+    EXPECT_EQ(children[1].text(), "<x>&amp;");
+}
+
+TEST(XmlDocument, SaysWhereAndWhyATextDoesNotParse)
+{
+    XmlDocument document = parsed("<a/>");
+    const auto error = document.loadText("<a>\n<b>\n  <c></b></a>");
+    ASSERT_TRUE(error);
+    EXPECT_NE(error->code, 0);
+    EXPECT_EQ(error->line, 3);
+    EXPECT_GT(error->linepos, 0);
+    EXPECT_EQ(error->srcText, "  <c></b></a>");
+    EXPECT_EQ(parseErrorText(*error).find(error->reason + " line:3 pos:" + std::to_string(error->linepos) + " src:  <c>"),
+              0U);
+    EXPECT_FALSE(document.documentElement()) << "the former content is gone";
+}
+
+TEST(XmlDocument, RefusesMoreNodesThanTheirTextIsWorth)
+{
+    std::string flood = "<a>";
+    for (int i = 0; i < 200'000; ++i)
+        flood += "<b c='1'/>";
+    XmlDocument document;
+    const auto error = document.loadText(flood + "</a>");
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->reason, "Out of memory");
+    EXPECT_FALSE(document.loadText("<a>" + std::string(40'000'000, '0') + "</a>")) << "a long text is no such flood";
+}
+
+TEST(NodePath, NamesEachLevelWithItsId)
+{
+    const XmlDocument document = parsed("<JPEG><Exif id='FFE1'><IFD1><IFD id='0201'>12</IFD></IFD1></Exif></JPEG>");
+    const XmlNode entry = document.selectSingleNode("//IFD");
+    EXPECT_EQ(NodeXPath(entry), "/JPEG/Exif[@id='FFE1']/IFD1/IFD[@id='0201']");
+    EXPECT_EQ(NodeXPath(entry.children().front()), NodeXPath(entry)) << "a text has its element's path";
+    EXPECT_EQ(NodeXPath(document.documentElement()), "/JPEG");
+    EXPECT_EQ(document.selectSingleNode(NodeXPath(entry)), entry);
+}
+
+TEST(NodePath, DeletesAnAttributeThatIsSetToNothing)
+{
+    const XmlDocument document = parsed("<a b='1'/>");
+    const XmlNode node = document.documentElement();
+    AttributeSet(node, "c", "");
+    EXPECT_FALSE(node.hasAttribute("c"));
+    AttributeSet(node, "c", "2");
+    AttributeSet(node, "b", "");
+    EXPECT_EQ(document.xml(), "<a c=\"2\"/>\n");
+}
+
+TEST(XmlLoad, NamesFileLineReasonAndSourceTextOfAnError)
+{
+    const TemporaryFolder folder;
+    const std::string missing = folder.path("missing.xml");
+    EXPECT_EQ(loadError(missing), "File " + missing + "\r\nLine 0 pos 0 \r\nFile not found\r\n");
+
+    const std::string unclosed = folder.file("unclosed.xml", "<a>\n<b/>\n<c>");
+    const std::string message = loadError(unclosed);
+    EXPECT_EQ(message.find("File " + unclosed + "\r\nLine 3 pos 4 \r\n"), 0U) << message;
+    EXPECT_TRUE(message.ends_with("\r\n<c>")) << message;
+}
+
+TEST(XmlLoad, ValidatesOnlyWhatDeclaresADocumentType)
+{
+    const TemporaryFolder folder;
+    const std::string type = "<!DOCTYPE a [<!ELEMENT a (b)><!ELEMENT b EMPTY>]>\n";
+    EXPECT_EQ(loadError(folder.file("invalid.xml", type + "<a><c/></a>")).find("File "), 0U);
+    for (const std::string& content : {type + "<a> <b/> </a>", std::string("<a><c/></a>")}) {
+        XmlDocument document;
+        EXPECT_EQ(errorNumberOf([&] { XMLLoad(document, folder.file("valid.xml", content)); }), 0) << content;
+        EXPECT_EQ(document.documentElement().children().size(), 1U) << "white space between elements is no node";
+    }
+}
+
+TEST(XmlLoad, ReadsUtf16AndBringsInNothingFromOutside)
+{
+    const TemporaryFolder folder;
+    Bytes utf16 = {0xFF, 0xFE};
+    for (const char16_t unit : std::u16string(u"<a>\u20AC</a>"))
+        utf16 = utf16 + Bytes{static_cast<std::uint8_t>(unit), static_cast<std::uint8_t>(unit >> 8)};
+    XmlDocument document;
+    XMLLoad(document, folder.file("utf16.xml", utf16));
+    EXPECT_EQ(document.documentElement().text(), "€");
+
+    const std::string secret = folder.file("secret.txt", "secret");
+    XMLLoad(document, folder.file("entity.xml", "<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY s SYSTEM \"" + secret +
+                                                    "\">]><a>&s;</a>"));
+    EXPECT_EQ(document.documentElement().text().find("secret"), std::string::npos);
+}
+
+} // namespace ovisto::test

@@ -1,0 +1,127 @@
+#include "common/CodePage.h"
+#include "reader/ByteReader.h"
+#include "reader/XmlText.h"
+#include "support/JpegBytes.h"
+#include "support/RecordingReporter.h"
+
+#include <gtest/gtest.h>
+
+namespace ovisto::test {
+
+namespace {
+
+/// A reader over a file of the given content.
+class ByteReaderTest : public testing::Test {
+protected:
+    ByteReader& over(const Bytes& content)
+    {
+        m_file.emplace(m_folder.file("a", content));
+        return m_reader.emplace(*m_file);
+    }
+
+private:
+    TemporaryFolder m_folder;
+    std::optional<InputFile> m_file;
+    std::optional<ByteReader> m_reader;
+};
+
+} // namespace
+
+TEST_F(ByteReaderTest, ReadsNumbersInEitherByteOrderAndZerosPastTheEnd)
+{
+    ByteReader& reader = over({0xFF, 0xD8, 0x00, 0x01});
+    EXPECT_EQ(reader.ReadByte({2}), 0xD8);
+    EXPECT_EQ(reader.ReadInteger({1}), 65496);
+    EXPECT_EQ(reader.ReadLong({1}), 0xFFD80001);
+    EXPECT_EQ(reader.ReadInteger({4}), 0x0100) << "the second byte lies past the end";
+    reader.littleEndian = true;
+    EXPECT_EQ(reader.ReadInteger({1}), 55551);
+    EXPECT_EQ(reader.ReadLong({1}), 0x0100D8FF);
+    EXPECT_EQ(reader.ReadLong({1'000'000'000'000}), 0U);
+}
+
+TEST_F(ByteReaderTest, EndsTextsAtAZeroByteAndDropsControls)
+{
+    ByteReader& reader = over({'A', 'B', 7, 'C', '\t', 0x80, 0xE9, 0x81, 31, 0, 'D'});
+    EXPECT_EQ(reader.ReadString({1}, 11), "ABC\t€é\u0081");
+    EXPECT_EQ(reader.ReadString({1}, 3), "AB");
+    EXPECT_EQ(reader.ReadString({1}, 0), "");
+    EXPECT_EQ(reader.ReadString({1}, -4), "");
+    EXPECT_EQ(reader.ReadString({11}, 4'000'000'000), "D") << "a text ends where the file ends";
+    EXPECT_EQ(reader.ReadStringNull({1}), "AB\aC\t€é\u0081\x1F");
+}
+
+TEST_F(ByteReaderTest, SkipsZeroUnitsOfWideTexts)
+{
+    ByteReader& reader = over({0, 'a', 0, 0, 0x20, 0xAC, 0, 'b', 0xD8, 0x3D});
+    EXPECT_EQ(reader.ReadUnicode({1}, 6), "a€");
+    EXPECT_EQ(reader.ReadUnicode({1}, 9), "a€b") << "half a unit does not count";
+    EXPECT_EQ(reader.ReadUnicode({9}, 2), "\uFFFD");
+    EXPECT_EQ(reader.ReadUnicode({1}, -2), "");
+    reader.littleEndian = true;
+    EXPECT_EQ(reader.ReadUnicode({2}, 2), "a");
+}
+
+TEST_F(ByteReaderTest, FillsRunsWithZerosUpToALengthThatAFileCanHave)
+{
+    ByteReader& reader = over({0x0A, 0xFF});
+    EXPECT_EQ(reader.ReadHexString({1}, 2), "0AFF");
+    EXPECT_EQ(reader.ReadHexString({2}, 4), "FF000000");
+    EXPECT_EQ(reader.ReadHexString({1}, -1), "");
+    EXPECT_EQ(reader.ReadHexString({1}, 65536).size(), 131072U);
+    EXPECT_EQ(errorNumberOf([&] { reader.ReadHexString({1}, 65537); }), kInvalidCall);
+    EXPECT_EQ(errorNumberOf([&] { reader.ReadUnicode({1}, 65538); }), kInvalidCall);
+}
+
+TEST_F(ByteReaderTest, ReadsAcrossThePiecesThatItKeepsInMemory)
+{
+    Bytes content(200'000);
+    for (std::size_t i = 0; i < content.size(); ++i)
+        content[i] = static_cast<std::uint8_t>(i % 251 + 1);
+    ByteReader& reader = over(content);
+    const std::string run = reader.ReadHexString({1}, 200'000);
+    for (const std::int64_t place : {std::int64_t{0}, std::int64_t{16382}, std::int64_t{65534}, std::int64_t{131071},
+                                     std::int64_t{16383}, std::int64_t{199'996}}) {
+        EXPECT_EQ(reader.ReadHexString({place + 1}, 4), run.substr(static_cast<std::size_t>(2 * place), 8));
+        const auto byte = [&](std::int64_t i) { return content[static_cast<std::size_t>(place + i)]; };
+        EXPECT_EQ(reader.ReadLong({place + 1}),
+                  (std::uint32_t{byte(0)} << 24) + (std::uint32_t{byte(1)} << 16) + (byte(2) << 8) + byte(3));
+    }
+    EXPECT_EQ(characterCount(reader.ReadStringNull({1})), 200'000U);
+}
+
+TEST_F(ByteReaderTest, StopsWhenTheSameBytesAreReadWithoutEnd)
+{
+    ByteReader& reader = over(Bytes(100, 'x'));
+    int reads = 0;
+    while (errorNumberOf([&] { reader.ReadHexString({1}, 65536); }) == 0 && reads < 1000)
+        ++reads;
+    EXPECT_EQ(reads, textLimit(100) / 131072);
+    ASSERT_TRUE(reader.failure());
+    EXPECT_EQ(reader.failure()->number, kOutOfMemory);
+}
+
+TEST(XmlText, EscapesMarkupAndEverythingOutsideAscii)
+{
+    const struct {
+        const char* text;
+        const char* escaped;
+    } cases[] = {{"a<b & 'c'", "a&lt;b &amp; &apos;c&apos;"},
+                 {"\">", "&quot;&gt;"},
+                 {"a\nb\t", "a&#10;b&#9;"},
+                 {"é", "&#233;"},
+                 {"€\x7F", "€\x7F"},
+                 {"\u201A", "&#130;"},
+                 {"\u0081", "&#129;"},
+                 {"Ж😀", "??"},
+                 {"\xFFz", "?z"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(XMLSanitize(c.text), c.escaped);
+    EXPECT_EQ(xmlAtt("id", "010F"), " id=\"010F\"");
+    EXPECT_EQ(xmlAtt("offset", 12'345'678), " offset=\"1.234568E+07\"");
+    EXPECT_FALSE(StringHasControlChars(""));
+    EXPECT_FALSE(StringHasControlChars("é"));
+    EXPECT_TRUE(StringHasControlChars("a\tb"));
+}
+
+} // namespace ovisto::test

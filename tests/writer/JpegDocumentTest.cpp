@@ -1,0 +1,270 @@
+#include "collection/MetadataDocument.h"
+#include "common/TagDictionary.h"
+#include "support/JpegBytes.h"
+#include "support/RecordingReporter.h"
+#include "writer/ExifLayout.h"
+#include "writer/JpegDocument.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include <unistd.h>
+
+namespace ovisto::test {
+
+namespace {
+
+/// A document with this Exif content over the file that writing() makes.
+std::string exifDocument(const std::string& content)
+{
+    return "<JPEG d=\"1\"><Exif id=\"FFE1\" byteSeq=\"MM\" d=\"7\">" + content +
+           "</Exif><SOS d=\"1\">0102</SOS><IMG offset=\"5\" length=\"2\" d=\"1\"></IMG></JPEG>";
+}
+
+std::string ifd(const std::string& id, int d, const std::string& text)
+{
+    return "<IFD id=\"" + id + "\" d=\"" + std::to_string(d) + "\">" + text + "</IFD>";
+}
+
+const Bytes kOldFile = {0xFF, 0xD8, 'o', 'l', 1, 2, 3, 0xFF, 0xD9};
+
+struct Written {
+    int error = 0;
+    std::vector<std::string> contexts;
+    Bytes file;
+    std::vector<std::string> names;
+};
+
+/// Writes the document over the old file.
+Written writing(const std::string& text)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", kOldFile);
+    RecordingReporter reporter;
+    const XmlDocument document = documentOf(text);
+    Written written;
+    written.error = errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); });
+    for (std::string context : reporter.contexts) {
+        for (auto at = context.find(folder.path("")); at != std::string::npos; at = context.find(folder.path("")))
+            context.erase(at, folder.path("").size());
+        written.contexts.push_back(context);
+    }
+    written.file = contentOf(path);
+    written.names = folder.names();
+    return written;
+}
+
+/// The TIFF structure that is written for this Exif content.
+Bytes tiff(const std::string& content)
+{
+    const Written written = writing(exifDocument(content));
+    EXPECT_EQ(written.error, 0);
+    const std::size_t size = 256 * written.file[4] + written.file[5] - 8U;
+    return {written.file.begin() + 12, written.file.begin() + 12 + static_cast<std::ptrdiff_t>(size)};
+}
+
+const Bytes kTiffHeader = {'I', 'I', 42, 0, 8, 0, 0, 0};
+
+} // namespace
+
+TEST(WriteJpeg, WritesSegmentsInOrderAndCopiesTheImage)
+{
+    const Written written =
+        writing("<JPEG>\r\n<APP0>4A46</APP0>\r\n<APP1 id='FFDB'>00ABC</APP1><Exif1 id='FFE1' ns='n'>\r\n<![CDATA[t]]>"
+                "</Exif1><SOS>0102</SOS><IMG offset='5' length='2'/></JPEG>");
+    EXPECT_EQ(written.error, 0);
+    EXPECT_EQ(written.file, (Bytes{0xFF, 0xD8, 0xFF, 0xE0, 0, 4, 0x4A, 0x46, 0xFF, 0xDB, 0, 4, 0x00, 0xAB, 0xCC,
+                                   0xFF, 0xE1, 0, 6, 'n', 0, 't', 0, 0xFF, 0xDA, 0, 4, 1, 2, 1, 2, 3, 0xFF, 0xD9}));
+    EXPECT_EQ(written.names, std::vector<std::string>{"a.jpg"});
+}
+
+TEST(WriteJpeg, WritesOtherApp1SegmentsWithTheLengthThatTheySay)
+{
+    for (const std::string& ns : {std::string(), std::string(28, 'n')}) {
+        for (const std::string& text : {std::string(), std::string("\x80"), std::string(1000, 't')}) {
+            const bool euro = text == "\x80";
+            const Written written = writing("<JPEG><Exif1 ns='" + ns + "'>" + (euro ? "<![CDATA[€]]>" : text) +
+                                            "</Exif1><IMG offset='5' length='0'/></JPEG>");
+            const std::size_t length = 256 * written.file[4] + written.file[5];
+            EXPECT_EQ(length, ns.size() + text.size() + 4);
+            EXPECT_EQ(written.file.size(), 2 + 2 + length + 1 + 2) << "nothing more, or the next marker is lost";
+        }
+    }
+}
+
+TEST(WriteExif, WritesEachDataTypeInsideTheEntryOrOutside)
+{
+    const struct {
+        std::string entry;
+        Bytes directory; // of one entry, without its count; offset 26 is the first byte behind it
+    } cases[] = {
+        {ifd("0112", 3, "1"), {0x12, 1, 3, 0, 1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0}},
+        {ifd("0112", 8, "1,2"), {0x12, 1, 8, 0, 2, 0, 0, 0, 26, 0, 0, 0, 0, 0, 0, 0, 1, 0, 2, 0}},
+        {ifd("0100", 4, "1E+07"), {0, 1, 4, 0, 1, 0, 0, 0, 0x80, 0x96, 0x98, 0, 0, 0, 0, 0}},
+        {ifd("011A", 5, "72/1"), {0x1A, 1, 5, 0, 1, 0, 0, 0, 26, 0, 0, 0, 0, 0, 0, 0, 72, 0, 0, 0, 1, 0, 0, 0}},
+        {ifd("010F", 2, "AB"), {0x0F, 1, 2, 0, 4, 0, 0, 0, 'A', 'B', 0, 0, 0, 0, 0, 0}},
+        {ifd("010F", 2, ""), {0x0F, 1, 2, 0, 4, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
+        {ifd("010F", 2, "AB&#147;D"), {0x0F, 1, 2, 0, 5, 0, 0, 0, 26, 0, 0, 0, 0, 0, 0, 0, 'A', 'B', 0x93, 'D', 0}},
+        {ifd("9000", 7, "0220"), {0, 0x90, 7, 0, 5, 0, 0, 0, 26, 0, 0, 0, 0, 0, 0, 0, '0', '2', '2', '0', 0}},
+        {ifd("9101", 7, "01020300"), {1, 0x91, 7, 0, 4, 0, 0, 0, 1, 2, 3, 0, 0, 0, 0, 0}},
+        {ifd("9C9B", 11, "Hi"), {0x9B, 0x9C, 1, 0, 6, 0, 0, 0, 26, 0, 0, 0, 0, 0, 0, 0, 'H', 0, 'i', 0, 0, 0}},
+        {ifd("9C9B", 11, ""), {0x9B, 0x9C, 1, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
+        {ifd("0001", 1, "ABCDEF012"), {1, 0, 1, 0, 4, 0, 0, 0, 0xAB, 0xCD, 0xEF, 0x01, 0x22, 0, 0, 0, 0}},
+        {ifd("0001", 6, "0102030405"), {1, 0, 6, 0, 5, 0, 0, 0, 26, 0, 0, 0, 0, 0, 0, 0, 1, 2, 3, 4, 5}},
+        {ifd("0001", 12, ""), {1, 0, 12, 0, 0, 0, 0, 0, 26, 0, 0, 0, 0, 0, 0, 0}},
+    };
+    for (const auto& c : cases) {
+        const Bytes written = tiff(c.entry);
+        const Bytes expected = kTiffHeader + Bytes{1, 0} + c.directory;
+        // What is written inside without filling its field is not in the count: the structure then runs over its size.
+        EXPECT_EQ(written, Bytes(expected.begin(), expected.begin() + static_cast<std::ptrdiff_t>(written.size())))
+            << c.entry;
+        EXPECT_GE(written.size() + 1, expected.size()) << c.entry;
+    }
+}
+
+TEST(WriteExif, GivesAnUnknownTypeThePlaceOfTheEntryBeforeIt)
+{
+    const XmlDocument document = documentOf(exifDocument(ifd("0112", 3, "1") + ifd("0001", 12, "") + ifd("011A", 5, "1/1") +
+                                                         ifd("0002", 129, "ab")));
+    RecordingReporter reporter;
+    layOutExif(document.selectSingleNode("//Exif"), reporter);
+    std::string places;
+    for (const XmlNode& entry : document.selectNodes("//IFD"))
+        places += entry.attribute("s") + ":" + entry.attribute("l") + " ";
+    EXPECT_EQ(places, "1:1 1:0 0:1 0:2 ");
+}
+
+TEST(WriteExif, PlacesDirectoriesMakerNoteAndThumbnailBehindEachOther)
+{
+    const std::string content = ifd("8769", 4, "9999") + "<IFDE>" + ifd("927C", 7, "1") + ifd("A005", 4, "1") +
+                                "<MAKE>AABBCC</MAKE></IFDE><IFDI>" + ifd("0001", 2, "R98") + "</IFDI><IFD1>" +
+                                ifd("0201", 4, "1") + ifd("0202", 4, "1") + "<THUM>FFD8</THUM></IFD1>";
+    const XmlDocument document = documentOf(exifDocument(content));
+    RecordingReporter reporter;
+    const auto text = [&](const char* path) { return document.selectSingleNode(path).text(); };
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(layOutExif(document.selectSingleNode("//Exif"), reporter), 109) << "twice is the same as once";
+        EXPECT_EQ(text("//IFD[@id='8769']"), "26");
+        EXPECT_EQ(text("//IFD[@id='A005']"), "56");
+        EXPECT_EQ(text("//IFD[@id='927C']"), "74");
+        EXPECT_EQ(document.selectSingleNode("//IFD[@id='927C']").attribute("l"), "3");
+        EXPECT_EQ(document.selectSingleNode("//Exif").attribute("lo"), "77");
+        EXPECT_EQ(text("//IFD[@id='0201']"), "107");
+        EXPECT_EQ(text("//IFD[@id='0202']"), "2");
+    }
+    const Bytes written = tiff(content);
+    ASSERT_EQ(written.size(), 109U);
+    EXPECT_EQ(Bytes(written.begin() + 74, written.begin() + 77), (Bytes{0xAA, 0xBB, 0xCC}));
+    EXPECT_EQ(Bytes(written.begin() + 107, written.end()), (Bytes{0xFF, 0xD8}));
+    EXPECT_EQ(written[22], 77) << "the first directory links to the second";
+}
+
+TEST(WriteExif, PointsNowhereToWhatIsNotThereAndKeepsWhatNothingPointsTo)
+{
+    RecordingReporter reporter;
+    const auto laidOut = [&](const std::string& content) {
+        XmlDocument document = documentOf(exifDocument(content));
+        layOutExif(document.selectSingleNode("//Exif"), reporter);
+        return document;
+    };
+    EXPECT_EQ(laidOut(ifd("8769", 4, "77")).selectSingleNode("//IFD").text(), "0");
+    EXPECT_EQ(laidOut("<IFDE>" + ifd("A005", 4, "7") + "</IFDE>").selectSingleNode("//IFD").text(), "0");
+    EXPECT_EQ(laidOut("<IFDE>" + ifd("927C", 7, "7") + "</IFDE>").selectSingleNode("//IFD").text(), "0");
+    EXPECT_EQ(laidOut("").selectSingleNode("//Exif").attribute("lo"), "0");
+    const XmlDocument strips =
+        laidOut("<IFD1>" + ifd("0111", 4, "7") + ifd("0117", 4, "7") + "<THUM>010203</THUM></IFD1>");
+    EXPECT_EQ(strips.selectSingleNode("//IFD[@id='0111']").text(), "3") << "the length, where the offset belongs";
+    EXPECT_EQ(strips.selectSingleNode("//IFD[@id='0117']").text(), "7");
+    EXPECT_EQ(tiff("<IFDE><MAKE>AABB</MAKE></IFDE><IFD1><THUM>CC</THUM></IFD1>"),
+              (kTiffHeader + Bytes{0, 0, 22, 0, 0, 0} + Bytes(6) + Bytes{0xAA, 0xBB} + Bytes(6) + Bytes{0xCC}));
+    EXPECT_TRUE(reporter.contexts.empty());
+}
+
+TEST(WriteJpeg, LeavesTheOldFileAloneWhenAValueCannotBeWritten)
+{
+    const std::vector<std::string> exifFailed = {"Exif write failed", "~a.jpg write failed"};
+    const auto with = [&](std::vector<std::string> first) {
+        first.insert(first.end(), exifFailed.begin(), exifFailed.end());
+        return first;
+    };
+    const struct {
+        std::string document;
+        int error;
+        std::vector<std::string> contexts;
+    } cases[] = {
+        {exifDocument(ifd("0112", 3, "")), kTypeMismatch, with({"Data format 3 error:"})},
+        {exifDocument(ifd("0112", 3, "70000")), kOverflow, with({"Temp file write integer 70000", "Data format 3 error:70000"})},
+        {exifDocument(ifd("0112", 9, "-1")), kOverflow, with({"Temp file write long -1", "Data format 9 error:-1"})},
+        {exifDocument(ifd("0112", 4, "4.294967E+09")), kOverflow, with({"Data format 4 error:4.294967E+09"})},
+        {exifDocument(ifd("011A", 5, "72/1,72")), kTypeMismatch, with({"Data format 5 error:72/1,72"})},
+        {exifDocument(ifd("9C9B", 11, "\u8349")), kOverflow, with({"Temp file write string", "Data format 11 error:\u8349"})},
+        {exifDocument(ifd("0001", 1, std::string(140'000, '0'))), kOverflow, with({"Temp file write integer 70034"})},
+        {exifDocument("<IFD id='0112' d='x'>1</IFD>"), kTypeMismatch,
+         {"Exif section - calculate data length", "~a.jpg write failed"}},
+        {"<JPEG><APP0>" + std::string(131'070, '0') + "</APP0></JPEG>", kOverflow,
+         {"Temp file write integer 65537", "~a.jpg write failed"}},
+        {"<JPEG><SOS>00</SOS></JPEG>", kObjectNotSet, {"~a.jpg transfer of image from existing file failed"}},
+        {"<JPEG><IMG offset='5' length='-3'/></JPEG>", kTypeMismatch,
+         {"~a.jpg transfer of image from existing file failed"}},
+    };
+    for (const auto& c : cases) {
+        const Written written = writing(c.document);
+        EXPECT_EQ(written.error, c.error) << c.contexts.front();
+        EXPECT_EQ(written.contexts, c.contexts);
+        EXPECT_EQ(written.file, kOldFile) << c.contexts.front();
+    }
+}
+
+TEST(WriteJpeg, SaysWhichStepOfReplacingFailed)
+{
+    const XmlDocument document = documentOf("<JPEG><IMG offset='5' length='2'/></JPEG>");
+    const TemporaryFolder folder;
+    const std::string path = folder.path("a.jpg");
+    const auto contexts = [&] {
+        RecordingReporter reporter;
+        EXPECT_NE(errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); }), 0);
+        return reporter.contexts;
+    };
+    EXPECT_EQ(contexts(), std::vector<std::string>{path}) << "no such file";
+
+    folder.file("a.jpg", kOldFile);
+    std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+    EXPECT_EQ(contexts(), std::vector<std::string>{"Delete old file " + path});
+    EXPECT_EQ(contentOf(path), kOldFile);
+    EXPECT_EQ(contentOf(folder.path("~a.jpg")), (Bytes{0xFF, 0xD8, 1, 2, 3, 0xFF, 0xD9})) << "the new one is kept";
+
+    std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+    std::filesystem::remove(folder.path("~a.jpg"));
+    std::filesystem::create_directory(folder.path("~a.jpg"));
+    EXPECT_EQ(contexts(), std::vector<std::string>{folder.path("~a.jpg")}) << "the name is taken by a folder";
+}
+
+TEST(WriteJpeg, OverwritesAStaleTemporaryFileAndFollowsALink)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", fullPhotograph(false));
+    folder.file("~a.jpg", "stale");
+    std::filesystem::create_symlink("a.jpg", folder.path("link.jpg"));
+    RecordingReporter reporter;
+    JpegDocument(reporter).WriteJpeg(loadDocument(path), folder.path("link.jpg"));
+    EXPECT_EQ(folder.names(), (std::vector<std::string>{"a.jpg", "link.jpg"}));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.path("link.jpg")));
+    EXPECT_EQ(imageData(contentOf(path)), imageData(fullPhotograph(false)));
+}
+
+TEST(WriteJpeg, ReadsBackWhatItWrote)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", fullPhotograph(true));
+    const std::string before = JpegXml().XMLtranslate(path).text;
+    RecordingReporter reporter;
+    JpegDocument(reporter).WriteJpeg(loadDocument(path), path);
+    const Bytes once = contentOf(path);
+    EXPECT_EQ(JpegXml().XMLtranslate(path).text.substr(0, before.find("<IMG")), before.substr(0, before.find("<IMG")));
+    JpegDocument(reporter).WriteJpeg(loadDocument(path), path);
+    EXPECT_EQ(contentOf(path), once) << "the second time changes nothing";
+}
+
+} // namespace ovisto::test
