@@ -11,7 +11,8 @@ namespace {
 
 void addCommonOptions(CLI::App& command, CommandLine& line)
 {
-    command.add_option("--files-from", line.filesFrom, "Read more file names from FILE, one a line; - for standard input")
+    command
+        .add_option("--files-from", line.filesFrom, "Read more file names from FILE, one a line; - for standard input")
         ->option_text("FILE");
     command.add_flag("-0", line.zeroSeparated, "The names in --files-from end with NUL bytes");
     command.add_option("--dictionary", line.dictionary, "Use another tag dictionary")->option_text("FILE");

@@ -23,8 +23,7 @@ namespace {
 using FileWork = std::function<FileResult(const std::string& path)>;
 
 /// Runs `step` for a file; what it raises becomes the line about the file.
-template <class Step>
-FileResult resultOf(const std::string& path, Step step)
+template<class Step> FileResult resultOf(const std::string& path, Step step)
 {
     FileResult result;
     TerminalReporter reporter;
@@ -57,7 +56,7 @@ FileWork xmlWork(const CommandLine& line)
             Translation translation = JpegXml().XMLtranslate(path, line.keep);
             result.output = std::move(translation.text);
             if (translation.error)
-                throw *translation.error;
+                throw Error(*translation.error);
         });
     };
 }
@@ -121,7 +120,7 @@ FileWork changeWork(const CommandLine& line)
 
     ErrorTrap trap;
     trap.run([&] { change.entry = dictionary->entry(line.nodePath); });
-    const std::string reason = !change.entry.isElement() ? "The tag dictionary has no node " + line.nodePath
+    const std::string reason = !change.entry.isElement()   ? "The tag dictionary has no node " + line.nodePath
                                : objection(change).empty() ? std::string()
                                                            : line.nodePath + ": " + objection(change);
     return [change, reason, dictionary](const std::string& path) {

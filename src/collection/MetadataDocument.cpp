@@ -19,7 +19,7 @@ XmlDocument loadDocument(const std::string& path, const KeepOptions& keep)
 {
     const Translation translation = JpegXml().XMLtranslate(path, keep);
     if (translation.error)
-        throw *translation.error;
+        throw Error(*translation.error);
     return documentOf(translation.text);
 }
 

@@ -114,8 +114,8 @@ std::optional<XmlParseError> validate(xmlDoc* doc, std::string_view source)
 } // namespace
 
 XmlDocument::XmlDocument() = default;
-XmlDocument::XmlDocument(XmlDocument&&) noexcept = default;
-XmlDocument& XmlDocument::operator=(XmlDocument&&) noexcept = default;
+XmlDocument::XmlDocument(XmlDocument&& other) noexcept = default;
+XmlDocument& XmlDocument::operator=(XmlDocument&& other) noexcept = default;
 XmlDocument::~XmlDocument() = default;
 
 std::optional<XmlParseError> XmlDocument::loadText(std::string_view text)

@@ -30,8 +30,8 @@ enum class WhiteSpace { Preserve, Strip };
 class XmlDocument {
 public:
     XmlDocument();
-    XmlDocument(XmlDocument&&) noexcept;
-    XmlDocument& operator=(XmlDocument&&) noexcept;
+    XmlDocument(XmlDocument&& other) noexcept;
+    XmlDocument& operator=(XmlDocument&& other) noexcept;
     ~XmlDocument();
 
     /// Replaces the content by the document in `text` (UTF-8), white space and CDATA sections preserved. On failure the

@@ -152,6 +152,7 @@ std::vector<XmlNode> XmlNode::selectNodes(const std::string& xpath) const
     if (!found || found->type != XPATH_NODESET)
         throw Error{kInvalidCall, "Not a valid path: " + xpath};
     std::vector<XmlNode> nodes;
+    nodes.reserve(static_cast<std::size_t>(xmlXPathNodeSetGetLength(found->nodesetval)));
     for (int i = 0; i < xmlXPathNodeSetGetLength(found->nodesetval); ++i)
         nodes.emplace_back(xmlXPathNodeSetItem(found->nodesetval, i));
     return nodes;

@@ -105,7 +105,7 @@ void ByteReader::checkLength(std::int64_t length) const
 /// The page that begins at `start`. A few pages stay, as directories and their values often lie in different ones.
 const ByteReader::Page& ByteReader::page(std::int64_t start)
 {
-    const auto kept = std::ranges::find(m_pages, start, &Page::start);
+    const auto* const kept = std::ranges::find(m_pages, start, &Page::start);
     if (kept != m_pages.end())
         return *kept;
     Page& read = m_pages[m_nextPage];
@@ -160,7 +160,7 @@ void ByteReader::charge(std::int64_t bytes)
 void ByteReader::fail(Error error)
 {
     m_failure = std::move(error);
-    throw *m_failure;
+    throw Error(*m_failure);
 }
 
 } // namespace ovisto

@@ -71,7 +71,7 @@ void JpegXml::scanSegments(const std::string& FileName)
         else
             MarkerScan(marker, length, "APP1", position);
         if (reader().failure())
-            throw *reader().failure();
+            throw Error(*reader().failure());
         position = position + 2 + length;
         if (marker == kStartOfScan)
             break;

@@ -153,7 +153,10 @@ void layOutMakerNote(std::int64_t& pos, const XmlNode& exif, ErrorReporter& repo
     ErrorTrap trap;
     trap.run([&] { advance(pos, hexLength(makerNote)); });
     if (trap.pending())
-        ErrorReport(reporter, "Can't tie up the MakerNote to its entry in the header (!?" "?)", trap.error());
+        ErrorReport(reporter,
+                    "Can't tie up the MakerNote to its entry in the header (!?"
+                    "?)",
+                    trap.error());
     trap.raise();
 }
 

@@ -1,5 +1,5 @@
-#include "collection/MetadataDocument.h"
 #include "collection/NodeChange.h"
+#include "collection/MetadataDocument.h"
 #include "collection/PropertyTree.h"
 #include "collection/XmlExport.h"
 #include "support/JpegBytes.h"
@@ -97,8 +97,8 @@ TEST(XmlExport, WritesTheDocumentWithoutBookkeeping)
 
 TEST(PropertyTree, HidesTechnicalNodesWithAllBelowThem)
 {
-    const XmlDocument document = documentOf(
-        "<JPEG><APP0/><Exif id='FFE1'><IFD id='0112'/><IFD id='ABCD'/><IFDI><IFD id='1000'/></IFDI></Exif><SOS/></JPEG>");
+    const XmlDocument document = documentOf("<JPEG><APP0/><Exif id='FFE1'><IFD id='0112'/><IFD id='ABCD'/><IFDI><IFD "
+                                            "id='1000'/></IFDI></Exif><SOS/></JPEG>");
     const auto labels = [&](bool technical) {
         std::string text;
         for (const PropertyItem& item : propertyTree(document, dictionary(), technical))

@@ -69,8 +69,7 @@ TEST(ReplaceFile, KeepsALinkALinkAndTakesPermissions)
     writeTextFile(folder.path("link.xml"), "new");
     EXPECT_TRUE(fs::is_symlink(folder.path("link.xml")));
     EXPECT_EQ(contentOf(target), bytes("new"));
-    EXPECT_EQ(fs::status(target).permissions(),
-              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    EXPECT_EQ(fs::status(target).permissions(), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
     EXPECT_EQ(folder.names(), (std::vector<std::string>{"link.xml", "real.xml"}));
 }
 

@@ -42,7 +42,10 @@ TEST(CodePage, CountsCharactersAndUnits)
 {
     EXPECT_EQ(characterCount("aé€😀"), 4U);
     EXPECT_EQ(utf16("aé€😀").size(), 5U);
-    EXPECT_EQ(characters("a\xFF" "b"), U"a?b") << "a file name may hold any bytes";
+    EXPECT_EQ(characters("a\xFF"
+                         "b"),
+              U"a?b")
+        << "a file name may hold any bytes";
 }
 
 TEST(NumberText, WritesSevenDigitsAndThenAnExponent)

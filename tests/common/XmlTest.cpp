@@ -91,8 +91,9 @@ TEST(XmlDocument, SaysWhereAndWhyATextDoesNotParse)
     EXPECT_EQ(error->line, 3);
     EXPECT_GT(error->linepos, 0);
     EXPECT_EQ(error->srcText, "  <c></b></a>");
-    EXPECT_EQ(parseErrorText(*error).find(error->reason + " line:3 pos:" + std::to_string(error->linepos) + " src:  <c>"),
-              0U);
+    EXPECT_EQ(
+        parseErrorText(*error).find(error->reason + " line:3 pos:" + std::to_string(error->linepos) + " src:  <c>"),
+        0U);
     EXPECT_FALSE(document.documentElement()) << "the former content is gone";
 }
 
@@ -164,8 +165,8 @@ TEST(XmlLoad, ReadsUtf16AndBringsInNothingFromOutside)
     EXPECT_EQ(document.documentElement().text(), "€");
 
     const std::string secret = folder.file("secret.txt", "secret");
-    XMLLoad(document, folder.file("entity.xml", "<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY s SYSTEM \"" + secret +
-                                                    "\">]><a>&s;</a>"));
+    XMLLoad(document, folder.file("entity.xml",
+                                  "<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY s SYSTEM \"" + secret + "\">]><a>&s;</a>"));
     EXPECT_EQ(document.documentElement().text().find("secret"), std::string::npos);
 }
 

@@ -1,5 +1,5 @@
-#include "common/CodePage.h"
 #include "reader/ByteReader.h"
+#include "common/CodePage.h"
 #include "reader/XmlText.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"

@@ -1,5 +1,5 @@
-#include "common/XmlDocument.h"
 #include "reader/JpegXml.h"
+#include "common/XmlDocument.h"
 #include "support/JpegBytes.h"
 
 #include <gtest/gtest.h>
@@ -55,37 +55,36 @@ TEST(JpegXml, TellsAPhotographInFullInEitherByteOrder)
 {
     for (const bool littleEndian : {true, false}) {
         const Bytes jpeg = fullPhotograph(littleEndian);
-        const std::string expected =
-            "<APP0 d=\"1\">4A46494600010100000100010000</APP0>\r\n"
-            "<Exif id=\"FFE1\" byteSeq=\"" +
-            std::string(littleEndian ? "II" : "MM") +
-            "\" d=\"7\">\r\n"
-            "<IFD id=\"010F\" d=\"2\">Acme</IFD>\r\n"
-            "<IFD id=\"0110\" d=\"2\">M1</IFD>\r\n"
-            "<IFD id=\"0112\" d=\"3\">1</IFD>\r\n"
-            "<IFD id=\"011A\" d=\"5\">180/1</IFD>\r\n"
-            "<IFD id=\"8769\" d=\"4\">131</IFD>\r\n"
-            "<IFD id=\"9C9B\" d=\"11\">H&#233;llo</IFD>\r\n"
-            "<IFD id=\"9C9C\" d=\"11\">A&lt;B</IFD>\r\n"
-            "<IFDE d=\"2\"><IFD id=\"829A\" d=\"5\">1/250</IFD>\r\n"
-            "<IFD id=\"9000\" d=\"7\">0220</IFD>\r\n"
-            "<IFD id=\"9003\" d=\"2\">2024:05:06 07:08:09</IFD>\r\n"
-            "<IFD id=\"9101\" d=\"7\">01020300</IFD>\r\n"
-            "<IFD id=\"9214\" d=\"3\">10,20,30</IFD>\r\n"
-            "<IFD id=\"927C\" d=\"7\">278</IFD>\r\n"
-            "<IFD id=\"A005\" d=\"4\">260</IFD>\r\n"
-            "<MAKE d=\"1\">DEADBEEF00</MAKE>\r\n"
-            "</IFDE><IFDI d=\"2\"><IFD id=\"0001\" d=\"2\">R98</IFD>\r\n"
-            "</IFDI><IFD1 d=\"2\"><IFD id=\"0103\" d=\"3\">6</IFD>\r\n"
-            "<IFD id=\"0201\" d=\"4\">325</IFD>\r\n"
-            "<IFD id=\"0202\" d=\"4\">5</IFD>\r\n"
-            "<THUM d=\"1\">FFD801FFD9</THUM></IFD1></Exif>\r\n"
-            "<Exif1 id=\"FFE1\" ns=\"http://ns.adobe.com/xap/1.0/\" d=\"2\">\r\n"
-            "<![CDATA[<x:xmpmeta/>]]></Exif1>\r\n"
-            "<APP1 id=\"FFDB\" d=\"1\">000102</APP1>\r\n"
-            "<SOS d=\"1\">010100003F00</SOS>\r\n"
-            "<IMG offset=\"" +
-            std::to_string(jpeg.size() - 6) + "\" length=\"4\" d=\"1\"></IMG></JPEG>";
+        const std::string expected = "<APP0 d=\"1\">4A46494600010100000100010000</APP0>\r\n"
+                                     "<Exif id=\"FFE1\" byteSeq=\"" +
+                                     std::string(littleEndian ? "II" : "MM") +
+                                     "\" d=\"7\">\r\n"
+                                     "<IFD id=\"010F\" d=\"2\">Acme</IFD>\r\n"
+                                     "<IFD id=\"0110\" d=\"2\">M1</IFD>\r\n"
+                                     "<IFD id=\"0112\" d=\"3\">1</IFD>\r\n"
+                                     "<IFD id=\"011A\" d=\"5\">180/1</IFD>\r\n"
+                                     "<IFD id=\"8769\" d=\"4\">131</IFD>\r\n"
+                                     "<IFD id=\"9C9B\" d=\"11\">H&#233;llo</IFD>\r\n"
+                                     "<IFD id=\"9C9C\" d=\"11\">A&lt;B</IFD>\r\n"
+                                     "<IFDE d=\"2\"><IFD id=\"829A\" d=\"5\">1/250</IFD>\r\n"
+                                     "<IFD id=\"9000\" d=\"7\">0220</IFD>\r\n"
+                                     "<IFD id=\"9003\" d=\"2\">2024:05:06 07:08:09</IFD>\r\n"
+                                     "<IFD id=\"9101\" d=\"7\">01020300</IFD>\r\n"
+                                     "<IFD id=\"9214\" d=\"3\">10,20,30</IFD>\r\n"
+                                     "<IFD id=\"927C\" d=\"7\">278</IFD>\r\n"
+                                     "<IFD id=\"A005\" d=\"4\">260</IFD>\r\n"
+                                     "<MAKE d=\"1\">DEADBEEF00</MAKE>\r\n"
+                                     "</IFDE><IFDI d=\"2\"><IFD id=\"0001\" d=\"2\">R98</IFD>\r\n"
+                                     "</IFDI><IFD1 d=\"2\"><IFD id=\"0103\" d=\"3\">6</IFD>\r\n"
+                                     "<IFD id=\"0201\" d=\"4\">325</IFD>\r\n"
+                                     "<IFD id=\"0202\" d=\"4\">5</IFD>\r\n"
+                                     "<THUM d=\"1\">FFD801FFD9</THUM></IFD1></Exif>\r\n"
+                                     "<Exif1 id=\"FFE1\" ns=\"http://ns.adobe.com/xap/1.0/\" d=\"2\">\r\n"
+                                     "<![CDATA[<x:xmpmeta/>]]></Exif1>\r\n"
+                                     "<APP1 id=\"FFDB\" d=\"1\">000102</APP1>\r\n"
+                                     "<SOS d=\"1\">010100003F00</SOS>\r\n"
+                                     "<IMG offset=\"" +
+                                     std::to_string(jpeg.size() - 6) + "\" length=\"4\" d=\"1\"></IMG></JPEG>";
         EXPECT_EQ(body(jpeg), expected);
     }
 }
@@ -144,7 +143,8 @@ TEST(JpegXml, EndsADirectoryAtAZeroTagAndRefusesOver200Entries)
 {
     ExifBytes exif;
     exif.ifd0({exif.shorts(0x0112, {1}), exif.shorts(0, {2}), exif.shorts(0x0113, {3})});
-    EXPECT_EQ(between(body(JpegBytes().exif(exif).end()), "\"7\">\r\n", "</Exif>"), "<IFD id=\"0112\" d=\"3\">1</IFD>\r\n");
+    EXPECT_EQ(between(body(JpegBytes().exif(exif).end()), "\"7\">\r\n", "</Exif>"),
+              "<IFD id=\"0112\" d=\"3\">1</IFD>\r\n");
 
     for (const std::uint16_t count : {std::uint16_t{200}, std::uint16_t{201}}) {
         std::vector<Tag> tags;
@@ -169,7 +169,8 @@ TEST(JpegXml, LeavesOutWhatIsNotToBeKeptAndSaysSo)
     const struct {
         KeepOptions keep;
         const char* leftOut;
-    } cases[] = {{{.pCodifyMakerNote = false}, "927C"}, {{.pCodifyThumb = false}, "IFD1"}, {{.pCodifyExif1 = false}, "Exif1"}};
+    } cases[] = {
+        {{.pCodifyMakerNote = false}, "927C"}, {{.pCodifyThumb = false}, "IFD1"}, {{.pCodifyExif1 = false}, "Exif1"}};
     for (const auto& c : cases) {
         const Translation translation = translate(jpeg, c.keep);
         EXPECT_TRUE(translation.ChangesMade) << c.leftOut;
@@ -206,8 +207,9 @@ TEST(JpegXml, TellsSegmentsOfAnyMarkerUpToTheScan)
               0U);
     Bytes headerOnly = JpegBytes().end({});
     headerOnly.resize(headerOnly.size() - 2);
-    EXPECT_NE(body(headerOnly).find("<IMG offset=\"" + std::to_string(headerOnly.size() + 1) + "\" length=\"-3\" d=\"1\">"),
-              std::string::npos);
+    EXPECT_NE(
+        body(headerOnly).find("<IMG offset=\"" + std::to_string(headerOnly.size() + 1) + "\" length=\"-3\" d=\"1\">"),
+        std::string::npos);
 }
 
 TEST(JpegXml, ReportsTheFourErrorsWithTheTextSoFar)

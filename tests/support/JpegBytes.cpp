@@ -224,6 +224,8 @@ std::vector<std::string> TemporaryFolder::names() const
 
 Bytes contentOf(const std::string& path)
 {
+    if (!std::filesystem::is_regular_file(path))
+        return {};
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }

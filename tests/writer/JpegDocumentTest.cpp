@@ -1,9 +1,9 @@
+#include "writer/JpegDocument.h"
 #include "collection/MetadataDocument.h"
 #include "common/TagDictionary.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 #include "writer/ExifLayout.h"
-#include "writer/JpegDocument.h"
 
 #include <gtest/gtest.h>
 
@@ -74,8 +74,9 @@ TEST(WriteJpeg, WritesSegmentsInOrderAndCopiesTheImage)
         writing("<JPEG>\r\n<APP0>4A46</APP0>\r\n<APP1 id='FFDB'>00ABC</APP1><Exif1 id='FFE1' ns='n'>\r\n<![CDATA[t]]>"
                 "</Exif1><SOS>0102</SOS><IMG offset='5' length='2'/></JPEG>");
     EXPECT_EQ(written.error, 0);
-    EXPECT_EQ(written.file, (Bytes{0xFF, 0xD8, 0xFF, 0xE0, 0, 4, 0x4A, 0x46, 0xFF, 0xDB, 0, 4, 0x00, 0xAB, 0xCC,
-                                   0xFF, 0xE1, 0, 6, 'n', 0, 't', 0, 0xFF, 0xDA, 0, 4, 1, 2, 1, 2, 3, 0xFF, 0xD9}));
+    EXPECT_EQ(written.file,
+              (Bytes{0xFF, 0xD8, 0xFF, 0xE0, 0,   4, 0x4A, 0x46, 0xFF, 0xDB, 0, 4, 0x00, 0xAB, 0xCC, 0xFF, 0xE1,
+                     0,    6,    'n',  0,    't', 0, 0xFF, 0xDA, 0,    4,    1, 2, 1,    2,    3,    0xFF, 0xD9}));
     EXPECT_EQ(written.names, std::vector<std::string>{"a.jpg"});
 }
 
@@ -126,8 +127,8 @@ TEST(WriteExif, WritesEachDataTypeInsideTheEntryOrOutside)
 
 TEST(WriteExif, GivesAnUnknownTypeThePlaceOfTheEntryBeforeIt)
 {
-    const XmlDocument document = documentOf(exifDocument(ifd("0112", 3, "1") + ifd("0001", 12, "") + ifd("011A", 5, "1/1") +
-                                                         ifd("0002", 129, "ab")));
+    const XmlDocument document = documentOf(
+        exifDocument(ifd("0112", 3, "1") + ifd("0001", 12, "") + ifd("011A", 5, "1/1") + ifd("0002", 129, "ab")));
     RecordingReporter reporter;
     layOutExif(document.selectSingleNode("//Exif"), reporter);
     std::string places;
@@ -195,18 +196,23 @@ TEST(WriteJpeg, LeavesTheOldFileAloneWhenAValueCannotBeWritten)
         std::vector<std::string> contexts;
     } cases[] = {
         {exifDocument(ifd("0112", 3, "")), kTypeMismatch, with({"Data format 3 error:"})},
-        {exifDocument(ifd("0112", 3, "70000")), kOverflow, with({"Temp file write integer 70000", "Data format 3 error:70000"})},
+        {exifDocument(ifd("0112", 3, "70000")), kOverflow,
+         with({"Temp file write integer 70000", "Data format 3 error:70000"})},
         {exifDocument(ifd("0112", 9, "-1")), kOverflow, with({"Temp file write long -1", "Data format 9 error:-1"})},
         {exifDocument(ifd("0112", 4, "4.294967E+09")), kOverflow, with({"Data format 4 error:4.294967E+09"})},
         {exifDocument(ifd("011A", 5, "72/1,72")), kTypeMismatch, with({"Data format 5 error:72/1,72"})},
-        {exifDocument(ifd("9C9B", 11, "\u8349")), kOverflow, with({"Temp file write string", "Data format 11 error:\u8349"})},
+        {exifDocument(ifd("9C9B", 11, "\u8349")), kOverflow,
+         with({"Temp file write string", "Data format 11 error:\u8349"})},
         {exifDocument(ifd("0001", 1, std::string(140'000, '0'))), kOverflow, with({"Temp file write integer 70034"})},
-        {exifDocument("<IFD id='0112' d='x'>1</IFD>"), kTypeMismatch,
+        {exifDocument("<IFD id='0112' d='x'>1</IFD>"),
+         kTypeMismatch,
          {"Exif section - calculate data length", "~a.jpg write failed"}},
-        {"<JPEG><APP0>" + std::string(131'070, '0') + "</APP0></JPEG>", kOverflow,
+        {"<JPEG><APP0>" + std::string(131'070, '0') + "</APP0></JPEG>",
+         kOverflow,
          {"Temp file write integer 65537", "~a.jpg write failed"}},
         {"<JPEG><SOS>00</SOS></JPEG>", kObjectNotSet, {"~a.jpg transfer of image from existing file failed"}},
-        {"<JPEG><IMG offset='5' length='-3'/></JPEG>", kTypeMismatch,
+        {"<JPEG><IMG offset='5' length='-3'/></JPEG>",
+         kTypeMismatch,
          {"~a.jpg transfer of image from existing file failed"}},
     };
     for (const auto& c : cases) {

@@ -1,7 +1,7 @@
+#include "writer/NodeCreation.h"
 #include "collection/MetadataDocument.h"
 #include "common/TagDictionary.h"
 #include "support/RecordingReporter.h"
-#include "writer/NodeCreation.h"
 
 #include <gtest/gtest.h>
 
@@ -44,8 +44,9 @@ TEST(CreateNode, MakesTheElementsAboveAndTheEntriesThatPointToIt)
         {"/JPEG/Exif[@id='FFE1']/IFDE/MAKE",
          exif + pointer + "<IFDE><IFD id=\"927C\" d=\"7\">9999</IFD><MAKE d=\"1\"/></IFDE></Exif>"},
         {"/JPEG/Exif[@id='FFE1']/IFD1/THUM",
-         exif + "<IFD1><IFD id=\"0202\" d=\"4\">0</IFD><IFD id=\"0201\" d=\"4\">9999</IFD><IFD id=\"0103\" d=\"3\">6</IFD>"
-                "<THUM d=\"1\"/></IFD1></Exif>"},
+         exif +
+             "<IFD1><IFD id=\"0202\" d=\"4\">0</IFD><IFD id=\"0201\" d=\"4\">9999</IFD><IFD id=\"0103\" d=\"3\">6</IFD>"
+             "<THUM d=\"1\"/></IFD1></Exif>"},
         {"/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']", exif + "<IFD id=\"9C9B\" d=\"11\"/></Exif>"},
     };
     for (const auto& c : cases)

@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and shows the photographs of a file or folder (default: the project's own samples).
+set -euo pipefail
+cd "$(dirname "$0")"
+. tools/install.sh
+install_packages "${BUILD_PACKAGES[@]}"
+
+cmake --preset release -D OVISTO_TESTS=OFF -D OVISTO_BENCH=OFF -B build/run >/dev/null
+cmake --build build/run
+
+target=${1:-samples}
+if [ -d "$target" ]; then
+    find "$target" -type f \( -iname '*.jpg' -o -iname '*.jpeg' \) -print0 | sort -z |
+        build/run/bin/ovisto-cli show --files-from - -0
+else
+    build/run/bin/ovisto-cli show "$target"
+fi

@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs every test: the release build, and the same tests under address and
+# undefined-behaviour checks. The photographs of cameras are found through OVISTO_SAMPLES.
+set -euo pipefail
+cd "$(dirname "$0")"
+. tools/install.sh
+install_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
+
+run_preset() {
+    echo "== $1: configure and build"
+    cmake --preset "$1" >/dev/null
+    cmake --build --preset "$1"
+    echo "== $1: test"
+    ctest --preset "$1" -j "$(nproc)"
+}
+
+run_preset asan+ubsan
+run_preset release

@@ -1,0 +1,219 @@
+#include "collection/MetadataDocument.h"
+#include "support/CommandRun.h"
+#include "support/JpegBytes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace ovisto::test {
+
+namespace {
+
+const std::string kTitle = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']";
+
+CommandRun ovisto(std::vector<std::string> arguments, const std::string& input = {})
+{
+    arguments.insert(arguments.begin(), OVISTO_CLI);
+    return runCommand(arguments, input);
+}
+
+/// Expects one line on standard error that names the file and the reason.
+void expectOneLine(const CommandRun& run, const std::string& file, const std::string& reason)
+{
+    EXPECT_EQ(run.status, 1) << run.errors;
+    EXPECT_EQ(std::ranges::count(run.errors, '\n'), 1) << run.errors;
+    EXPECT_NE(run.errors.find(file), std::string::npos) << run.errors;
+    EXPECT_NE(run.errors.find(reason), std::string::npos) << run.errors;
+}
+
+std::string titleOf(const std::string& path)
+{
+    return loadDocument(path).selectSingleNode(kTitle).text();
+}
+
+} // namespace
+
+TEST(CommandLine, TellsTheDocumentExactlyAndTheErrorBesideIt)
+{
+    const TemporaryFolder folder;
+    const std::string good = folder.file("a.jpg", fullPhotograph(true));
+    const std::string cut = folder.file("b.jpg", JpegBytes().app0().unfinished());
+    const std::string text = JpegXml().XMLtranslate(good).text;
+    const CommandRun run = ovisto({"xml", good, cut, good});
+    EXPECT_EQ(run.output, text + JpegXml().XMLtranslate(cut).text + text);
+    expectOneLine(run, cut, "No StartOfStream marker found " + cut);
+    const CommandRun less = ovisto({"xml", "--no-maker-notes", "--no-thumbnails", "--no-nonstandard-exif", good});
+    EXPECT_EQ(less.output, JpegXml().XMLtranslate(good, {false, false, false}).text);
+    EXPECT_EQ(less.status, 0);
+}
+
+TEST(CommandLine, ShowsLabelsValuesAndDataTypes)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", fullPhotograph(false));
+    const CommandRun run = ovisto({"show", path});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.output.find(path + "\nJPEG File\n  Exif Data\n    Camera Make: Acme (String)\n"), 0U) << run.output;
+    EXPECT_NE(run.output.find("\n    Title: Héllo (Unicode String)\n"), std::string::npos);
+    EXPECT_NE(run.output.find("\n      Exposure Time: 1/250 (Rational)\n"), std::string::npos);
+    EXPECT_EQ(run.output.find("Exif Version"), std::string::npos);
+    EXPECT_NE(ovisto({"show", "--technical", path}).output.find("Exif Version: 0220 (Undefined)\n"), std::string::npos);
+}
+
+TEST(CommandLine, ChangesFilesNamedInEveryWay)
+{
+    const TemporaryFolder folder;
+    const std::string first = folder.file("a.jpg", JpegBytes().app0().end());
+    const std::string second = folder.file("line\nbreak.jpg", JpegBytes().app0().end());
+    const std::string third = folder.file("~a.jpg.jpg", JpegBytes().app0().end());
+    EXPECT_EQ(ovisto({"set", kTitle, "One", first}).status, 0);
+    EXPECT_EQ(ovisto({"set", kTitle, "Two", "--files-from", "-", "-0"}, second + '\0' + third + '\0').status, 0);
+    EXPECT_EQ(titleOf(first) + titleOf(second) + titleOf(third), "OneTwoTwo");
+    EXPECT_EQ(ovisto({"set", kTitle, "Same", "--jobs", "4", first, folder.path("./a.jpg"), first}).status, 0);
+    EXPECT_EQ(titleOf(first), "Same");
+    EXPECT_EQ(ovisto({"delete", kTitle, "--files-from", folder.file("list", first + "\r\n\n" + third + "\n")}).status,
+              0);
+    EXPECT_EQ(titleOf(first) + titleOf(third), "");
+    EXPECT_EQ(ovisto({"add", "/JPEG/Exif[@id='FFE1']/IFD1/THUM", first}).status, 0);
+    EXPECT_TRUE(loadDocument(first).selectSingleNode("//IFD1/THUM") || loadDocument(first).selectSingleNode("//IFD1"));
+    EXPECT_EQ(folder.names().size(), 4U) << "no temporary file stays";
+}
+
+TEST(CommandLine, WritesAFileFromItsOwnOrAnEditedDocument)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", fullPhotograph(true));
+    std::string edited = ovisto({"xml", path}).output;
+    edited.replace(edited.find(">Acme<"), 6, ">Acme & Sons<");
+    const std::string documentPath = folder.path("edited.xml");
+    folder.file("edited.xml", edited);
+    expectOneLine(ovisto({"write", "--document", documentPath, path}), path, documentPath + ": ");
+    edited.replace(edited.find("&"), 1, "&amp;");
+    folder.file("edited.xml", edited);
+    EXPECT_EQ(ovisto({"write", "--document", documentPath, path}).errors, "");
+    EXPECT_EQ(loadDocument(path).selectSingleNode("//IFD[@id='010F']").text(), "Acme & Sons");
+    const Bytes before = contentOf(path);
+    expectOneLine(ovisto({"write", "--document", documentPath, path}), path, "before it was changed");
+    folder.file("edited.xml", "<HTML/>");
+    expectOneLine(ovisto({"write", "--document", documentPath, path}), path, "HTML");
+    expectOneLine(ovisto({"write", "--document", folder.path("none.xml"), path}), path, "File not found");
+    EXPECT_EQ(contentOf(path), before);
+    EXPECT_EQ(ovisto({"write", path}).status, 0);
+    EXPECT_EQ(contentOf(path), before);
+}
+
+TEST(CommandLine, ExportsBesideTheImage)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", fullPhotograph(true));
+    EXPECT_EQ(ovisto({"export", path}).status, 0);
+    XmlDocument exported;
+    EXPECT_FALSE(exported.loadFile(path + ".XML", Validation::Off, WhiteSpace::Preserve));
+    EXPECT_EQ(exported.selectSingleNode("//IFD[@id='9C9B']").text(), "Héllo");
+    std::filesystem::create_directory(folder.path("b.jpg.XML"));
+    expectOneLine(ovisto({"export", folder.file("b.jpg", fullPhotograph(true))}), "b.jpg", "Save XML File ");
+}
+
+TEST(CommandLine, SaysInOneLineWhyAFileFailedAndDoesTheOthers)
+{
+    const TemporaryFolder folder;
+    const std::string good = folder.file("good.jpg", JpegBytes().app0().end());
+    const std::string readOnly = folder.file("locked.jpg", JpegBytes().app0().end());
+    std::filesystem::permissions(readOnly, std::filesystem::perms::owner_read);
+    const std::string broken =
+        folder.file("cdata.jpg", JpegBytes().segment(0xFFE1, bytes("x") + Bytes{0} + bytes("]]> &")).end());
+    const struct {
+        std::string path;
+        std::string reason;
+    } cases[] = {
+        {folder.path("none.jpg"), "File not found  file="},
+        {folder.path("none/a.jpg"), "Path not found  file="},
+        {folder.path("."), "Path/File access error  file="},
+        {folder.file("empty.jpg", Bytes{}), "Not a JPEG file - hFFD8 expected"},
+        {folder.file("text.jpg", "hello"), "Not a JPEG file - hFFD8 expected"},
+        {folder.file("short.jpg", Bytes{0xFF, 0xD8, 0xFF}), "Header seems corrupted - unknown Marker FF00"},
+        {readOnly, "Delete old file " + readOnly + ": Permission denied"},
+        {broken, " line:"},
+    };
+    for (const auto& c : cases) {
+        std::filesystem::remove(good);
+        folder.file("good.jpg", JpegBytes().app0().end());
+        const Bytes before = contentOf(c.path);
+        expectOneLine(ovisto({"set", kTitle, "New", c.path, good}), c.path, c.reason);
+        EXPECT_EQ(titleOf(good), "New") << c.path;
+        EXPECT_EQ(contentOf(c.path), before) << c.path;
+    }
+}
+
+TEST(CommandLine, RefusesNodesThatItCannotChange)
+{
+    const TemporaryFolder folder;
+    const Bytes before = fullPhotograph(true);
+    const std::string path = folder.file("a.jpg", before);
+    const struct {
+        std::vector<std::string> arguments;
+        std::string reason;
+    } cases[] = {
+        {{"set", "/JPEG/Exif[@id='FFE1']/IFD[@id='ABCD']", "1"}, "The tag dictionary has no node "},
+        {{"delete", "nonsense["}, "The tag dictionary has no node nonsense["},
+        {{"set", "/JPEG/Exif[@id='FFE1']/IFDE", "1"}, "I don't know what type of data this node requires"},
+        {{"delete", "/JPEG/SOS"}, "The image cannot be shown without this node"},
+        {{"set", "/JPEG/Exif[@id='FFE1']/IFD[@id='0112']", "up"}, "Data format 3 error:up: Type mismatch"},
+        {{"set", "/JPEG/Exif[@id='FFE1']/IFD[@id='0112']", ""}, "Data format 3 error:: Type mismatch"},
+    };
+    for (const auto& c : cases) {
+        std::vector<std::string> arguments = c.arguments;
+        arguments.push_back(path);
+        expectOneLine(ovisto(arguments), path, c.reason);
+        EXPECT_EQ(contentOf(path), before) << c.reason;
+    }
+    expectOneLine(ovisto({"set", kTitle, "x", "--dictionary", folder.path("none.xml"), path}), "none.xml",
+                  "File not found");
+}
+
+TEST(CommandLine, KeepsOutputInInputOrderWithManyJobs)
+{
+    const TemporaryFolder folder;
+    std::string names;
+    std::string expected;
+    for (int i = 0; i < 300; ++i) {
+        const std::string path =
+            folder.file(std::to_string(i) + ".jpg", i % 7 == 0 ? fullPhotograph(true) : JpegBytes().end());
+        names += path + "\n";
+        expected += JpegXml().XMLtranslate(path).text;
+    }
+    const CommandRun run = ovisto({"xml", "--jobs", "8", "--files-from", "-"}, names);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.output, expected);
+}
+
+TEST(CommandLine, TellsUsageFromFailure)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(ovisto({"--help"}).status, 0);
+    EXPECT_EQ(ovisto({"set", "--help"}).status, 0);
+    EXPECT_EQ(ovisto({"--version"}).output.find("ovisto-cli "), 0U);
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{},
+                                                      {"xml"},
+                                                      {"frobnicate"},
+                                                      {"set", kTitle},
+                                                      {"xml", "--jobs", "none", "a.jpg"},
+                                                      {"write", "--document", "a.xml", "a.jpg", "b.jpg"},
+                                                      {"xml", "--no-such-option", "a.jpg"}})
+        EXPECT_EQ(ovisto(arguments).status, 2);
+    expectOneLine(ovisto({"xml", "--files-from", folder.path("none")}), folder.path("none"), "");
+    EXPECT_EQ(ovisto({"xml", "--files-from", "-"}).status, 0) << "an empty list is done at once";
+}
+
+TEST(CommandLine, NoticesThatItsOutputIsLost)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", fullPhotograph(true));
+    const CommandRun run = runCommand({"sh", "-c", "'" OVISTO_CLI "' xml '" + path + "' >/dev/full"});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.errors, "");
+}
+
+} // namespace ovisto::test

@@ -1,0 +1,84 @@
+#include "common/TagDictionary.h"
+#include "common/DataType.h"
+#include "common/Hex.h"
+#include "common/NodePath.h"
+#include "common/NumberText.h"
+#include "support/CommandRun.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace ovisto::test {
+
+namespace {
+
+const TagDictionary& dictionary()
+{
+    static const TagDictionary dictionary(OVISTO_DATA_FOLDER "Merovel.xml");
+    return dictionary;
+}
+
+} // namespace
+
+TEST(TagDictionary, IsCompleteForEveryEntry)
+{
+    std::set<std::string> paths;
+    for (const XmlNode& entry : dictionary().document().selectNodes("//*")) {
+        const std::string path = NodeXPath(entry);
+        EXPECT_TRUE(paths.insert(path).second) << path << " stands twice";
+        EXPECT_NE(AttributeGet(entry, "label"), "") << path;
+        EXPECT_GT(AttributeGet(entry, "help").size(), 20U) << path;
+        EXPECT_EQ(AttributeGet(entry, "vis").find_first_not_of("012"), std::string::npos) << path;
+        EXPECT_EQ(AttributeGet(entry, "prot").find_first_not_of("012"), std::string::npos) << path;
+        const std::string name = entry.name();
+        const bool isContainer = name == "JPEG" || name == "Exif" || name == "IFDE" || name == "IFDI" || name == "IFD1";
+        EXPECT_EQ(isContainer, AttributeGet(entry, "d").empty()) << path;
+        if (!isContainer) {
+            EXPECT_NE(dataTypeName(attributeToLong(AttributeGet(entry, "d"))), "") << path;
+        }
+        const XmlNode above = entry.parent();
+        EXPECT_FALSE(above.isElement() && visibility(entry) == Visibility::Shown &&
+                     visibility(above) != Visibility::Shown)
+            << path << " would never be seen";
+    }
+    EXPECT_GT(paths.size(), 300U);
+}
+
+TEST(TagDictionary, HoldsWhatTheProgramLooksUp)
+{
+    const char* required[] = {"/JPEG/Exif/IFD[@id='8769']",
+                              "/JPEG/Exif/IFDE/IFD[@id='A005']",
+                              "/JPEG/Exif/IFDE/IFD[@id='927C']",
+                              "/JPEG/Exif/IFD1/IFD[@id='0201']",
+                              "/JPEG/Exif/IFD1/IFD[@id='0202']",
+                              "/JPEG/SOS",
+                              "/JPEG/IMG",
+                              "/JPEG"};
+    for (const char* path : required)
+        EXPECT_EQ(protection(dictionary().entry(path)), Protection::Required) << path;
+    const char* present[] = {"/JPEG/Exif[@id='FFE1']/IFDE/MAKE", "/JPEG/Exif[@id='FFE1']/IFDI",
+                             "/JPEG/Exif[@id='FFE1']/IFD1/THUM", "/JPEG/Exif/IFD1/IFD[@id='0103']",
+                             "/JPEG/Exif1[@id='FFE1']",          "/JPEG/APP0"};
+    for (const char* path : present)
+        EXPECT_TRUE(dictionary().entry(path)) << path;
+    for (const char* id : {"9C9B", "9C9C", "9C9D", "9C9E", "9C9F"})
+        EXPECT_EQ(dictionary().entry("/JPEG/Exif[@id='FFE1']/IFD[@id='" + std::string(id) + "']").attribute("d"), "11");
+    for (std::uint32_t marker = 0xFFC0; marker <= 0xFFFE; ++marker) {
+        const bool hasElement = marker == 0xFFDA || marker == 0xFFE0 || marker == 0xFFE1;
+        const XmlNode entry = dictionary().entry("/JPEG/APP1[@id='" + hexNumber(marker) + "']");
+        EXPECT_EQ(static_cast<bool>(entry), !hasElement) << hexNumber(marker);
+        EXPECT_EQ(protection(entry) == Protection::Required, !hasElement && marker < 0xFFE0) << hexNumber(marker);
+    }
+}
+
+TEST(TagDictionary, IsValidByItsDocumentType)
+{
+    if (!isInstalled("xmllint"))
+        GTEST_SKIP() << "xmllint (libxml2-utils) is not installed";
+    const CommandRun run = runCommand(
+        {"xmllint", "--noout", "--dtdvalid", OVISTO_DATA_FOLDER "Merovel.dtd", OVISTO_DATA_FOLDER "Merovel.xml"});
+    EXPECT_EQ(run.status, 0) << run.errors;
+}
+
+} // namespace ovisto::test

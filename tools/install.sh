@@ -1,0 +1,20 @@
+# Sourced by the scripts that build and test: what the project needs, as Debian 12 packages, and how to install it.
+
+BUILD_PACKAGES=(g++ cmake ninja-build libxml2-dev libcli11-dev libutfcpp-dev)
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev libxml2-utils libimage-exiftool-perl)
+LINT_PACKAGES=(clang-format clang-tidy)
+
+# Installs those of the packages that are missing, as root or with sudo, and says which.
+install_packages() {
+    local missing=()
+    local package
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    echo "Installing: ${missing[*]}"
+    local as_root=()
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
