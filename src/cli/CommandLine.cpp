@@ -86,12 +86,10 @@ std::optional<CommandLine> parseCommandLine(int argc, char** argv, int& exitStat
     // The parser reports by exceptions of its own, help and version included; they end here.
     try {
         app.parse(argc, argv);
-        const CLI::App* command = app.get_subcommands().front();
         if (line.files.empty() && line.filesFrom.empty())
             throw CLI::RequiredError("FILE");
         if (!line.document.empty() && (line.files.size() != 1 || !line.filesFrom.empty()))
             throw CLI::ValidationError("--document", "goes with exactly one FILE");
-        static_cast<void>(command);
     } catch (const CLI::ParseError& error) {
         exitStatus = app.exit(error) == kAllDone ? kAllDone : kWrongUsage;
         return std::nullopt;

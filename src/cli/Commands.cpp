@@ -8,8 +8,10 @@
 #include "collection/MetadataDocument.h"
 #include "collection/NodeChange.h"
 #include "collection/XmlExport.h"
+#include "common/CodePage.h"
 #include "common/NodePath.h"
 #include "common/ProgramFolder.h"
+#include "common/XmlLoad.h"
 #include "writer/JpegDocument.h"
 
 #include <cstdio>
@@ -23,7 +25,7 @@ namespace {
 using FileWork = std::function<FileResult(const std::string& path)>;
 
 /// Runs `step` for a file; what it raises becomes the line about the file.
-template<class Step> FileResult resultOf(const std::string& path, Step step)
+template <class Step> FileResult resultOf(const std::string& path, Step step)
 {
     FileResult result;
     TerminalReporter reporter;
@@ -64,38 +66,37 @@ FileWork xmlWork(const CommandLine& line)
 FileWork exportWork(const CommandLine& /*line*/)
 {
     return [](const std::string& path) {
-        return resultOf(path, [&](FileResult&, TerminalReporter& reporter) {
-            const XmlDocument document = loadDocument(path);
-            ErrorTrap trap;
-            trap.run([&] { exportDocument(document, path); });
-            if (trap.pending())
-                ErrorReport(reporter, "Save XML File " + exportPath(path), trap.error());
-            trap.raise();
-        });
+        return resultOf(
+            path, [&](FileResult&, TerminalReporter& reporter) { exportDocument(loadDocument(path), path, reporter); });
     };
 }
 
-/// An edited document must belong to the file as it is now, or the image data would be taken from the wrong place.
-void checkSameImage(const XmlDocument& edited, const std::string& path)
+/// What a document says of the image: where its data is, and which tables and headers it is decoded with.
+std::vector<std::string> imageParts(const XmlDocument& document)
 {
-    const XmlDocument own = loadDocument(path);
-    for (const char* attribute : {"offset", "length"}) {
-        if (AttributeGet(edited.selectSingleNode("/JPEG/IMG"), attribute) !=
-            AttributeGet(own.selectSingleNode("/JPEG/IMG"), attribute))
-            throw Error{kInvalidCall, "The document is of another file, or of this one before it was changed"};
+    std::vector<std::string> parts;
+    for (const XmlNode& node : document.selectNodes("/JPEG/*")) {
+        const std::string id = AttributeGet(node, "id");
+        const bool isTable = node.name() == "APP1" && id < "FFE0"; // frames, tables, restart interval
+        if (isTable || node.name() == "SOS")
+            parts.push_back(node.name() + id);
+        else if (node.name() == "IMG")
+            parts.push_back(AttributeGet(node, "offset") + " " + AttributeGet(node, "length"));
     }
+    return parts;
 }
 
+/// Loads an edited document, which must be of the file as it is now: the image data is taken from there.
 XmlDocument loadEdited(const std::string& documentPath, const std::string& path)
 {
-    ErrorTrap trap;
+    const std::vector<std::string> parts = imageParts(loadDocument(path));
     XmlDocument document;
-    trap.run([&] { document = documentOf(readTextFile(documentPath)); });
-    if (trap.pending()) {
-        const Error error = trap.take();
-        throw Error{error.number, documentPath + ": " + error.description};
-    }
-    checkSameImage(document, path);
+    if (const auto error = document.loadFile(documentPath, Validation::Off, WhiteSpace::Preserve))
+        throw Error{kOpenFailed, documentPath + ": " + parseErrorText(*error)};
+    if (document.documentElement().name() != "JPEG")
+        throw Error{kOpenFailed, documentPath + ": The root element is not JPEG"};
+    if (imageParts(document) != parts)
+        throw Error{kInvalidCall, documentPath + " describes another image, or this file before it was changed"};
     return document;
 }
 
@@ -103,16 +104,27 @@ FileWork writeWork(const CommandLine& line)
 {
     return [&line](const std::string& path) {
         return resultOf(path, [&](FileResult&, TerminalReporter& reporter) {
-            const XmlDocument document = line.document.empty() ? loadDocument(path) : loadEdited(line.document, path);
+            XmlDocument document = line.document.empty() ? loadDocument(path) : loadEdited(line.document, path);
             JpegDocument(reporter).WriteJpeg(document, path);
         });
     };
 }
 
+/// A text from the command line. One that is no UTF-8 comes from a terminal with a code page.
+std::string textOf(const std::string& argument)
+{
+    if (isUtf8(argument))
+        return argument;
+    std::string text;
+    appendCharacters(text, {reinterpret_cast<const std::uint8_t*>(argument.data()), argument.size()},
+                     ControlBytes::Keep);
+    return text;
+}
+
 FileWork changeWork(const CommandLine& line)
 {
     const auto dictionary = std::make_shared<TagDictionary>(loadDictionary(line));
-    NodeChange change{.action = NodeAction::Set, .entry = {}, .value = line.value};
+    NodeChange change{.action = NodeAction::Set, .entry = {}, .value = textOf(line.value)};
     if (line.command == Command::Delete)
         change.action = NodeAction::Delete;
     else if (line.command == Command::Add)
@@ -151,9 +163,21 @@ FileWork workFor(const CommandLine& line)
     return {};
 }
 
-bool changesFiles(Command command)
+bool rewritesFiles(Command command)
 {
-    return command != Command::Show && command != Command::Xml;
+    return command != Command::Show && command != Command::Xml && command != Command::Export;
+}
+
+/// `work`, but not for a file that would destroy another one of the list while it is written.
+FileWork sparingOthers(const FileWork& work, const std::vector<std::string>& files)
+{
+    return [work, overwriting = overwritingOthers(files)](const std::string& path) {
+        if (!overwriting.contains(path))
+            return work(path);
+        return resultOf(path, [](FileResult&, TerminalReporter&) {
+            throw Error{kPathAccessError, "Another file of the list has the name of its temporary file"};
+        });
+    };
 }
 
 } // namespace
@@ -165,9 +189,11 @@ int runCommand(const CommandLine& line)
     ErrorTrap trap;
     trap.run([&] {
         files = fileNames(line);
-        if (changesFiles(line.command))
-            files = withoutRepeats(std::move(files));
         work = workFor(line);
+        if (rewritesFiles(line.command)) {
+            files = withoutRepeats(std::move(files));
+            work = sparingOthers(work, files);
+        }
     });
     if (trap.pending()) {
         std::fputs(errorLine("", trap.take().description).c_str(), stderr);

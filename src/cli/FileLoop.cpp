@@ -1,5 +1,7 @@
 #include "cli/FileLoop.h"
 
+#include "common/Error.h"
+
 #include <algorithm>
 #include <condition_variable>
 #include <mutex>
@@ -74,8 +76,9 @@ void forEachFile(const std::vector<std::string>& paths, unsigned jobs,
             queue.put(*index, work(paths[*index]));
     };
     std::vector<std::jthread> helpers;
-    for (unsigned i = 1; i < jobs; ++i)
-        helpers.emplace_back(workOn);
+    ErrorTrap trap; // a thread that the system refuses is done without
+    for (unsigned i = 1; i < jobs && !trap.pending(); ++i)
+        trap.run([&] { helpers.emplace_back(workOn); });
     workOn();
 }
 

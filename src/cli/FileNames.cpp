@@ -2,11 +2,10 @@
 
 #include "common/Error.h"
 #include "common/File.h"
+#include "common/PathText.h"
 
-#include <cstdio>
-#include <fstream>
 #include <iostream>
-#include <unordered_set>
+#include <sstream>
 
 namespace ovisto {
 
@@ -31,9 +30,11 @@ std::vector<std::string> fileNames(const CommandLine& line)
     if (line.filesFrom == "-") {
         readNames(files, std::cin, separator);
     } else if (!line.filesFrom.empty()) {
-        std::ifstream input(line.filesFrom, std::ios::binary);
-        if (!input)
-            throw Error{kFileNotFound, "The file list " + line.filesFrom + " cannot be read"};
+        ErrorTrap trap;
+        std::istringstream input;
+        trap.run([&] { input.str(readTextFile(line.filesFrom)); });
+        if (trap.pending())
+            throw Error{trap.error().number, line.filesFrom + ": " + trap.error().description};
         readNames(files, input, separator);
     }
     return files;
@@ -44,6 +45,19 @@ std::vector<std::string> withoutRepeats(std::vector<std::string> files)
     std::unordered_set<std::string> seen;
     std::erase_if(files, [&](const std::string& file) { return !seen.insert(realPath(file)).second; });
     return files;
+}
+
+std::unordered_set<std::string> overwritingOthers(const std::vector<std::string>& files)
+{
+    std::unordered_set<std::string> all;
+    for (const std::string& file : files)
+        all.insert(realPath(file));
+    std::unordered_set<std::string> overwriting;
+    for (const std::string& file : files) {
+        if (all.contains(temporaryNameOf(realPath(file))))
+            overwriting.insert(file);
+    }
+    return overwriting;
 }
 
 } // namespace ovisto

@@ -4,19 +4,17 @@
 #include "collection/PropertyTree.h"
 #include "common/DataType.h"
 #include "common/Error.h"
-#include "common/NodePath.h"
-#include "common/NumberText.h"
 
 namespace ovisto {
 
 namespace {
 
 /// The data type of a node; a missing or strange one counts as Undefined.
-int dataTypeOf(const XmlNode& node)
+int shownDataType(const XmlNode& node)
 {
     int dataType = 0;
     ErrorTrap trap;
-    trap.run([&] { dataType = attributeToLong(AttributeGet(node, "d")); });
+    trap.run([&] { dataType = dataTypeOf(node); });
     return dataType == 0 ? kUndefined : dataType;
 }
 
@@ -40,7 +38,7 @@ std::string propertyText(const XmlDocument& document, const TagDictionary& dicti
         const std::string label = item.label.empty() ? item.node.name() : item.label;
         lines += std::string(2 * static_cast<std::size_t>(item.depth), ' ') + label;
         if (item.node.childElements().empty()) {
-            const int dataType = dataTypeOf(item.node);
+            const int dataType = shownDataType(item.node);
             const std::string type(dataTypeName(dataType));
             lines += ": " + valueText(item.node, dataType) + (type.empty() ? "" : " (" + type + ")");
         }

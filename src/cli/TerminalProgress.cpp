@@ -2,13 +2,14 @@
 
 #include "cli/TerminalReporter.h"
 
-#include <cstdio>
+#include "common/File.h"
+#include "common/PathText.h"
 
-#include <unistd.h>
+#include <cstdio>
 
 namespace ovisto {
 
-TerminalProgress::TerminalProgress() : m_isTerminal(isatty(STDERR_FILENO) == 1) {}
+TerminalProgress::TerminalProgress() : m_isTerminal(isErrorOutputTerminal()) {}
 
 bool TerminalProgress::step(const std::string& path, std::size_t done, std::size_t total)
 {
@@ -22,8 +23,8 @@ bool TerminalProgress::step(const std::string& path, std::size_t done, std::size
     m_lastDrawn = now;
     const std::size_t filled = kWidth * done / total;
     const std::string bar = std::string(filled, '#') + std::string(kWidth - filled, '.');
-    const std::string name = path.substr(path.find_last_of('/') + 1);
-    std::fprintf(stderr, "\r\033[K[%s] %zu/%zu %s", bar.c_str(), done, total, oneLine(name, kMostName).c_str());
+    std::fprintf(stderr, "\r\033[K[%s] %zu/%zu %s", bar.c_str(), done, total,
+                 oneLine(splitPath(path).name, kMostName).c_str());
     m_drawn = true;
     return true;
 }

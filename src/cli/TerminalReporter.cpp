@@ -29,7 +29,7 @@ std::string TerminalReporter::line(const std::string& path, const Error& error) 
 
 std::string errorLine(const std::string& path, const std::string& message)
 {
-    const bool named = path.empty() || message.find(path) != std::string::npos;
+    const bool named = path.empty() || message.ends_with("=" + path) || message.ends_with(" " + path);
     return "ovisto-cli: " + (named ? "" : path + ": ") + oneLine(message, kMostMessage + path.size()) + "\n";
 }
 

@@ -20,7 +20,7 @@ private:
     std::optional<std::string> m_first;
 };
 
-/// One line for standard error: the program's name, `path` unless `message` names it, and `message`.
+/// One line for standard error: the program's name, `path` unless `message` ends with it, and `message`.
 std::string errorLine(const std::string& path, const std::string& message);
 
 /// `text` on one line and harmless to a terminal: line breaks and controls are blanks, and what is longer than

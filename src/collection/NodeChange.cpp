@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace ovisto {
 
@@ -26,11 +27,32 @@ constexpr Companion kCompanions[] = {
     {"/JPEG/Exif[@id='FFE1']/IFD1", "/JPEG/Exif/IFD1/THUM"},
 };
 
+/// Hands reports on and remembers the first error.
+class WatchingReporter : public ErrorReporter {
+public:
+    explicit WatchingReporter(ErrorReporter& next) : m_next(next) {}
+
+    void report(const std::string& context, const Error& error) override
+    {
+        m_next.report(context, error);
+        if (!m_first)
+            m_first = error;
+    }
+
+    const std::optional<Error>& first() const { return m_first; }
+
+private:
+    ErrorReporter& m_next;
+    std::optional<Error> m_first;
+};
+
+/// A node that could not be made with all that it needs is as good as none: its file could not be read back.
 XmlNode createNode(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)
 {
-    const XmlNode node = CreateNode(document, change.entry, reporter);
-    if (!node.parent())
-        throw systemError(kObjectNotSet);
+    WatchingReporter watching(reporter);
+    const XmlNode node = CreateNode(document, change.entry, watching);
+    if (watching.first())
+        throw Error(*watching.first());
     return node;
 }
 
@@ -46,8 +68,10 @@ std::string objection(const NodeChange& change)
 {
     if (change.action == NodeAction::Set && AttributeGet(change.entry, "d").empty())
         return "I don't know what type of data this node requires - can't set its value.";
-    if (change.action != NodeAction::Add && isPartOfImage(change.entry))
+    if (isPartOfImage(change.entry))
         return "The image cannot be shown without this node as it is.";
+    if (change.action == NodeAction::Delete && protection(change.entry) == Protection::Required)
+        return "This node is required by others and cannot be deleted by itself.";
     return {};
 }
 
@@ -81,7 +105,7 @@ void changeFile(const std::string& path, const NodeChange& change, ErrorReporter
         JpegDocument(reporter).WriteJpeg(document, path);
 }
 
-XmlNode removeCompanion(const XmlDocument& document, const std::string& path)
+XmlNode removeCompanion(XmlDocument& document, const std::string& path)
 {
     const auto* row =
         std::ranges::find_if(kCompanions, [&](const Companion& companion) { return path == companion.deleted; });

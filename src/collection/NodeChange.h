@@ -29,6 +29,6 @@ void changeFile(const std::string& path, const NodeChange& change, ErrorReporter
 
 /// Removes the node that has no sense without the one of `path`, which was removed: the entry that pointed to it, or
 /// the directory that was there for it. Returns the node removed, or no node.
-XmlNode removeCompanion(const XmlDocument& document, const std::string& path);
+XmlNode removeCompanion(XmlDocument& document, const std::string& path);
 
 } // namespace ovisto

@@ -1,6 +1,7 @@
 #include "collection/XmlExport.h"
 
 #include "common/File.h"
+#include "common/XmlLoad.h"
 
 namespace ovisto {
 
@@ -9,7 +10,7 @@ std::string exportPath(const std::string& imagePath)
     return imagePath + ".XML";
 }
 
-void removeBookkeeping(const XmlDocument& document)
+void removeBookkeeping(XmlDocument& document)
 {
     for (const char* attributes : {"//@leafIndex", "//@o", "//@l", "//@s", "//@lo"}) {
         for (XmlNode attribute : document.selectNodes(attributes))
@@ -17,10 +18,16 @@ void removeBookkeeping(const XmlDocument& document)
     }
 }
 
-void exportDocument(const XmlDocument& document, const std::string& imagePath)
+void exportDocument(const XmlDocument& document, const std::string& imagePath, ErrorReporter& reporter)
 {
-    removeBookkeeping(document);
-    writeTextFile(exportPath(imagePath), document.xml());
+    XmlDocument copy;
+    reported(reporter, "Internal XML document corrupt", [&] {
+        if (const auto error = copy.loadText(document.xml()))
+            throw Error{kOpenFailed, parseErrorText(*error)};
+    });
+    removeBookkeeping(copy);
+    const std::string path = exportPath(imagePath);
+    reported(reporter, "Save XML File " + path, [&] { writeTextFile(path, copy.xml()); });
 }
 
 } // namespace ovisto

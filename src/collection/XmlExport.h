@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/ErrorReport.h"
 #include "common/XmlDocument.h"
 
 #include <string>
@@ -10,9 +11,10 @@ namespace ovisto {
 std::string exportPath(const std::string& imagePath);
 
 /// Removes the attributes that only serve the program while it shows or lays out a document.
-void removeBookkeeping(const XmlDocument& document);
+void removeBookkeeping(XmlDocument& document);
 
-/// Writes `document` to the export file of `imagePath`, which it replaces. Raises the error that prevented it.
-void exportDocument(const XmlDocument& document, const std::string& imagePath);
+/// Writes `document`, which stays as it is, without bookkeeping to the export file of `imagePath`, which it replaces.
+/// Errors are reported and raised.
+void exportDocument(const XmlDocument& document, const std::string& imagePath, ErrorReporter& reporter);
 
 } // namespace ovisto

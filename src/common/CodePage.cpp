@@ -69,19 +69,31 @@ void appendCharacters(std::string& text, std::span<const std::uint8_t> bytes, Co
     }
 }
 
+bool isUtf8(std::string_view text)
+{
+    return utf8::is_valid(text.begin(), text.end());
+}
+
+void forEachCharacter(std::string_view text, const std::function<void(char32_t)>& use)
+{
+    if (!isUtf8(text))
+        return forEachCharacter(utf8::replace_invalid(text, U'?'), use);
+    for (const auto* next = text.begin(); next != text.end();)
+        use(utf8::unchecked::next(next));
+}
+
 std::u32string characters(std::string_view text)
 {
-    if (!utf8::is_valid(text.begin(), text.end()))
-        return characters(utf8::replace_invalid(text, U'?'));
     std::u32string decoded;
-    utf8::unchecked::utf8to32(text.begin(), text.end(), std::back_inserter(decoded));
+    forEachCharacter(text, [&](char32_t character) { decoded.push_back(character); });
     return decoded;
 }
 
 std::size_t characterCount(std::string_view text)
 {
-    return static_cast<std::size_t>(
-        std::ranges::count_if(text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
+    if (!isUtf8(text))
+        return characters(text).size();
+    return static_cast<std::size_t>(utf8::unchecked::distance(text.begin(), text.end()));
 }
 
 std::u16string utf16(std::string_view text)

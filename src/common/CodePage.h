@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -27,8 +28,13 @@ enum class ControlBytes { Keep, Drop };
 /// Appends the characters of `bytes` to the UTF-8 text.
 void appendCharacters(std::string& text, std::span<const std::uint8_t> bytes, ControlBytes controlBytes);
 
+bool isUtf8(std::string_view text);
+
 /// The characters of a UTF-8 text. Bytes that are no UTF-8 (a file name may hold any) count as "?".
 std::u32string characters(std::string_view text);
+
+/// Calls `use` with each of them, one after the other.
+void forEachCharacter(std::string_view text, const std::function<void(char32_t)>& use);
 
 /// How many characters (not bytes, not UTF-16 units) the UTF-8 text has.
 std::size_t characterCount(std::string_view text);

@@ -1,9 +1,17 @@
 #include "common/DataType.h"
 
+#include "common/NodePath.h"
+#include "common/NumberText.h"
+
 #include <array>
 #include <cstddef>
 
 namespace ovisto {
+
+int dataTypeOf(const XmlNode& node)
+{
+    return attributeToLong(AttributeGet(node, "d"));
+}
 
 std::string_view dataTypeName(int dataType)
 {

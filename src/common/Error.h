@@ -3,6 +3,7 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 
 namespace ovisto {
@@ -34,15 +35,18 @@ inline constexpr int kStructureError = -2147221503; ///< a file is no sound JPEG
 Error systemError(int number);
 
 /// Runs steps that may fail, so that the ones after them still run, and keeps the latest error until it is looked at.
+/// A lack of memory or of another resource of the system counts as an error too; nothing else is caught.
 class ErrorTrap {
 public:
-    template<class Step> void run(Step&& step)
+    template <class Step> void run(Step&& step)
     {
         try {
             std::forward<Step>(step)();
         } catch (const Error& error) {
             m_pending = error;
         } catch (const std::bad_alloc&) {
+            m_pending = systemError(kOutOfMemory);
+        } catch (const std::system_error&) {
             m_pending = systemError(kOutOfMemory);
         }
     }

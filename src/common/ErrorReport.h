@@ -21,6 +21,16 @@ public:
 /// Tells `reporter` that `error` happened in `context`.
 void ErrorReport(ErrorReporter& reporter, const std::string& context, const Error& error);
 
+/// Runs `step`. The error that it raises is reported in `context`, and raised again for the caller.
+template <class Step> void reported(ErrorReporter& reporter, const std::string& context, Step&& step)
+{
+    ErrorTrap trap;
+    trap.run(std::forward<Step>(step));
+    if (trap.pending())
+        ErrorReport(reporter, context, trap.error());
+    trap.raise();
+}
+
 /// What a message box shows for the error: context, CR LF, number, " : ", description.
 std::string errorReportText(const std::string& context, const Error& error);
 

@@ -55,8 +55,8 @@ enum class NewFileAccess { Private, Usual };
 /// A new file that is being written, from its start to its end. Its bytes are on disk after sync() only.
 class OutputFile {
 public:
-    /// Creates `path` anew; a file of that name is deleted before, unless another save is writing it (then raises
-    /// kPermissionDenied).
+    /// Creates `path` anew; a file of that name, left behind by an earlier save, is deleted before, unless another save
+    /// is writing it (then raises kPermissionDenied).
     explicit OutputFile(const std::string& path, NewFileAccess newFileAccess = NewFileAccess::Private);
 
     void write(std::span<const std::uint8_t> bytes);
@@ -106,6 +106,9 @@ void createFolders(const std::string& folder);
 
 /// One text for all names that lead to the same file: its real path, or `path` when there is no such file.
 std::string realPath(const std::string& path);
+
+/// Whether standard error is shown on a terminal.
+bool isErrorOutputTerminal();
 
 /// Full path of the running program.
 std::string executablePath();

@@ -49,7 +49,7 @@ Error errorOf(int errorNumber)
 }
 
 /// Raises the system's latest error where `result` tells of one; else hands it on.
-template<class Result> Result checked(Result result)
+template <class Result> Result checked(Result result)
 {
     if (result < 0)
         throw errorOf(errno);
@@ -57,7 +57,7 @@ template<class Result> Result checked(Result result)
 }
 
 /// Calls again what a signal interrupted.
-template<class Call> auto uninterrupted(Call call)
+template <class Call> auto uninterrupted(Call call)
 {
     for (;;) {
         const auto result = call();
@@ -91,11 +91,19 @@ bool lock(int descriptor)
     return flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
+/// Whether `path` still names the open file.
+bool names(const std::string& path, int descriptor)
+{
+    struct stat named = {};
+    const struct stat opened = statusOf(descriptor);
+    return lstat(path.c_str(), &named) == 0 && named.st_dev == opened.st_dev && named.st_ino == opened.st_ino;
+}
+
 /// Deletes a file that an earlier save left behind. One that a save is writing at this moment is locked, and stays.
 void deleteLeftover(const std::string& path)
 {
     const FileHandle leftover(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-    if (leftover.get() < 0 || lock(leftover.get()))
+    if (leftover.get() < 0 || (lock(leftover.get()) && names(path, leftover.get())))
         unlink(path.c_str());
 }
 
@@ -193,7 +201,7 @@ OutputFile::OutputFile(const std::string& path, NewFileAccess newFileAccess)
     if (handle.get() < 0)
         throw errno == EEXIST ? systemError(kPermissionDenied) : errorOf(errno);
     // Another save may have taken the new file for a leftover between its creation and its locking.
-    if (!lock(handle.get()) || statusOf(handle.get()).st_nlink == 0)
+    if (!lock(handle.get()) || !names(path, handle.get()))
         throw systemError(kPermissionDenied);
     m_handle = std::move(handle);
     m_buffer.reserve(kBufferSize);
@@ -264,8 +272,8 @@ std::string linkTarget(const std::string& path)
 void writeTextFile(const std::string& path, std::string_view content)
 {
     const std::string target = linkTarget(path);
-    const PathParts parts = splitPath(target);
-    const std::string temporaryName = parts.folder + "~" + parts.name;
+    std::string temporaryName = target + ".XXXXXX";
+    const FileHandle reserved(checked(mkstemp(temporaryName.data())));
     ErrorTrap trap;
     trap.run([&] {
         OutputFile file(temporaryName, NewFileAccess::Usual);
@@ -274,7 +282,7 @@ void writeTextFile(const std::string& path, std::string_view content)
             file.takeAttributesFrom(InputFile(target));
         file.sync();
         if (const auto failure = replaceFile(temporaryName, target))
-            throw failure->error;
+            throw Error(failure->error);
     });
     if (trap.pending())
         unlink(temporaryName.c_str());
@@ -314,6 +322,11 @@ std::string realPath(const std::string& path)
     };
     const std::unique_ptr<char, Free> resolved(realpath(path.c_str(), nullptr));
     return resolved ? resolved.get() : path;
+}
+
+bool isErrorOutputTerminal()
+{
+    return isatty(STDERR_FILENO) == 1;
 }
 
 std::string executablePath()

@@ -58,13 +58,6 @@ void appendHexRun(std::string& text, std::span<const std::uint8_t> bytes)
     }
 }
 
-std::string hexRun(std::span<const std::uint8_t> bytes)
-{
-    std::string text;
-    appendHexRun(text, bytes);
-    return text;
-}
-
 std::string hexNumber(std::uint32_t number, std::size_t width)
 {
     std::string text;

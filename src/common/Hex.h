@@ -17,10 +17,7 @@ std::uint8_t HexToByte(std::string_view text);
 /// The number that the first four characters of `text` name in hexadecimal ("9C9B" is 40091). Missing ones count as 0.
 std::int32_t Hex4ToLong(std::string_view text);
 
-/// Two upper-case hexadecimal digits for each byte, nothing between them.
-std::string hexRun(std::span<const std::uint8_t> bytes);
-
-/// Appends hexRun(`bytes`) to `text`.
+/// Appends two upper-case hexadecimal digits for each byte, nothing between them.
 void appendHexRun(std::string& text, std::span<const std::uint8_t> bytes);
 
 /// `number` in upper-case hexadecimal, with zeros in front up to `width` digits.

@@ -2,9 +2,10 @@
 
 #include "common/Error.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 
 namespace ovisto {
@@ -32,8 +33,10 @@ double toDouble(std::string_view text)
         throw systemError(kTypeMismatch);
     double number = 0;
     const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (status == std::errc::result_out_of_range)
-        return std::numeric_limits<double>::infinity();
+    if (status == std::errc::result_out_of_range) {
+        const bool isTiny = text.find("e-") != std::string_view::npos || text.find("E-") != std::string_view::npos;
+        return isTiny ? 0 : std::numeric_limits<double>::infinity();
+    }
     if (status != std::errc() || end != text.data() + text.size())
         throw systemError(kTypeMismatch);
     return number;
@@ -45,9 +48,12 @@ std::string numberText(std::int64_t number)
 {
     if (-kExponentForm < number && number < kExponentForm)
         return std::to_string(number);
-    char text[32];
-    const int length = std::snprintf(text, sizeof text, "%.7G", static_cast<double>(static_cast<float>(number)));
-    return {text, static_cast<std::size_t>(length)};
+    constexpr int kDigits = 7;
+    std::array<char, 32> text{};
+    const auto end =
+        std::to_chars(text.begin(), text.end(), static_cast<float>(number), std::chars_format::general, kDigits).ptr;
+    std::replace(text.begin(), end, 'e', 'E');
+    return {text.begin(), end};
 }
 
 std::int32_t toLong(std::string_view text)

@@ -13,4 +13,7 @@ struct PathParts {
 
 PathParts splitPath(std::string_view path);
 
+/// The name under which a new version of the file `path` is written: beside it, "~" in front of its own name.
+std::string temporaryNameOf(std::string_view path);
+
 } // namespace ovisto

@@ -5,6 +5,8 @@
 #include "common/File.h"
 #include "common/XmlPointer.h"
 
+#include <libxml/parserInternals.h>
+#include <libxml/uri.h>
 #include <libxml/xmlsave.h>
 
 #include <algorithm>
@@ -35,6 +37,8 @@ void initialiseParser()
 /// The line (the first is 1) of a text that has no line breaks but LF and CR LF.
 std::string_view lineOf(std::string_view text, std::int64_t line)
 {
+    if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF"))
+        return {}; // UTF-16: its bytes would tell nobody anything
     for (; line > 1; --line) {
         const auto end = text.find('\n');
         if (end == std::string_view::npos)
@@ -78,8 +82,17 @@ std::size_t nodeMemory(std::string_view text)
 {
     constexpr std::size_t kPerTag = 200;
     constexpr std::size_t kPerAttribute = 200;
-    return kPerTag * static_cast<std::size_t>(std::ranges::count(text, '<')) +
-           kPerAttribute * static_cast<std::size_t>(std::ranges::count(text, '='));
+    std::size_t memory = 0;
+    while (!text.empty()) {
+        // What is in a CDATA section is no markup.
+        const std::size_t section = std::min(text.find("<![CDATA["), text.size());
+        const std::size_t sectionEnd = std::min(text.find("]]>", section), text.size());
+        const std::string_view markup = text.substr(0, section);
+        memory += kPerTag * static_cast<std::size_t>(std::ranges::count(markup, '<')) +
+                  kPerAttribute * static_cast<std::size_t>(std::ranges::count(markup, '='));
+        text.remove_prefix(sectionEnd);
+    }
+    return memory;
 }
 
 constexpr std::size_t kNodeMemoryFree = std::size_t{24} * 1024 * 1024; ///< more must be in proportion to the text
@@ -125,9 +138,10 @@ std::optional<XmlParseError> XmlDocument::loadText(std::string_view text)
     if (nodeMemory(text) > kNodeMemoryFree + text.size() || text.size() > std::numeric_limits<int>::max())
         return outOfMemory();
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
-    // Long runs of digits are our own here, so the parser's limit for a text (10 MB) does not apply.
+    // Only without its limits does the parser take a long run of digits for one text, but also any depth of nesting.
+    const bool mayHoldLongText = text.size() > XML_MAX_TEXT_LENGTH;
     xmlDoc* doc = xmlCtxtReadMemory(context.get(), text.data(), static_cast<int>(text.size()), nullptr, "UTF-8",
-                                    kParseOptions | XML_PARSE_HUGE);
+                                    kParseOptions | (mayHoldLongText ? XML_PARSE_HUGE : 0));
     if (doc == nullptr)
         return parseError(context->lastError, text);
     m_content = std::make_unique<Content>(doc);
@@ -149,8 +163,9 @@ std::optional<XmlParseError> XmlDocument::loadFile(const std::string& path, Vali
     const int options = kParseOptions | (validation == Validation::On ? XML_PARSE_DTDLOAD : 0) |
                         (whiteSpace == WhiteSpace::Strip ? XML_PARSE_NOBLANKS : 0);
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
-    xmlDoc* doc = xmlCtxtReadMemory(context.get(), source.data(), static_cast<int>(source.size()), path.c_str(),
-                                    nullptr, options);
+    const XmlPtr<xmlChar> uri(xmlPathToURI(xmlText(path.c_str())));
+    xmlDoc* doc = xmlCtxtReadMemory(context.get(), source.data(), static_cast<int>(source.size()),
+                                    toString(uri.get()).c_str(), nullptr, options);
     if (doc == nullptr)
         return parseError(context->lastError, source);
     auto content = std::make_unique<Content>(doc);

@@ -3,7 +3,6 @@
 #include "common/Error.h"
 #include "common/XmlPointer.h"
 
-#include <libxml/xmlsave.h>
 #include <libxml/xpathInternals.h>
 
 #include <algorithm>
@@ -99,11 +98,6 @@ std::string XmlNode::attribute(const char* name) const
     return isElement() ? toString(XmlPtr<xmlChar>(xmlGetProp(m_node, xmlText(name))).get()) : std::string();
 }
 
-bool XmlNode::hasAttribute(const char* name) const
-{
-    return isElement() && xmlHasProp(m_node, xmlText(name)) != nullptr;
-}
-
 void XmlNode::setAttribute(const char* name, std::string_view value)
 {
     if (isElement())
@@ -153,8 +147,11 @@ std::vector<XmlNode> XmlNode::selectNodes(const std::string& xpath) const
         throw Error{kInvalidCall, "Not a valid path: " + xpath};
     std::vector<XmlNode> nodes;
     nodes.reserve(static_cast<std::size_t>(xmlXPathNodeSetGetLength(found->nodesetval)));
-    for (int i = 0; i < xmlXPathNodeSetGetLength(found->nodesetval); ++i)
-        nodes.emplace_back(xmlXPathNodeSetItem(found->nodesetval, i));
+    for (int i = 0; i < xmlXPathNodeSetGetLength(found->nodesetval); ++i) {
+        xmlNode* node = xmlXPathNodeSetItem(found->nodesetval, i);
+        if (node->type != XML_NAMESPACE_DECL) // those belong to the selection and go with it
+            nodes.emplace_back(node);
+    }
     return nodes;
 }
 
@@ -193,17 +190,6 @@ void XmlNode::remove()
         xmlRemoveProp(reinterpret_cast<xmlAttr*>(m_node));
     else if (m_node->parent != nullptr)
         detach(m_node);
-}
-
-std::string XmlNode::xml() const
-{
-    if (m_node == nullptr)
-        return {};
-    const XmlPtr<xmlBuffer> buffer(xmlBufferCreate());
-    xmlSaveCtxt* context = xmlSaveToBuffer(buffer.get(), "UTF-8", XML_SAVE_NO_DECL);
-    xmlSaveTree(context, m_node);
-    xmlSaveClose(context);
-    return toString(xmlBufferContent(buffer.get()));
 }
 
 } // namespace ovisto

@@ -34,7 +34,6 @@ public:
     void setText(std::string_view text);
 
     std::string attribute(const char* name) const;
-    bool hasAttribute(const char* name) const;
     void setAttribute(const char* name, std::string_view value);
     void removeAttribute(const char* name);
 
@@ -59,9 +58,6 @@ public:
     void insertBefore(XmlNode child, XmlNode next);
     /// Takes the node, with all below it, out of its document.
     void remove();
-
-    /// The node as XML text.
-    std::string xml() const;
 
 private:
     friend class XmlDocument;

@@ -23,7 +23,7 @@ struct XmlFree {
     void operator()(xmlXPathContext* context) const { xmlXPathFreeContext(context); }
     void operator()(xmlXPathObject* object) const { xmlXPathFreeObject(object); }
 };
-template<class T> using XmlPtr = std::unique_ptr<T, XmlFree>;
+template <class T> using XmlPtr = std::unique_ptr<T, XmlFree>;
 
 /// The nodes that were taken out of a document, or not put in yet. They live as long as it, so that no handle dangles;
 /// a document finds them through its private pointer.

@@ -63,6 +63,8 @@ std::string ByteReader::ReadStringNull(FilePos pointer)
 
 std::string ByteReader::ReadUnicode(FilePos pointer, std::int64_t length)
 {
+    if (length <= 0)
+        return {};
     checkLength(length);
     charge(length);
     std::string text;
@@ -135,7 +137,7 @@ std::span<const std::uint8_t> ByteReader::stretch(std::int64_t index, std::int64
     return {found.bytes.get() + within, static_cast<std::size_t>(std::min(length, size - within))};
 }
 
-template<std::size_t N> std::array<std::uint8_t, N> ByteReader::bytesAt(FilePos pointer)
+template <std::size_t N> std::array<std::uint8_t, N> ByteReader::bytesAt(FilePos pointer)
 {
     std::array<std::uint8_t, N> bytes{};
     std::size_t done = 0;

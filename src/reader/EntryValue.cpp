@@ -38,7 +38,7 @@ std::string textOf(ByteReader& reader, const IfdEntry& entry)
 }
 
 /// The numbers of an array, `size` bytes each, as `number` renders the one at a place, with commas between them.
-template<class Number>
+template <class Number>
 std::string joined(ByteReader& reader, FilePos first, std::int64_t count, std::int64_t size, Number number)
 {
     reader.checkLength(count * size);
@@ -57,7 +57,7 @@ EntryValue byteValue(ByteReader& reader, const IfdEntry& entry)
 {
     const FilePos bytes = bytesOf(reader, entry);
     if (isWindowsText(entry.tag))
-        return {kUnicodeString, XMLSanitize(reader.ReadUnicode(bytes, std::int64_t{entry.count} - 2))};
+        return {entryDataType(entry), XMLSanitize(reader.ReadUnicode(bytes, std::int64_t{entry.count} - 2))};
     return {entry.format, reader.ReadHexString(bytes, std::int64_t{entry.count} - 1)};
 }
 
@@ -116,6 +116,12 @@ constexpr ValueFormat kValueFormats[] = {
 };
 
 } // namespace
+
+int entryDataType(const IfdEntry& entry)
+{
+    const bool isByteArray = entry.format == kByte || entry.format == kSignedByte;
+    return isByteArray && isWindowsText(entry.tag) ? kUnicodeString : entry.format;
+}
 
 EntryValue entryValue(ByteReader& reader, const IfdEntry& entry)
 {

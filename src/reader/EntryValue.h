@@ -25,6 +25,9 @@ struct EntryValue {
     std::string text; ///< escaped where it needs to be
 };
 
+/// The data type that the document gives an entry, as far as the entry itself tells.
+int entryDataType(const IfdEntry& entry);
+
 /// Reads the value of `entry`. Raises what ByteReader raises.
 EntryValue entryValue(ByteReader& reader, const IfdEntry& entry);
 

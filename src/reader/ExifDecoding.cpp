@@ -19,7 +19,7 @@ constexpr std::int64_t kEntrySize = 12;
 } // namespace
 
 /// Appends an element that is closed whatever happens inside it.
-template<class Content>
+template <class Content>
 void JpegXml::appendContainer(const std::string& openingTag, Content content, std::string_view closingTag)
 {
     append(openingTag);
@@ -129,11 +129,14 @@ void JpegXml::IFDScan(FilePos base, TiffOffset ifdOffset)
 /// A value that cannot be read is empty; the entry stays.
 void JpegXml::appendEntry(const IfdEntry& entry)
 {
-    EntryValue value{.dataType = entry.format, .text = {}};
+    EntryValue value{.dataType = entryDataType(entry), .text = {}};
     m_decoding.run([&] { value = entryValue(reader(), entry); });
     m_decoding.run([&] { recordPointer(entry, value.dataType, value.text); });
-    append("<IFD" + xmlAtt("id", hexNumber(entry.tag, 4)) + xmlAtt("d", std::int64_t{value.dataType}) + ">" +
-           value.text + "</IFD>\r\n");
+    constexpr std::string_view kEnd = "</IFD>\r\n";
+    const std::string start =
+        "<IFD" + xmlAtt("id", hexNumber(entry.tag, 4)) + xmlAtt("d", std::int64_t{value.dataType}) + ">";
+    reader().charge(static_cast<std::int64_t>(start.size() + value.text.size() + kEnd.size()));
+    m_text.append(start).append(value.text).append(kEnd);
 }
 
 /// Remembers where an entry says that other parts of the segment are. The text counts, as it is what a document tells.

@@ -35,6 +35,8 @@ Translation JpegXml::XMLtranslate(const std::string& FileName, const KeepOptions
     m_reader.emplace(*file);
     std::uint16_t start = 0;
     trap.run([&] { start = reader().ReadInteger({1}); });
+    if (trap.pending())
+        return {.text = {}, .error = trap.take()};
     if (start != kStartOfImage)
         return {.text = {},
                 .error = Error{kStructureError, "Not a JPEG file - hFFD8 expected at start of file " + FileName}};

@@ -50,7 +50,7 @@ private:
     void appendEntry(const IfdEntry& entry);
     void appendBytes(std::string_view name, FilePos first, std::int64_t length, std::string_view end);
     void recordPointer(const IfdEntry& entry, int dataType, std::string_view value);
-    template<class Content>
+    template <class Content>
     void appendContainer(const std::string& openingTag, Content content, std::string_view closingTag);
 
     void append(std::string_view text);

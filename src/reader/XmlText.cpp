@@ -68,8 +68,7 @@ std::string XMLSanitize(std::string_view Value)
     if (std::ranges::all_of(Value, isPlain))
         return std::string(Value);
     std::string text;
-    for (const char32_t character : characters(Value))
-        appendSanitized(text, character);
+    forEachCharacter(Value, [&](char32_t character) { appendSanitized(text, character); });
     return text;
 }
 

@@ -80,6 +80,12 @@ const TypeLayout* typeLayout(int dataType)
     return row != std::end(kTypeLayouts) ? row : nullptr;
 }
 
+/// Bytes that the hexadecimal text of an element stands for.
+std::int64_t hexLength(const XmlNode& element)
+{
+    return element ? hexBytes(element.text()) : 0;
+}
+
 int tagOf(const XmlNode& entry)
 {
     return Hex4ToLong(AttributeGet(entry, "id"));
@@ -107,7 +113,7 @@ void countComponents(const XmlNode& exif)
         } else if (isFourByteTag(tag)) {
             count = kFieldSize;
             inside = "1";
-        } else if (const TypeLayout* layout = typeLayout(attributeToLong(AttributeGet(entry, "d")))) {
+        } else if (const TypeLayout* layout = typeLayout(dataTypeOf(entry))) {
             count = layout->count(text);
             inside = count <= layout->mostInside ? "1" : "0";
         } else {
@@ -123,7 +129,7 @@ std::int64_t sizeOutside(const XmlNode& entry)
     const int tag = tagOf(entry);
     if (tag == kMakerNote || isFourByteTag(tag))
         return kFieldSize;
-    const TypeLayout* layout = typeLayout(attributeToLong(AttributeGet(entry, "d")));
+    const TypeLayout* layout = typeLayout(dataTypeOf(entry));
     return layout != nullptr ? layout->size * attributeToLong(AttributeGet(entry, "l")) : 0;
 }
 
@@ -150,14 +156,10 @@ void layOutMakerNote(std::int64_t& pos, const XmlNode& exif, ErrorReporter& repo
     }
     pointer.setText(std::to_string(pos));
     AttributeSet(makerNote, "o", std::to_string(pos));
-    ErrorTrap trap;
-    trap.run([&] { advance(pos, hexLength(makerNote)); });
-    if (trap.pending())
-        ErrorReport(reporter,
-                    "Can't tie up the MakerNote to its entry in the header (!?"
-                    "?)",
-                    trap.error());
-    trap.raise();
+    reported(reporter,
+             "Can't tie up the MakerNote to its entry in the header (!?"
+             "?)",
+             [&] { advance(pos, hexLength(makerNote)); });
 }
 
 void layOutThumbnailDirectory(std::int64_t& pos, const XmlNode& exif, ErrorReporter& reporter)
@@ -174,8 +176,8 @@ void layOutThumbnailDirectory(std::int64_t& pos, const XmlNode& exif, ErrorRepor
     const std::int64_t length = hexLength(thumbnail);
     XmlNode stripOffsets = directory.selectSingleNode("IFD[@id='0111']");
     if (stripOffsets) {
-        // The length of an uncompressed thumbnail goes into the entry for its offset, and the one for its length is
-        // left alone. Files have been written like this from the beginning.
+        // Kept as files have always been written: the step that should set StripByteCounts (0117) never finds that
+        // entry, and so the length goes into StripOffsets again, over the offset.
         stripOffsets.setText(std::to_string(thumbnail ? length : pos));
     } else if (thumbnail) {
         directory.selectSingleNode("IFD[@id='0201']").setText(std::to_string(pos));
@@ -186,18 +188,9 @@ void layOutThumbnailDirectory(std::int64_t& pos, const XmlNode& exif, ErrorRepor
 
 } // namespace
 
-std::int64_t hexLength(const XmlNode& element)
-{
-    return element ? hexBytes(element.text()) : 0;
-}
-
 std::int64_t layOutExif(const XmlNode& exif, ErrorReporter& reporter)
 {
-    ErrorTrap trap;
-    trap.run([&] { countComponents(exif); });
-    if (trap.pending())
-        ErrorReport(reporter, "Exif section - calculate data length", trap.error());
-    trap.raise();
+    reported(reporter, "Exif section - calculate data length", [&] { countComponents(exif); });
 
     std::int64_t pos = kTiffHeaderSize;
     CalcOffsets(pos, exif, reporter);
@@ -210,8 +203,7 @@ std::int64_t layOutExif(const XmlNode& exif, ErrorReporter& reporter)
 
 void CalcOffsets(std::int64_t& pos, XmlNode directory, ErrorReporter& reporter)
 {
-    ErrorTrap trap;
-    trap.run([&] {
+    reported(reporter, "Exif Offset Calculation failed", [&] {
         AttributeSet(directory, "o", std::to_string(pos));
         const auto entries = static_cast<std::int64_t>(directory.selectNodes("IFD").size());
         advance(pos, kEntrySize * entries + kDirectoryFrameSize);
@@ -220,9 +212,6 @@ void CalcOffsets(std::int64_t& pos, XmlNode directory, ErrorReporter& reporter)
             advance(pos, sizeOutside(entry));
         }
     });
-    if (trap.pending())
-        ErrorReport(reporter, "Exif Offset Calculation failed", trap.error());
-    trap.raise();
 }
 
 } // namespace ovisto

@@ -4,7 +4,6 @@
 #include "common/XmlNode.h"
 
 #include <cstdint>
-#include <optional>
 
 namespace ovisto {
 
@@ -23,8 +22,5 @@ std::int64_t layOutExif(const XmlNode& exif, ErrorReporter& reporter);
 /// Gives `directory` the offset `pos`, and each of its values outside theirs. Moves `pos` behind all that. Reports and
 /// raises errors.
 void CalcOffsets(std::int64_t& pos, XmlNode directory, ErrorReporter& reporter);
-
-/// Bytes that a hexadecimal text of an element stands for, an odd digit rounded to the even count.
-std::int64_t hexLength(const XmlNode& element);
 
 } // namespace ovisto

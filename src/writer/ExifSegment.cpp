@@ -80,11 +80,8 @@ constexpr ValueWriter kValueWriters[] = {
 void writeEntryValue(SegmentWriter& writer, const XmlNode& entry, int dataType)
 {
     const std::string text = entry.text();
-    ErrorTrap trap;
-    trap.run([&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
-    if (trap.pending())
-        ErrorReport(writer.reporter(), "Data format " + std::to_string(dataType) + " error:" + text, trap.error());
-    trap.raise();
+    reported(writer.reporter(), "Data format " + std::to_string(dataType) + " error:" + text,
+             [&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
 }
 
 bool standsInside(const XmlNode& entry)
@@ -92,21 +89,17 @@ bool standsInside(const XmlNode& entry)
     return AttributeGet(entry, "s") == "1";
 }
 
-int dataTypeOf(const XmlNode& entry)
-{
-    return attributeToLong(AttributeGet(entry, "d"));
-}
-
 } // namespace
 
 void WriteExif(SegmentWriter& writer, XmlNode exif)
 {
     constexpr std::int64_t kLengthAndIdentifier = 8;
-    const std::int64_t tiffSize = layOutExif(exif, writer.reporter());
+    const std::int64_t length = layOutExif(exif, writer.reporter()) + kLengthAndIdentifier;
 
     ErrorTrap trap;
     trap.run([&] { writer.WriteHex("FFE1"); });
-    trap.run([&] { writer.WriteInteger(tiffSize + kLengthAndIdentifier); });
+    const std::int64_t start = writer.written();
+    trap.run([&] { writer.WriteInteger(length); });
     AttributeSet(exif, "byteSeq", "II");
     writer.IntelOrder = true;
     trap.run([&] { writer.WriteHex("457869660000"); }); // "Exif" and two zero bytes
@@ -127,6 +120,9 @@ void WriteExif(SegmentWriter& writer, XmlNode exif)
     writeDirectory(exif.selectSingleNode("IFD1"));
     writeBytes(exif.selectSingleNode("IFD1/THUM"));
 
+    // A value that does not fill its entry, or is of a type that cannot be written, is shorter than it was laid out.
+    if (!trap.pending())
+        trap.run([&] { checkSegmentLength(length, writer.written() - start); });
     if (trap.pending())
         ErrorReport(writer.reporter(), "Exif write failed", trap.error());
     writer.IntelOrder = false;

@@ -78,9 +78,12 @@ constexpr ElementWriter kElementWriters[] = {
 void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& to)
 {
     constexpr std::int64_t kChunk = std::int64_t{1} << 20;
-    const XmlNode image = document.selectSingleNode("/JPEG/IMG");
-    if (!image)
+    const std::vector<XmlNode> images = document.selectNodes("/JPEG/IMG");
+    if (images.empty())
         throw systemError(kObjectNotSet);
+    if (images.size() > 1)
+        throw Error{kInvalidCall, "The document has more than one IMG element"};
+    const XmlNode& image = images.front();
     std::int64_t offset = std::int64_t{attributeToLong(AttributeGet(image, "offset"))} - 1;
     std::int64_t left = std::int64_t{attributeToLong(AttributeGet(image, "length"))} + 1;
     if (offset < 0)
@@ -98,44 +101,28 @@ void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& t
     to.flush();
 }
 
-std::string temporaryNameOf(const std::string& fileName)
-{
-    const auto [folder, name] = splitPath(fileName);
-    return folder + "~" + name;
-}
-
 } // namespace
 
-/// Runs `step`. Its error is reported in `context`, and raised.
-template<class Step> void JpegDocument::reported(const std::string& context, Step step)
-{
-    ErrorTrap trap;
-    trap.run(step);
-    if (trap.pending())
-        ErrorReport(m_reporter, context, trap.error());
-    trap.raise();
-}
-
-void JpegDocument::WriteJpeg(const XmlDocument& document, const std::string& fileName)
+void JpegDocument::WriteJpeg(XmlDocument& document, const std::string& fileName)
 {
     const NewVersion version = writeTemporary(document, fileName);
     // Here both files are whole: the place for checks that may refuse to go on.
     replaceOld(version);
 }
 
-JpegDocument::NewVersion JpegDocument::writeTemporary(const XmlDocument& document, const std::string& fileName)
+JpegDocument::NewVersion JpegDocument::writeTemporary(XmlDocument& document, const std::string& fileName)
 {
     const std::string target = linkTarget(fileName);
     const std::string temporaryName = temporaryNameOf(target);
     std::optional<InputFile> oldFile;
     std::optional<OutputFile> newFile;
-    reported(fileName, [&] { oldFile.emplace(target); });
-    reported(temporaryName, [&] { newFile.emplace(temporaryName); });
-    reported("Write to " + temporaryName, [&] { SegmentWriter(*newFile, m_reporter).WriteHex("FFD8"); });
-    reported(temporaryName + " write failed", [&] { writeSegments(document, *newFile); });
-    reported(temporaryName + " transfer of image from existing file failed",
+    reported(m_reporter, fileName, [&] { oldFile.emplace(target); });
+    reported(m_reporter, temporaryName, [&] { newFile.emplace(temporaryName); });
+    reported(m_reporter, "Write to " + temporaryName, [&] { SegmentWriter(*newFile, m_reporter).WriteHex("FFD8"); });
+    reported(m_reporter, temporaryName + " write failed", [&] { writeSegments(document, *newFile); });
+    reported(m_reporter, temporaryName + " transfer of image from existing file failed",
              [&] { copyImage(document, *oldFile, *newFile); });
-    reported(temporaryName + " write failed", [&] {
+    reported(m_reporter, temporaryName + " write failed", [&] {
         SegmentWriter(*newFile, m_reporter).WriteHex("FFD9");
         newFile->takeAttributesFrom(*oldFile);
         newFile->sync();
@@ -143,7 +130,7 @@ JpegDocument::NewVersion JpegDocument::writeTemporary(const XmlDocument& documen
     return {target, temporaryName, std::move(*oldFile), std::move(*newFile)};
 }
 
-void JpegDocument::writeSegments(const XmlDocument& document, OutputFile& file)
+void JpegDocument::writeSegments(XmlDocument& document, OutputFile& file)
 {
     SegmentWriter writer(file, m_reporter);
     for (const XmlNode& element : document.selectNodes("/JPEG/*")) {

@@ -17,10 +17,11 @@ public:
 
     /// Writes the file anew from `document`, whose IMG element must describe the image data of the file as it is on
     /// disk. The segments come from the document, the image data is copied. The new file is complete, under the name of
-    /// the file with "~" in front, before it takes the place of the old one. On failure, which is reported and raised,
-    /// the old file is as it was, and the "~" file may stay behind.
-    /// The Exif elements of `document` are laid out in the course of it.
-    void WriteJpeg(const XmlDocument& document, const std::string& fileName);
+    /// the file with "~" in front, before it takes the place of the old one; a file that has this name is deleted. A
+    /// segment that would not have the length that it says is a failure, as nothing behind it could be read. On
+    /// failure, which is reported and raised, the old file is as it was, and the "~" file may stay behind. The Exif
+    /// elements of `document` are laid out in the course of it.
+    void WriteJpeg(XmlDocument& document, const std::string& fileName);
 
 private:
     /// The new version of a file, complete and on disk under its temporary name.
@@ -31,11 +32,9 @@ private:
         OutputFile newFile;
     };
 
-    NewVersion writeTemporary(const XmlDocument& document, const std::string& fileName);
+    NewVersion writeTemporary(XmlDocument& document, const std::string& fileName);
     void replaceOld(const NewVersion& version);
-    void writeSegments(const XmlDocument& document, OutputFile& file);
-
-    template<class Step> void reported(const std::string& context, Step step);
+    void writeSegments(XmlDocument& document, OutputFile& file);
 
     ErrorReporter& m_reporter;
 };

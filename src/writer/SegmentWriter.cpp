@@ -44,31 +44,23 @@ std::vector<std::uint8_t> codePageBytes(std::string_view text)
 
 } // namespace
 
-/// Runs `step`. Its error is reported in `context`, and raised for the caller.
-template<class Step> void SegmentWriter::reported(const std::string& context, Step step)
-{
-    ErrorTrap trap;
-    trap.run(step);
-    if (trap.pending())
-        ErrorReport(m_reporter, context, trap.error());
-    trap.raise();
-}
-
 void SegmentWriter::WriteHex(std::string_view hex)
 {
-    reported("Temp file write failed", [&] { writeBytes(bytesOf(hex)); });
+    reported(m_reporter, "Temp file write failed", [&] { writeBytes(bytesOf(hex)); });
 }
 
 void SegmentWriter::WriteSegmentHex(std::string_view hex)
 {
-    constexpr std::int64_t kLengthBytes = 2;
-    WriteInteger(halfToEven(static_cast<std::int64_t>(characterCount(hex))) + kLengthBytes);
+    const std::int64_t start = written();
+    const std::int64_t length = halfToEven(static_cast<std::int64_t>(characterCount(hex))) + 2;
+    WriteInteger(length);
     WriteHex(hex);
+    checkSegmentLength(length, written() - start);
 }
 
 void SegmentWriter::WriteInteger(std::int64_t number)
 {
-    reported("Temp file write integer " + std::to_string(number), [&] {
+    reported(m_reporter, "Temp file write integer " + std::to_string(number), [&] {
         writeNumber(number, 2);
         if (number < 0 || number > std::numeric_limits<std::uint16_t>::max())
             throw systemError(kOverflow);
@@ -78,7 +70,7 @@ void SegmentWriter::WriteInteger(std::int64_t number)
 // Numbers were signed when files of this format were first written: the upper half of the range fails to this day.
 void SegmentWriter::WriteLong(std::int64_t number)
 {
-    reported("Temp file write long " + std::to_string(number), [&] {
+    reported(m_reporter, "Temp file write long " + std::to_string(number), [&] {
         writeNumber(number, 4);
         if (number < 0 || number > std::numeric_limits<std::int32_t>::max())
             throw systemError(kOverflow);
@@ -89,7 +81,7 @@ void SegmentWriter::WriteNarrowString(std::string_view text)
 {
     constexpr std::size_t kFieldSize = 4;
     const std::size_t length = characterCount(text);
-    reported("Temp file write string", [&] {
+    reported(m_reporter, "Temp file write string", [&] {
         writeBytes(codePageBytes(text));
         writeZeros(length < kFieldSize - 1 ? kFieldSize - length : 1);
     });
@@ -99,7 +91,7 @@ void SegmentWriter::WriteWideString(std::string_view text)
 {
     constexpr char16_t kFirstNegative = 0x8000; // as a signed unit, which is how it is split into its bytes
     const std::u16string units = utf16(text);
-    reported("Temp file write string", [&] {
+    reported(m_reporter, "Temp file write string", [&] {
         for (const char16_t unit : units) {
             if (unit >= kFirstNegative)
                 throw systemError(kOverflow);
@@ -111,7 +103,7 @@ void SegmentWriter::WriteWideString(std::string_view text)
 
 void SegmentWriter::writeTerminated(std::string_view text)
 {
-    reported("Temp file write string", [&] {
+    reported(m_reporter, "Temp file write string", [&] {
         writeBytes(codePageBytes(text));
         writeZeros(1);
     });
@@ -120,6 +112,7 @@ void SegmentWriter::writeTerminated(std::string_view text)
 void SegmentWriter::writeBytes(std::span<const std::uint8_t> bytes)
 {
     m_file.write(bytes);
+    m_written += static_cast<std::int64_t>(bytes.size());
 }
 
 /// The lowest `size` bytes of `number`, in the byte order of the moment.
@@ -136,6 +129,13 @@ void SegmentWriter::writeNumber(std::int64_t number, std::size_t size)
 void SegmentWriter::writeZeros(std::size_t count)
 {
     writeBytes(std::vector<std::uint8_t>(count));
+}
+
+void checkSegmentLength(std::int64_t said, std::int64_t written)
+{
+    if (written != said)
+        throw Error{kInvalidCall, "The segment would have " + std::to_string(written) + " bytes, but its length says " +
+                                      std::to_string(said)};
 }
 
 } // namespace ovisto

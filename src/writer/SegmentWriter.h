@@ -20,7 +20,8 @@ public:
 
     /// The bytes that pairs of hexadecimal digits name. A digit left over at the end stands for both digits of a byte.
     void WriteHex(std::string_view hex);
-    /// A segment's length, 16 bits that count themselves, and the bytes of `hex`.
+    /// A segment's length, 16 bits that count themselves, and the bytes of `hex`. Raises kInvalidCall when a digit left
+    /// over makes more bytes than the length says.
     void WriteSegmentHex(std::string_view hex);
     /// 16 bits. Raises kOverflow, after two bytes all the same, for what is not 0 to 65535.
     void WriteInteger(std::int64_t number);
@@ -34,16 +35,22 @@ public:
     /// One byte a character, and one zero byte.
     void writeTerminated(std::string_view text);
 
+    /// Bytes written so far.
+    std::int64_t written() const { return m_written; }
+
     ErrorReporter& reporter() { return m_reporter; }
 
 private:
     void writeBytes(std::span<const std::uint8_t> bytes);
     void writeNumber(std::int64_t number, std::size_t size);
     void writeZeros(std::size_t count);
-    template<class Step> void reported(const std::string& context, Step step);
-
     OutputFile& m_file;
     ErrorReporter& m_reporter;
+    std::int64_t m_written = 0;
 };
+
+/// Raises kInvalidCall when a segment of `said` bytes was written with `written` bytes: whatever follows it in the file
+/// could not be found any more.
+void checkSegmentLength(std::int64_t said, std::int64_t written);
 
 } // namespace ovisto

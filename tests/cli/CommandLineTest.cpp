@@ -77,8 +77,21 @@ TEST(CommandLine, ChangesFilesNamedInEveryWay)
               0);
     EXPECT_EQ(titleOf(first) + titleOf(third), "");
     EXPECT_EQ(ovisto({"add", "/JPEG/Exif[@id='FFE1']/IFD1/THUM", first}).status, 0);
-    EXPECT_TRUE(loadDocument(first).selectSingleNode("//IFD1/THUM") || loadDocument(first).selectSingleNode("//IFD1"));
+    EXPECT_TRUE(loadDocument(first).selectSingleNode("//IFD1"));
+    EXPECT_EQ(ovisto({"set", "/JPEG/Exif[@id='FFE1']/IFD[@id='8298']", "\xA9 2024", first}).status, 0);
+    EXPECT_EQ(loadDocument(first).selectSingleNode("//IFD[@id='8298']").text(), "© 2024") << "from a Latin-1 terminal";
     EXPECT_EQ(folder.names().size(), 4U) << "no temporary file stays";
+}
+
+TEST(CommandLine, DoesNotDestroyAFileThatHasATemporaryName)
+{
+    const TemporaryFolder folder;
+    const std::string first = folder.file("a.jpg", JpegBytes().app0().end());
+    const std::string second = folder.file("~a.jpg", JpegBytes().app0().end());
+    expectOneLine(ovisto({"set", kTitle, "New", first, second}), first, "temporary file");
+    EXPECT_EQ(titleOf(first) + titleOf(second), "New");
+    EXPECT_EQ(ovisto({"export", first, second}).status, 0);
+    EXPECT_EQ(folder.names(), (std::vector<std::string>{"a.jpg", "a.jpg.XML", "~a.jpg", "~a.jpg.XML"}));
 }
 
 TEST(CommandLine, WritesAFileFromItsOwnOrAnEditedDocument)
@@ -97,8 +110,12 @@ TEST(CommandLine, WritesAFileFromItsOwnOrAnEditedDocument)
     const Bytes before = contentOf(path);
     expectOneLine(ovisto({"write", "--document", documentPath, path}), path, "before it was changed");
     folder.file("edited.xml", "<HTML/>");
-    expectOneLine(ovisto({"write", "--document", documentPath, path}), path, "HTML");
+    expectOneLine(ovisto({"write", "--document", documentPath, path}), path, "The root element is not JPEG");
     expectOneLine(ovisto({"write", "--document", folder.path("none.xml"), path}), path, "File not found");
+    std::string withoutScan = ovisto({"xml", path}).output;
+    withoutScan.erase(withoutScan.find("<SOS"), withoutScan.find("<IMG") - withoutScan.find("<SOS"));
+    folder.file("edited.xml", withoutScan);
+    expectOneLine(ovisto({"write", "--document", documentPath, path}), path, "describes another image");
     EXPECT_EQ(contentOf(path), before);
     EXPECT_EQ(ovisto({"write", path}).status, 0);
     EXPECT_EQ(contentOf(path), before);
@@ -159,6 +176,7 @@ TEST(CommandLine, RefusesNodesThatItCannotChange)
         {{"set", "/JPEG/Exif[@id='FFE1']/IFD[@id='ABCD']", "1"}, "The tag dictionary has no node "},
         {{"delete", "nonsense["}, "The tag dictionary has no node nonsense["},
         {{"set", "/JPEG/Exif[@id='FFE1']/IFDE", "1"}, "I don't know what type of data this node requires"},
+        {{"set", "//namespace::*", "1"}, "The tag dictionary has no node "},
         {{"delete", "/JPEG/SOS"}, "The image cannot be shown without this node"},
         {{"set", "/JPEG/Exif[@id='FFE1']/IFD[@id='0112']", "up"}, "Data format 3 error:up: Type mismatch"},
         {{"set", "/JPEG/Exif[@id='FFE1']/IFD[@id='0112']", ""}, "Data format 3 error:: Type mismatch"},
@@ -204,6 +222,7 @@ TEST(CommandLine, TellsUsageFromFailure)
                                                       {"xml", "--no-such-option", "a.jpg"}})
         EXPECT_EQ(ovisto(arguments).status, 2);
     expectOneLine(ovisto({"xml", "--files-from", folder.path("none")}), folder.path("none"), "");
+    expectOneLine(ovisto({"xml", "--files-from", folder.path(".")}), folder.path("."), "Path/File access error");
     EXPECT_EQ(ovisto({"xml", "--files-from", "-"}).status, 0) << "an empty list is done at once";
 }
 

@@ -75,6 +75,22 @@ TEST(NodeChange, RemovesTheCompanionOfADeletedContainer)
     }
 }
 
+TEST(NodeChange, DoesNotWriteWhatCouldNotBeMadeInFull)
+{
+    const TemporaryFolder folder;
+    const Bytes before = JpegBytes().app0().end();
+    const std::string path = folder.file("a.jpg", before);
+    XmlDocument poor; // a dictionary without the pointer to IFDE
+    ASSERT_FALSE(poor.loadText("<JPEG><Exif id='FFE1'><IFDE><IFD id='9003' d='2'/></IFDE></Exif></JPEG>"));
+    RecordingReporter reporter;
+    EXPECT_NE(errorNumberOf([&] {
+                  changeFile(path, {NodeAction::Set, poor.selectSingleNode("//IFD"), "x"}, reporter);
+              }),
+              0);
+    EXPECT_EQ(contentOf(path), before);
+    EXPECT_EQ(reporter.contexts.size(), 1U);
+}
+
 TEST(NodeChange, ObjectsToValuesWithoutATypeAndToSpoilingTheImage)
 {
     EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE")),
@@ -84,6 +100,8 @@ TEST(NodeChange, ObjectsToValuesWithoutATypeAndToSpoilingTheImage)
     for (const char* path : {"/JPEG", "/JPEG/SOS", "/JPEG/IMG", "/JPEG/APP1[@id='FFDB']"})
         EXPECT_NE(objection(changeOf(NodeAction::Delete, path)), "") << path;
     EXPECT_EQ(objection(changeOf(NodeAction::Delete, "/JPEG/APP1[@id='FFFE']")), "");
+    EXPECT_NE(objection(changeOf(NodeAction::Add, "/JPEG/APP1[@id='FFC1']")), "");
+    EXPECT_NE(objection(changeOf(NodeAction::Delete, kExif + "/IFD[@id='8769']")), "") << "it would take IFDE along";
 }
 
 TEST(XmlExport, WritesTheDocumentWithoutBookkeeping)
@@ -91,7 +109,9 @@ TEST(XmlExport, WritesTheDocumentWithoutBookkeeping)
     const TemporaryFolder folder;
     const XmlDocument document =
         documentOf("<JPEG lo='1' label='L'><IFD leafIndex='x000001' o='1' l='2' s='0' d='2'>\u00E9</IFD></JPEG>");
-    exportDocument(document, folder.path("photo.jpg"));
+    RecordingReporter reporter;
+    exportDocument(document, folder.path("photo.jpg"), reporter);
+    EXPECT_NE(document.xml().find("leafIndex"), std::string::npos) << "the document itself stays as it is";
     EXPECT_EQ(contentOf(folder.path("photo.jpg.XML")), bytes("<JPEG label=\"L\"><IFD d=\"2\">\u00E9</IFD></JPEG>\n"));
 }
 

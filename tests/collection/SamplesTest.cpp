@@ -1,11 +1,9 @@
 // Rewrites real photographs and lets another program say whether they still tell the same.
 
-#include "collection/MetadataDocument.h"
-#include "collection/NodeChange.h"
 #include "support/CommandRun.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
-#include "writer/JpegDocument.h"
+#include "support/Rewriting.h"
 
 #include <gtest/gtest.h>
 
@@ -95,7 +93,7 @@ void rewriteAll(const std::string& folder, Rewritten& rewritten)
     for (const fs::path& original : photographs(folder)) {
         const std::string copy = rewritten.folder.file(std::to_string(number++) + ".jpg", contentOf(original));
         RecordingReporter reporter;
-        const int error = errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(loadDocument(copy), copy); });
+        const int error = errorNumberOf([&] { rewrite(copy, reporter); });
         if (const Exception* exception = exceptionFor(original, "")) {
             EXPECT_NE(error, 0) << original << ": " << exception->why;
             EXPECT_EQ(contentOf(copy), contentOf(original));
@@ -165,10 +163,10 @@ TEST_P(Samples, AreOnlyShortenedByASecondRewrite)
         const TemporaryFolder folder;
         const std::string copy = folder.file("a.jpg", contentOf(original));
         RecordingReporter reporter;
-        if (errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(loadDocument(copy), copy); }) != 0)
+        if (errorNumberOf([&] { rewrite(copy, reporter); }) != 0)
             continue;
         const XmlDocument once = loadDocument(copy);
-        JpegDocument(reporter).WriteJpeg(loadDocument(copy), copy);
+        rewrite(copy, reporter);
         const XmlDocument twice = loadDocument(copy);
         const auto before = once.selectNodes("//IFD[@d!='1' and @d!='6' and @d!='4'] | //Exif1 | //MAKE | //APP1");
         const auto after = twice.selectNodes("//IFD[@d!='1' and @d!='6' and @d!='4'] | //Exif1 | //MAKE | //APP1");

@@ -20,8 +20,9 @@ TEST(Hex, ReadsDigitsOfEitherCaseAndTakesOthersForZero)
 
 TEST(Hex, WritesTwoUpperCaseDigitsPerByteAndNumbersOfAWidth)
 {
-    EXPECT_EQ(hexRun(std::vector<std::uint8_t>{0x0A, 0xFF, 0xE1}), "0AFFE1");
-    EXPECT_EQ(hexRun({}), "");
+    std::string run = "x";
+    appendHexRun(run, std::vector<std::uint8_t>{0x0A, 0xFF, 0xE1});
+    EXPECT_EQ(run, "x0AFFE1");
     EXPECT_EQ(hexNumber(0), "0");
     EXPECT_EQ(hexNumber(0xFFDB), "FFDB");
     EXPECT_EQ(hexNumber(0x10F, 4), "010F");

@@ -173,6 +173,8 @@ Bytes ExifBytes::payload()
            directoryBytes("IFD1", ifd1Start, 0) + m_thumbnail;
 }
 
+JpegBytes::JpegBytes() : m_bytes({0xFF, 0xD8}) {}
+
 JpegBytes& JpegBytes::segment(std::uint16_t marker, const Bytes& payload)
 {
     const std::size_t length = payload.size() + 2;

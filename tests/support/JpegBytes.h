@@ -59,6 +59,7 @@ private:
 /// Builds a JPEG file segment by segment.
 class JpegBytes {
 public:
+    JpegBytes();
     JpegBytes& segment(std::uint16_t marker, const Bytes& payload);
     JpegBytes& app0() { return segment(0xFFE0, {'J', 'F', 'I', 'F', 0, 1, 1, 0, 0, 1, 0, 1, 0, 0}); }
     JpegBytes& exif(ExifBytes& exif) { return segment(0xFFE1, exif.payload()); }
@@ -68,7 +69,7 @@ public:
     Bytes unfinished() const { return m_bytes; }
 
 private:
-    Bytes m_bytes = {0xFF, 0xD8};
+    Bytes m_bytes;
 };
 
 /// A folder that is there for one test.

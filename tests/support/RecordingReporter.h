@@ -21,7 +21,7 @@ public:
 };
 
 /// The number of the error that `step` raises; 0 for none.
-template<class Step> int errorNumberOf(Step step)
+template <class Step> int errorNumberOf(Step step)
 {
     ErrorTrap trap;
     trap.run(step);

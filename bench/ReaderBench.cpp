@@ -1,0 +1,57 @@
+// Times the engine's steps on one photograph: build/release/bin/reader-bench PHOTOGRAPH
+// bench/compare.sh holds whole commands against other programs.
+
+#include "collection/MetadataDocument.h"
+#include "common/ErrorReport.h"
+#include "writer/JpegDocument.h"
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+namespace {
+
+std::string photograph;
+
+class Silent : public ovisto::ErrorReporter {
+public:
+    void report(const std::string& /*context*/, const ovisto::Error& /*error*/) override {}
+};
+
+void translate(benchmark::State& state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(ovisto::JpegXml().XMLtranslate(photograph).text);
+}
+BENCHMARK(translate);
+
+void parseDocument(benchmark::State& state)
+{
+    const std::string text = ovisto::JpegXml().XMLtranslate(photograph).text;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(ovisto::documentOf(text));
+}
+BENCHMARK(parseDocument);
+
+void rewriteSynced(benchmark::State& state)
+{
+    ovisto::XmlDocument document = ovisto::loadDocument(photograph);
+    Silent reporter;
+    for (auto _ : state)
+        ovisto::JpegDocument(reporter).WriteJpeg(document, photograph);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    if (argc < 2)
+        return 2;
+    photograph = argv[1];
+    const bool mayRewrite = argc > 2 && std::string(argv[2]) == "--rewrite";
+    if (mayRewrite)
+        benchmark::RegisterBenchmark("rewriteSynced", rewriteSynced);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
