@@ -67,6 +67,16 @@ XmlParseError parseError(const xmlError& error, std::string_view source)
             .srcText = std::string(lineOf(source, error.line))};
 }
 
+/// Hands the parser what comes next in a text, so that it need not copy the whole. `rest` is the std::string_view of
+/// it.
+int readText(void* rest, char* buffer, int size)
+{
+    auto& text = *static_cast<std::string_view*>(rest);
+    const std::size_t count = text.copy(buffer, static_cast<std::size_t>(size));
+    text.remove_prefix(count);
+    return static_cast<int>(count);
+}
+
 XmlParseError outOfMemory()
 {
     return {.code = XML_ERR_NO_MEMORY,
@@ -140,8 +150,9 @@ std::optional<XmlParseError> XmlDocument::loadText(std::string_view text)
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
     // Only without its limits does the parser take a long run of digits for one text, but also any depth of nesting.
     const bool mayHoldLongText = text.size() > XML_MAX_TEXT_LENGTH;
-    xmlDoc* doc = xmlCtxtReadMemory(context.get(), text.data(), static_cast<int>(text.size()), nullptr, "UTF-8",
-                                    kParseOptions | (mayHoldLongText ? XML_PARSE_HUGE : 0));
+    std::string_view rest = text;
+    xmlDoc* doc = xmlCtxtReadIO(context.get(), readText, nullptr, &rest, nullptr, "UTF-8",
+                                kParseOptions | (mayHoldLongText ? XML_PARSE_HUGE : 0));
     if (doc == nullptr)
         return parseError(context->lastError, text);
     m_content = std::make_unique<Content>(doc);

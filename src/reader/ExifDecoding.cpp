@@ -88,7 +88,7 @@ void JpegXml::appendBytes(std::string_view name, FilePos first, std::int64_t len
     std::string bytes;
     m_decoding.run([&] { bytes = reader().ReadHexString(first, length); });
     const std::string element(name);
-    append("<" + element + xmlAtt("d", "1") + ">" + bytes + "</" + element + ">" + std::string(end));
+    appendElement("<" + element + xmlAtt("d", "1") + ">", bytes, "</" + element + ">" + std::string(end));
 }
 
 /// An APP1 segment of another kind (XMP, say) is kept as text, as it stands.
@@ -96,8 +96,8 @@ void JpegXml::scanOtherApp1(std::uint16_t markLen, FilePos pointer, const std::s
 {
     const auto identifierLength = static_cast<std::int64_t>(characterCount(identifier));
     const std::string payload = reader().ReadString(pointer + 5 + identifierLength, markLen - identifierLength - 3);
-    append("<Exif1" + xmlAtt("id", "FFE1") + xmlAtt("ns", identifier) + xmlAtt("d", "2") + ">\r\n<![CDATA[" + payload +
-           "]]></Exif1>\r\n");
+    appendElement("<Exif1" + xmlAtt("id", "FFE1") + xmlAtt("ns", identifier) + xmlAtt("d", "2") + ">\r\n<![CDATA[",
+                  payload, "]]></Exif1>\r\n");
 }
 
 /// Reads one directory.
@@ -132,11 +132,11 @@ void JpegXml::appendEntry(const IfdEntry& entry)
     EntryValue value{.dataType = entryDataType(entry), .text = {}};
     m_decoding.run([&] { value = entryValue(reader(), entry); });
     m_decoding.run([&] { recordPointer(entry, value.dataType, value.text); });
-    constexpr std::string_view kEnd = "</IFD>\r\n";
-    const std::string start =
-        "<IFD" + xmlAtt("id", hexNumber(entry.tag, 4)) + xmlAtt("d", std::int64_t{value.dataType}) + ">";
-    reader().charge(static_cast<std::int64_t>(start.size() + value.text.size() + kEnd.size()));
-    m_text.append(start).append(value.text).append(kEnd);
+    std::string openingTag = "<IFD";
+    openingTag.append(xmlAtt("id", hexNumber(entry.tag, 4)))
+        .append(xmlAtt("d", std::int64_t{value.dataType}))
+        .append(">");
+    appendElement(openingTag, value.text, "</IFD>\r\n");
 }
 
 /// Remembers where an entry says that other parts of the segment are. The text counts, as it is what a document tells.

@@ -41,6 +41,8 @@ Translation JpegXml::XMLtranslate(const std::string& FileName, const KeepOptions
         return {.text = {},
                 .error = Error{kStructureError, "Not a JPEG file - hFFD8 expected at start of file " + FileName}};
 
+    constexpr std::size_t kUsualSize = std::size_t{64} * 1024;
+    m_text.reserve(kUsualSize);
     const auto [folder, name] = splitPath(FileName);
     m_text += "<JPEG" + xmlAtt("d", "1") + xmlAtt("folder", folder) + xmlAtt("fileName", name) + ">\r\n";
     trap.run([&] { scanSegments(FileName); });
@@ -91,7 +93,7 @@ void JpegXml::MarkerScan(std::uint16_t markNo, std::uint16_t markLen, std::strin
     const std::string name(markName);
     const std::string id = name == "APP1" ? xmlAtt("id", hexNumber(markNo)) : std::string();
     const std::string payload = reader().ReadHexString(pointer + 4, std::int64_t{markLen} - 2);
-    append("<" + name + id + xmlAtt("d", "1") + ">" + payload + "</" + name + ">\r\n");
+    appendElement("<" + name + id + xmlAtt("d", "1") + ">", payload, "</" + name + ">\r\n");
 }
 
 void JpegXml::appendImage(FilePos firstByte)
@@ -100,10 +102,14 @@ void JpegXml::appendImage(FilePos firstByte)
     append("<IMG" + xmlAtt("offset", firstByte.value) + xmlAtt("length", length) + xmlAtt("d", "1") + "></IMG>");
 }
 
-void JpegXml::append(std::string_view text)
+/// Appends the whole of an element, or nothing when the text has reached its limit.
+void JpegXml::appendElement(std::string_view openingTag, std::string_view content, std::string_view closingTag)
 {
-    reader().charge(static_cast<std::int64_t>(text.size()));
-    m_text += text;
+    const std::size_t size = openingTag.size() + content.size() + closingTag.size();
+    reader().charge(static_cast<std::int64_t>(size));
+    if (content.size() > m_text.size())
+        m_text.reserve(2 * m_text.size() + size); // so that the few characters behind a huge value do not double it
+    m_text.append(openingTag).append(content).append(closingTag);
 }
 
 } // namespace ovisto

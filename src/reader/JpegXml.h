@@ -53,7 +53,8 @@ private:
     template <class Content>
     void appendContainer(const std::string& openingTag, Content content, std::string_view closingTag);
 
-    void append(std::string_view text);
+    void append(std::string_view text) { appendElement(text, {}, {}); }
+    void appendElement(std::string_view openingTag, std::string_view content, std::string_view closingTag);
     ByteReader& reader() { return *m_reader; }
 
     /// What the entries of an Exif segment say of the places of its other parts; 0 where they say nothing.
