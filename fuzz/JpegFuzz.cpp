@@ -20,7 +20,8 @@ public:
 /// A file in memory where the system has such a folder, so that the disk is not what is tested.
 std::string scratchFile()
 {
-    std::string folder = std::filesystem::is_directory("/dev/shm") ? "/dev/shm/ovisto-fuzz-XXXXXX" : "ovisto-fuzz-XXXXXX";
+    std::string folder =
+        std::filesystem::is_directory("/dev/shm") ? "/dev/shm/ovisto-fuzz-XXXXXX" : "ovisto-fuzz-XXXXXX";
     if (mkdtemp(folder.data()) == nullptr)
         std::abort();
     return folder + "/a.jpg";

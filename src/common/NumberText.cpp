@@ -50,7 +50,7 @@ std::string numberText(std::int64_t number)
         return std::to_string(number);
     constexpr int kDigits = 7;
     std::array<char, 32> text{};
-    const auto end =
+    auto* const end =
         std::to_chars(text.begin(), text.end(), static_cast<float>(number), std::chars_format::general, kDigits).ptr;
     std::replace(text.begin(), end, 'e', 'E');
     return {text.begin(), end};
