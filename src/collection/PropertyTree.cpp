@@ -1,6 +1,9 @@
 #include "collection/PropertyTree.h"
 
+#include "common/DataType.h"
+#include "common/Error.h"
 #include "common/NodePath.h"
+#include "common/NumberText.h"
 
 namespace ovisto {
 
@@ -27,6 +30,14 @@ std::vector<PropertyItem> propertyTree(const XmlDocument& document, const TagDic
     if (const XmlNode root = document.documentElement())
         appendItems(items, root, dictionary, technical, 0);
     return items;
+}
+
+int dataTypeOf(const XmlNode& node)
+{
+    int dataType = 0;
+    ErrorTrap trap;
+    trap.run([&] { dataType = attributeToLong(AttributeGet(node, "d")); });
+    return dataType == 0 ? kUndefined : dataType;
 }
 
 } // namespace ovisto
