@@ -91,13 +91,12 @@ void PlacementSave(const QWidget& window, Settings& settings, const QString& key
         key, joined({place.x() * kTwips, place.y() * kTwips, place.width() * kTwips, place.height() * kTwips}));
 }
 
-void splitterLoad(QSplitter& splitter, const Settings& settings)
+void splitterLoad(QSplitter& splitter, const Settings& settings, const QString& whenMissing)
 {
-    const QList<int> sizes = numbers(settings.GetSetting(splitter.objectName(), {}));
+    const QList<int> sizes = numbers(settings.GetSetting(splitter.objectName(), whenMissing));
     const bool sensible =
         sizes.size() == splitter.count() && std::ranges::all_of(sizes, [](int size) { return size > 0; });
-    if (sensible)
-        splitter.setSizes(sizes);
+    splitter.setSizes(sensible ? sizes : numbers(whenMissing));
 }
 
 void splitterSave(const QSplitter& splitter, Settings& settings)

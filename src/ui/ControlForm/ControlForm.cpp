@@ -36,12 +36,20 @@ constexpr OptionSetting kOptionSettings[] = {
     {"ShowTechnical", &Ui::ControlForm::menuShowTechnical, false},
 };
 
-constexpr QSplitter* Ui::ControlForm::*kSplitters[] = {
-    &Ui::ControlForm::ControlFormColumns,
-    &Ui::ControlForm::ControlFormLists,
-    &Ui::ControlForm::ControlFormPicture,
-    &Ui::ControlForm::ControlFormProperties,
+/// The splitters, and how they divide a window of the size of a first run.
+struct SplitterSetting {
+    QSplitter* Ui::ControlForm::*splitter;
+    const char* whenMissing;
 };
+
+constexpr SplitterSetting kSplitterSettings[] = {
+    {&Ui::ControlForm::ControlFormColumns, "205,300,258"},
+    {&Ui::ControlForm::ControlFormLists, "310,210"},
+    {&Ui::ControlForm::ControlFormPicture, "270,250"},
+    {&Ui::ControlForm::ControlFormProperties, "240,280"},
+};
+
+constexpr int kFirstLine = 4; ///< pixels from the top of a box to its first line
 
 /// Whether the focus went to another control of the window, and not only for a while to a menu or another window.
 bool isLeaving(const QFocusEvent& event)
@@ -67,13 +75,12 @@ ControlForm::ControlForm(TagDictionary dictionary, const Surroundings& surroundi
         {OsProperty::Comments, ui.FileComments, &DittoComments},
         {OsProperty::Keywords, ui.FileKeywords, &DittoKeywords},
     }};
-    const QStyle& icons = *style();
-    ui.FilePickerPrev->setIcon(icons.standardIcon(QStyle::SP_ArrowBack));
-    ui.FilePickerNext->setIcon(icons.standardIcon(QStyle::SP_ArrowForward));
-    const int markSize = icons.pixelMetric(QStyle::PM_SmallIconSize);
-    ui.SaveWarning->setPixmap(icons.standardIcon(QStyle::SP_MessageBoxWarning).pixmap(markSize));
+    const int markSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    ui.SaveWarning->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(markSize));
     ui.SaveWarning->hide();
     ui.FilesFoundList->setModel(&m_found);
+    for (QLabel* caption : {ui.FileCommentsL, ui.FileKeywordsL})
+        caption->setContentsMargins(0, kFirstLine, 0, 0);
     // Of another part of the program that is to come.
     for (QAbstractButton* button : {ui.SlideShower, ui.BatchShower})
         button->setEnabled(false);
@@ -89,7 +96,7 @@ void ControlForm::connectControls()
     m_selection.setSingleShot(true);
     connect(&m_selection, &QTimer::timeout, this, &ControlForm::OpenSelectedFile);
     // A list that is still busy with the mouse must not change, so the file is opened a moment later.
-    connect(ui.FilesFoundList->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+    connect(ui.FilesFoundList->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!ControlsUpdating)
             m_selection.start();
     });
@@ -100,8 +107,8 @@ void ControlForm::connectControls()
     const auto pickPrevious = [this] { pickFile(*ui.FilePickerPrev, &FoundFiles::previous); };
     const auto pickNext = [this] { pickFile(*ui.FilePickerNext, &FoundFiles::next); };
     connect(ui.FileFinder, &QPushButton::clicked, this, &ControlForm::findFiles);
-    connect(ui.FilePickerPrev, &QPushButton::clicked, this, pickPrevious);
-    connect(ui.FilePickerNext, &QPushButton::clicked, this, pickNext);
+    connect(ui.FilePickerPrev, &QToolButton::clicked, this, pickPrevious);
+    connect(ui.FilePickerNext, &QToolButton::clicked, this, pickNext);
     connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, pickPrevious);
     connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, pickNext);
     connect(ui.KeywordLoader, &QPushButton::clicked, this, &ControlForm::chooseKeywords);
@@ -112,10 +119,12 @@ void ControlForm::connectControls()
     connect(ui.FileSaver, &QPushButton::clicked, this, &ControlForm::saveAndReopen);
     connect(ui.FileReset, &QPushButton::clicked, this, &ControlForm::reset);
     connect(ui.FilePropPaster, &QPushButton::clicked, this, &ControlForm::ditto);
-    connect(ui.NodeTree, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
+    // Not the current item, which is there as soon as the tree has the focus.
+    connect(ui.NodeTree, &QTreeWidget::itemSelectionChanged, this, [this] {
         if (!ControlsUpdating)
-            nodeClicked(item);
+            nodeClicked(selectedItem());
     });
+    connect(ui.ViewHexOpt, &QCheckBox::toggled, this, &ControlForm::setValueFont);
     connect(ui.ViewHexOpt, &QCheckBox::toggled, this, [this] {
         if (!ControlsUpdating)
             ShowNodeValue();
@@ -155,8 +164,8 @@ void ControlForm::loadSettings()
     const Settings& settings = m_surroundings.settings;
     const QString folder = pathText(m_surroundings.folders.data);
     PlacementLoad(*this, settings, objectName(), QStringLiteral("0,0,11655,8505"));
-    for (auto splitter : kSplitters)
-        splitterLoad(*(ui.*splitter), settings);
+    for (const SplitterSetting& setting : kSplitterSettings)
+        splitterLoad(*(ui.*setting.splitter), settings, QLatin1String(setting.whenMissing));
     loadKeywords(toPath(settings.GetSetting(QStringLiteral("Keywords"), folder + QStringLiteral("keywords.txt"))));
     m_scan = loadScanSettings(settings, folder);
     for (const OptionSetting& option : kOptionSettings)
@@ -167,8 +176,8 @@ void ControlForm::saveSettings()
 {
     Settings& settings = m_surroundings.settings;
     PlacementSave(*this, settings, objectName());
-    for (auto splitter : kSplitters)
-        splitterSave(*(ui.*splitter), settings);
+    for (const SplitterSetting& setting : kSplitterSettings)
+        splitterSave(*(ui.*setting.splitter), settings);
     saveScanSettings(m_scan, settings);
     for (const OptionSetting& option : kOptionSettings)
         settings.saveChoice(QLatin1String(option.key), (ui.*option.item)->isChecked());
@@ -292,7 +301,8 @@ void ControlForm::listFiles(std::vector<std::string> found)
 
 int ControlForm::selectedFile() const
 {
-    return ui.FilesFoundList->currentIndex().row();
+    const QModelIndexList selected = ui.FilesFoundList->selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.first().row();
 }
 
 /// Selects the file in `row`, also when it is selected already, and opens it.
@@ -305,7 +315,7 @@ void ControlForm::selectFile(int row)
     OpenSelectedFile();
 }
 
-void ControlForm::pickFile(QPushButton& button, std::optional<int> (FoundFiles::*neighbour)(int) const)
+void ControlForm::pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const)
 {
     moveFocusTo(button);
     if (OfferSave(false) == SaveResult::Failed)

@@ -75,7 +75,7 @@ private:
     void listFiles(std::vector<std::string> found);
     int selectedFile() const;
     void selectFile(int row);
-    void pickFile(QPushButton& button, std::optional<int> (FoundFiles::*neighbour)(int) const);
+    void pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const);
 
     // The file shown
     void OpenSelectedFile();
@@ -102,11 +102,13 @@ private:
     QTreeWidgetItem* LoadLeaf(const Leaf& leaf, QTreeWidgetItem* parent);
     std::string LeafXPathForItem(const QTreeWidgetItem& item) const;
     XmlNode DocNodeForItem(const QTreeWidgetItem& item) const;
+    QTreeWidgetItem* selectedItem() const;
     void removeItem(const std::string& key);
 
     // The node selected
     void nodeClicked(const QTreeWidgetItem* item);
     void ShowNodeValue();
+    void setValueFont(bool hexadecimal);
     void loadThumbnail();
     void nodeTextChanged();
     void leaveNodeText();

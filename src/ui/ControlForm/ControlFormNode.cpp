@@ -13,6 +13,7 @@
 #include "ui/ControlForm/LeafTree.h"
 #include "ui/NodeAddForm/NodeAddForm.h"
 
+#include <QFontDatabase>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -90,6 +91,12 @@ XmlNode ControlForm::DocNodeForItem(const QTreeWidgetItem& item) const
     return JpegDoc.selectSingleNode(LeafXPathForItem(item));
 }
 
+QTreeWidgetItem* ControlForm::selectedItem() const
+{
+    const QList<QTreeWidgetItem*> selected = ui.NodeTree->selectedItems();
+    return selected.isEmpty() ? nullptr : selected.first();
+}
+
 /// Removes the item with `key`, and those below it, from the tree.
 void ControlForm::removeItem(const std::string& key)
 {
@@ -144,6 +151,12 @@ void ControlForm::ShowNodeValue()
         ui.NodeText->putText(toQString(translatedText(CurrentNode.text())));
         ui.NodeText->setReadOnly(true);
     }
+}
+
+/// Gives the digits of a hexadecimal text the same width.
+void ControlForm::setValueFont(bool hexadecimal)
+{
+    ui.NodeText->setFont(hexadecimal ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : font());
 }
 
 /// Reads the thumbnail in CurrentNode, by way of a file that is there for the moment only.
@@ -202,11 +215,11 @@ void ControlForm::addNode()
 
 void ControlForm::deleteNode()
 {
-    if (!CurrentNode)
+    if (!CurrentNode || selectedItem() == nullptr)
         return;
     {
         const QScopedValueRollback updating(ControlsUpdating, true);
-        QTreeWidgetItem* item = ui.NodeTree->currentItem();
+        const QTreeWidgetItem* item = selectedItem();
         const std::string path = textOf(*item, kPathRole);
         CurrentNode.remove();
         delete item;
@@ -214,8 +227,9 @@ void ControlForm::deleteNode()
         // An entry that pointed to a directory stays in the tree; clicking it tells that its node is gone.
         if (companion && companion.name() != "IFD")
             removeItem(AttributeGet(companion, "leafIndex"));
+        ui.NodeTree->setCurrentItem(ui.NodeTree->currentItem());
     }
-    nodeClicked(ui.NodeTree->currentItem());
+    nodeClicked(selectedItem());
     MarkChanged();
 }
 

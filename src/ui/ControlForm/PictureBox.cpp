@@ -7,7 +7,7 @@
 
 namespace ovisto {
 
-PictureBox::PictureBox(QWidget* parent) : QWidget(parent)
+PictureBox::PictureBox(QWidget* parent) : QFrame(parent)
 {
     constexpr int kSettled = 150; // milliseconds after which a size is taken for the final one
     m_resized.setSingleShot(true);
@@ -42,13 +42,15 @@ QSize PictureBox::sizeHint() const
     return {320, 240};
 }
 
-void PictureBox::paintEvent(QPaintEvent* /*event*/)
+void PictureBox::paintEvent(QPaintEvent* event)
 {
+    QFrame::paintEvent(event);
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (m_picture.isNull()) {
         painter.setPen(palette().color(QPalette::WindowText));
-        painter.drawText(rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap, m_message);
+        painter.drawText(rect().marginsRemoved({8, 8, 8, 8}), Qt::AlignCenter | Qt::TextWordWrap,
+                         m_message.isEmpty() ? m_placeholder : m_message);
         return;
     }
     // Larger than the pane only until fitAgain() runs.
@@ -73,7 +75,7 @@ void PictureBox::mouseReleaseEvent(QMouseEvent* event)
 /// In pixels of the screen, which may be finer than those of the layout.
 QSize PictureBox::paneSize() const
 {
-    return (QSizeF(size()) * devicePixelRatioF()).toSize().expandedTo({1, 1});
+    return (QSizeF(contentsRect().size()) * devicePixelRatioF()).toSize().expandedTo({1, 1});
 }
 
 void PictureBox::fitAgain()

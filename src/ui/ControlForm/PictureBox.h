@@ -2,16 +2,16 @@
 
 #include "common/ErrorReport.h"
 
+#include <QFrame>
 #include <QImage>
 #include <QTimer>
-#include <QWidget>
 
 #include <string>
 
 namespace ovisto {
 
 /// A pane that shows the picture in a file, decoded at the size of the pane.
-class PictureBox : public QWidget {
+class PictureBox : public QFrame {
     Q_OBJECT
 
 public:
@@ -22,6 +22,9 @@ public:
     void showFile(const std::string& path, ErrorReporter& reporter);
     void showPicture(const QImage& picture);
     void clear();
+
+    /// What the pane says when nothing is shown.
+    void setPlaceholder(const QString& text) { m_placeholder = text; }
 
     const QImage& picture() const { return m_picture; }
     QSize sizeHint() const override;
@@ -40,7 +43,8 @@ private:
 
     std::string m_path; ///< empty when nothing is shown, or what is shown comes from no file
     QImage m_picture;
-    QString m_message;
+    QString m_placeholder;
+    QString m_message; ///< why the file is not shown
     QTimer m_resized;
 };
 
