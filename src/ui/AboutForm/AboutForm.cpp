@@ -49,12 +49,12 @@ void AboutForm::showSystemInfo()
     if (startSystemTool())
         return;
     QStringList lines;
-    lines << tr("System: %1").arg(QSysInfo::prettyProductName())
-          << tr("Kernel: %1 %2").arg(QSysInfo::kernelType(), QSysInfo::kernelVersion())
-          << tr("Computer: %1").arg(QSysInfo::machineHostName())
-          << tr("Processor: %1, %n core(s)", nullptr, QThread::idealThreadCount())
-                 .arg(QSysInfo::currentCpuArchitecture())
-          << tr("Window system: %1").arg(QGuiApplication::platformName());
+    lines
+        << tr("System: %1").arg(QSysInfo::prettyProductName())
+        << tr("Kernel: %1 %2").arg(QSysInfo::kernelType(), QSysInfo::kernelVersion())
+        << tr("Computer: %1").arg(QSysInfo::machineHostName())
+        << tr("Processor: %1, %n core(s)", nullptr, QThread::idealThreadCount()).arg(QSysInfo::currentCpuArchitecture())
+        << tr("Window system: %1").arg(QGuiApplication::platformName());
     for (const QScreen* screen : QGuiApplication::screens()) {
         const QSize size = screen->size() * screen->devicePixelRatio();
         lines << tr("Screen: %1 x %2").arg(size.width()).arg(size.height());

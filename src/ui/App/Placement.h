@@ -26,8 +26,8 @@ std::optional<QRect> placement(const QString& text);
 /// `place` made no larger than the screen that shows most of it, the first one when none does, and moved into it.
 QRect movedOnto(const QList<QRect>& screens, const QRect& place);
 
-/// The sizes of the parts of a splitter, kept under its object name, joined by ",". `whenMissing` stands in for a setting
-/// that is missing or makes no sense.
+/// The sizes of the parts of a splitter, kept under its object name, joined by ",". `whenMissing` stands in for a
+/// setting that is missing or makes no sense.
 void splitterLoad(QSplitter& splitter, const Settings& settings, const QString& whenMissing);
 void splitterSave(const QSplitter& splitter, Settings& settings);
 

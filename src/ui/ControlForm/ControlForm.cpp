@@ -4,7 +4,6 @@
 #include "ui/AboutForm/AboutForm.h"
 #include "ui/App/Placement.h"
 #include "ui/App/Text.h"
-#include "ui/ControlForm/FileListing.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -113,9 +112,8 @@ void ControlForm::connectControls()
     connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, pickNext);
     connect(ui.KeywordLoader, &QPushButton::clicked, this, &ControlForm::chooseKeywords);
     connect(ui.KeywordList, &QListWidget::itemClicked, this, &ControlForm::insertKeyword);
-    connect(ui.Image1, &PictureBox::clicked, this, [this](Qt::MouseButton button) {
-        runVerb(button == Qt::LeftButton ? Verb::Open : Verb::Properties);
-    });
+    connect(ui.Image1, &PictureBox::clicked, this,
+            [this](Qt::MouseButton button) { runVerb(button == Qt::LeftButton ? Verb::Open : Verb::Properties); });
     connect(ui.FileSaver, &QPushButton::clicked, this, &ControlForm::saveAndReopen);
     connect(ui.FileReset, &QPushButton::clicked, this, &ControlForm::reset);
     connect(ui.FilePropPaster, &QPushButton::clicked, this, &ControlForm::ditto);
@@ -188,7 +186,7 @@ bool ControlForm::start(const std::vector<std::string>& paths)
     if (paths.empty())
         return findFiles();
     show();
-    findFilesIn(paths);
+    findFilesAmong(paths);
     return true;
 }
 
@@ -217,7 +215,7 @@ void ControlForm::dropEvent(QDropEvent* event)
         return;
     event->acceptProposedAction();
     moveFocusTo(*ui.FileFinder);
-    findFilesIn(paths);
+    findFilesAmong(paths);
 }
 
 bool ControlForm::eventFilter(QObject* watched, QEvent* event)
@@ -264,23 +262,38 @@ bool ControlForm::findFiles()
         return false;
     m_scan.FolderNameSelected = *folder;
     show();
-    findFilesIn({toPath(*folder)});
+    findFilesIn(toPath(*folder));
     return true;
 }
 
-void ControlForm::findFilesIn(const std::vector<std::string>& paths)
+void ControlForm::findFilesIn(const std::string& folder)
 {
     OfferSave(true);
     clearShownFile();
-    const SubFolders subFolders = m_scan.SubFolderScan ? SubFolders::Yes : SubFolders::No;
     std::vector<std::string> found;
     ErrorTrap trap;
     setCursor(Qt::WaitCursor);
-    trap.run([&] { found = listPaths(paths, subFolders); });
+    trap.run([&] { found = listFolder(folder, subFolders()); });
     unsetCursor();
     if (trap.pending())
         return m_surroundings.dialogs.show(tr("Folder not found"));
     listFiles(std::move(found));
+}
+
+/// Lists the files named, and those in the folders named.
+void ControlForm::findFilesAmong(const std::vector<std::string>& paths)
+{
+    OfferSave(true);
+    clearShownFile();
+    setCursor(Qt::WaitCursor);
+    std::vector<std::string> found = listPaths(paths, subFolders());
+    unsetCursor();
+    listFiles(std::move(found));
+}
+
+SubFolders ControlForm::subFolders() const
+{
+    return m_scan.SubFolderScan ? SubFolders::Yes : SubFolders::No;
 }
 
 void ControlForm::listFiles(std::vector<std::string> found)

@@ -8,6 +8,7 @@
 #include "ui/App/Dialogs.h"
 #include "ui/App/MessageReporter.h"
 #include "ui/App/Settings.h"
+#include "ui/ControlForm/FileListing.h"
 #include "ui/ControlForm/FoundFiles.h"
 #include "ui/ControlForm/NodeInspection.h"
 #include "ui/ControlForm/OsProperties.h"
@@ -43,8 +44,8 @@ public:
     /// `Merovel` is the tag dictionary that says what the nodes of a document are.
     ControlForm(TagDictionary Merovel, const Surroundings& surroundings);
 
-    /// Shows the window with the files in `paths`, folders among them, or in a folder that the person chooses when there
-    /// are none. Returns whether there is a window: not when that choice was cancelled.
+    /// Shows the window with the files in `paths`, folders among them, or in a folder that the person chooses when
+    /// there are none. Returns whether there is a window: not when that choice was cancelled.
     bool start(const std::vector<std::string>& paths);
 
 protected:
@@ -71,7 +72,9 @@ private:
 
     // The list of files
     bool findFiles();
-    void findFilesIn(const std::vector<std::string>& paths);
+    void findFilesIn(const std::string& folder);
+    void findFilesAmong(const std::vector<std::string>& paths);
+    SubFolders subFolders() const;
     void listFiles(std::vector<std::string> found);
     int selectedFile() const;
     void selectFile(int row);

@@ -105,9 +105,9 @@ void ControlForm::clearPanes()
 
 void ControlForm::enableEditing(bool enabled)
 {
-    QWidget* const controls[] = {ui.FileTitle,  ui.FileSubject, ui.FileComments, ui.FileKeywords, ui.FilePropPaster,
-                                 ui.FileSaver,  ui.FileReset,   ui.NodeTree,     ui.NodeText,     ui.NodeHelp,
-                                 ui.ViewHexOpt, ui.NodeAdder};
+    QWidget* const controls[] = {ui.FileTitle,      ui.FileSubject, ui.FileComments, ui.FileKeywords,
+                                 ui.FilePropPaster, ui.FileSaver,   ui.FileReset,    ui.NodeTree,
+                                 ui.NodeText,       ui.NodeHelp,    ui.ViewHexOpt,   ui.NodeAdder};
     for (QWidget* control : controls)
         control->setEnabled(enabled);
     QAction* const items[] = {ui.menuFileSave, ui.menuFileSaveXML, ui.menuFileReset, ui.menuImageOpen,

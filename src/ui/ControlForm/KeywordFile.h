@@ -7,8 +7,8 @@
 
 namespace ovisto {
 
-/// The keywords in the file at `path`: its lines, ended by CR LF, empty ones included, in code page Windows-1252. Raises
-/// what the system says when it cannot be read.
+/// The keywords in the file at `path`: its lines, ended by CR LF, empty ones included, in code page Windows-1252.
+/// Raises what the system says when it cannot be read.
 QStringList keywordsIn(const std::string& path);
 
 /// What takes the place of the selection in `text`, `length` characters from `start` on, when `keyword` is clicked: the

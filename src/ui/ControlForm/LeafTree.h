@@ -14,7 +14,7 @@ struct Leaf {
     std::string key;       ///< "x" and six digits; the node's "leafIndex"
     std::string parentKey; ///< that of the item above it; empty for the top one
     std::string label;
-    std::string path;      ///< the node's
+    std::string path; ///< the node's
 };
 
 /// A document as the window shows it: items of a tree, each before those below it, and the properties of the operating

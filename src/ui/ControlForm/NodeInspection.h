@@ -16,8 +16,14 @@ namespace ovisto {
 using ProtectionLevel = std::uint8_t;
 
 ProtectionLevel protectionLevel(const XmlNode& entry);
-constexpr bool isLocked(ProtectionLevel level) { return level > 0; }
-constexpr bool isDeletable(ProtectionLevel level) { return level < 2; }
+constexpr bool isLocked(ProtectionLevel level)
+{
+    return level > 0;
+}
+constexpr bool isDeletable(ProtectionLevel level)
+{
+    return level < 2;
+}
 
 /// The name of the data type for people, and how the value is protected. None for a type without a name.
 std::optional<QString> dataTypeCaption(int dataType, ProtectionLevel level);

@@ -29,7 +29,6 @@ public:
     /// whether the document has changed.
     bool leave(OsProperty property, const std::string& boxText, XmlDocument& JpegDoc, const TagDictionary& Merovel,
                ErrorReporter& reporter);
-
 };
 
 /// `text` with each LF replaced by CR LF, and each CR LF by LF.

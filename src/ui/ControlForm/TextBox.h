@@ -6,8 +6,8 @@
 namespace ovisto {
 
 /// A box for a text of several lines that gives back exactly what was put in, as long as nobody edits it: the line
-/// breaks keep their kind, and no character is replaced. In an edited text, all line breaks are of one kind: LF when the
-/// text put in had no other, else CR LF.
+/// breaks keep their kind, and no character is replaced. In an edited text, all line breaks are of one kind: LF when
+/// the text put in had no other, else CR LF.
 class TextBox : public QPlainTextEdit {
     Q_OBJECT
 
