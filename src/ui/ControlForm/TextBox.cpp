@@ -13,7 +13,10 @@ TextBox::TextBox(QWidget* parent) : QPlainTextEdit(parent)
 
 void TextBox::putText(const QString& text)
 {
+    constexpr qsizetype kLong = 5000;
     m_put = text;
+    // Looking for the words in a long run of digits would take seconds.
+    setWordWrapMode(text.size() > kLong ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
     setPlainText(text);
 }
 
