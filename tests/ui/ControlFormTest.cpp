@@ -4,6 +4,7 @@
 #include "ui/ControlForm/PictureBox.h"
 #include "ui/NodeAddForm/NodeAddForm.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QDropEvent>
 #include <QFile>
@@ -205,6 +206,15 @@ private Q_SLOTS:
         window.select(kThumbnail);
         QCOMPARE(window.dialogs.taken(), QStringList(QStringLiteral("Invalid thumbnail\r\n481 : Invalid picture")));
         QVERIFY(thumbnail.picture().isNull());
+    }
+
+    void turnsTheThumbnailWithThePicture()
+    {
+        Window window;
+        window.open({window.copy("portrait.jpg")});
+        window.select(kThumbnail);
+        const QImage& thumbnail = window.control<PictureBox>("Image2").picture();
+        QVERIFY(thumbnail.height() > thumbnail.width());
     }
 
     void asksForANodeToTypeInto()
@@ -440,6 +450,27 @@ private Q_SLOTS:
         QVERIFY(!window.control<QWidget>("NodeTree").isVisible());
     }
 
+    void goesOnWithWhatDoesNotParse()
+    {
+        Window window;
+        const std::string path = window.copy("xmp.jpg");
+        std::string bytes = content(path);
+        const auto packet = bytes.find("<?xpacket");
+        bytes.replace(packet + 20, 3, "]]>");
+        writeTextFile(path, bytes);
+        window.open({path, window.copy("night.jpg")});
+        const QStringList messages = window.dialogs.taken();
+        QCOMPARE(messages.size(), 2);
+        QVERIFY(messages[0].contains(QStringLiteral(" pos:")) && messages[0].contains(QStringLiteral(" src:")));
+        QVERIFY(messages[1].startsWith(QStringLiteral("Internal JpegXml document error")));
+        QVERIFY(!window.control<PictureBox>("Image1").picture().isNull());
+        window.click("FileSaver");
+        QVERIFY(content(path) == bytes);
+        window.dialogs.taken();
+        window.click("FilePickerNext");
+        QVERIFY(window.item(kDescription) && window.dialogs.messages.isEmpty());
+    }
+
     void savesXml()
     {
         Window window;
@@ -496,6 +527,39 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(&window.form(), &drop);
         QCOMPARE(window.form().windowTitle(), QStringLiteral("XMP.JPEG[*]"));
         QCOMPARE(window.control<QListView>("FilesFoundList").model()->rowCount(), 1);
+    }
+
+    void tellsTheNameOfEveryControl()
+    {
+        Window window;
+        window.open({window.copy("night.jpg")});
+        const auto ours = [](const QWidget* control) {
+            return !control->objectName().startsWith(QStringLiteral("qt_"));
+        };
+        for (const QWidget* control : window.form().findChildren<QWidget*>()) {
+            if (control->focusPolicy() == Qt::NoFocus || !ours(control) || control->objectName().isEmpty())
+                continue;
+            const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control));
+            QVERIFY2(!told->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
+        }
+    }
+
+    void goesFromControlToControlInReadingOrder()
+    {
+        Window window;
+        window.open({window.copy("little-endian.jpg")});
+        window.select(kDescription);
+        window.control<QWidget>("FileFinder").setFocus();
+        QStringList order;
+        do {
+            order << QApplication::focusWidget()->objectName();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        } while (QApplication::focusWidget()->objectName() != QStringLiteral("FileFinder") && order.size() < 99);
+        QCOMPARE(order.join(QLatin1Char(' ')),
+                 QStringLiteral("FileFinder FilesFoundList FilePickerPrev FilePickerNext KeywordList KeywordLoader "
+                                "FileTitle FileComments FileSubject FileKeywords FilePropPaster FileSaver FileReset "
+                                "NodeTree ViewHexOpt NodeText NodeHelp NodeAdder NodeDeleter"));
+        QVERIFY(!window.isChanged());
     }
 
     void opensThePictureElsewhere()

@@ -194,6 +194,21 @@ private Q_SLOTS:
         QVERIFY(!settings.choice(QStringLiteral("SubFolderScan"), true));
     }
 
+    void turnsPictures()
+    {
+        // A picture of 3 x 2 pixels whose top left one is marked, and where the mark has to be seen.
+        QImage picture(3, 2, QImage::Format_RGB32);
+        picture.fill(Qt::black);
+        picture.setPixel(0, 0, qRgb(255, 255, 255));
+        const QPoint places[] = {{0, 0}, {0, 0}, {2, 0}, {2, 1}, {0, 1}, {0, 0}, {1, 0}, {1, 2}, {0, 2}, {0, 0}};
+        for (int orientation = 0; orientation < 10; ++orientation) {
+            const QImage seen = turned(picture, orientation);
+            const bool upright = orientation >= 5 && orientation <= 8;
+            QCOMPARE(seen.size(), upright ? QSize(2, 3) : QSize(3, 2));
+            QCOMPARE(seen.pixelColor(places[orientation]), QColor(Qt::white));
+        }
+    }
+
     void fitsPicturesTurned()
     {
         const std::string samples = OVISTO_SOURCE_FOLDER "/samples/";

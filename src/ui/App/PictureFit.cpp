@@ -5,6 +5,10 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QImageReader>
+#include <QTransform>
+
+#include <cstddef>
+#include <iterator>
 
 namespace ovisto {
 
@@ -13,6 +17,16 @@ QSize fittedSize(QSize size, QSize maximum)
     if (size.width() <= maximum.width() && size.height() <= maximum.height())
         return size;
     return size.scaled(maximum, Qt::KeepAspectRatio).expandedTo({1, 1});
+}
+
+QImage turned(const QImage& picture, int orientation)
+{
+    // Where the axes of the stored picture point to, orientation by orientation from 1 on.
+    static const QTransform kOrientations[] = {{1, 0, 0, 1, 0, 0},   {-1, 0, 0, 1, 0, 0}, {-1, 0, 0, -1, 0, 0},
+                                               {1, 0, 0, -1, 0, 0},  {0, 1, 1, 0, 0, 0},  {0, 1, -1, 0, 0, 0},
+                                               {0, -1, -1, 0, 0, 0}, {0, -1, 1, 0, 0, 0}};
+    const auto row = static_cast<std::size_t>(orientation) - 1;
+    return row < std::size(kOrientations) ? picture.transformed(kOrientations[row]) : picture;
 }
 
 QImage fittedPicture(const std::string& fileName, QSize maximum)

@@ -19,6 +19,9 @@ QImage PictureFit(const std::string& fileName, QSize maximum, ErrorReporter& rep
 /// The same, raising kInvalidPicture, or what the system says, instead of telling it.
 QImage fittedPicture(const std::string& fileName, QSize maximum);
 
+/// `picture` turned and mirrored as an Exif orientation (1 to 8) says; as it is for any other number.
+QImage turned(const QImage& picture, int orientation);
+
 /// `size` scaled down, its proportions kept, so that it fits into `maximum`; as it is when it does already.
 QSize fittedSize(QSize size, QSize maximum);
 

@@ -174,7 +174,10 @@ void ControlForm::loadThumbnail()
         file.write(bytesOf(digits));
         file.flush();
     });
-    trap.run([&] { ui.Image2->showPicture(fittedPicture(path, kLargestThumbnail)); });
+    trap.run([&] {
+        const QImage picture = fittedPicture(path, kLargestThumbnail);
+        ui.Image2->showPicture(turned(picture, thumbnailOrientation(JpegDoc)));
+    });
     if (trap.pending())
         ErrorReport(m_reporter, "Invalid thumbnail", trap.take());
     std::error_code notThere;

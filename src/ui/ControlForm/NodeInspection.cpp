@@ -71,4 +71,15 @@ bool isThumbnail(const XmlNode& node)
     return node.name() == "THUM";
 }
 
+int thumbnailOrientation(const XmlDocument& JpegDoc)
+{
+    int orientation = 1;
+    ErrorTrap trap;
+    for (const char* path : {"/JPEG/Exif/IFD[@id='0112']", "/JPEG/Exif/IFD1/IFD[@id='0112']"}) {
+        if (const XmlNode node = JpegDoc.selectSingleNode(path))
+            trap.run([&] { orientation = toLong(node.text()); });
+    }
+    return orientation;
+}
+
 } // namespace ovisto

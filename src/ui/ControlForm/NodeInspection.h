@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/XmlNode.h"
+#include "common/XmlDocument.h"
 
 #include <QString>
 
@@ -40,5 +40,8 @@ std::vector<std::uint8_t> bytesOf(const std::string& hexadecimal);
 
 /// Whether the node holds a thumbnail.
 bool isThumbnail(const XmlNode& node);
+
+/// How the thumbnail has to be turned, as an Exif orientation: by its own, or where it has none by that of the picture.
+int thumbnailOrientation(const XmlDocument& JpegDoc);
 
 } // namespace ovisto
