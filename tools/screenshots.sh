@@ -109,8 +109,8 @@ stop
 
 # A file, its properties, and its values in all their forms. The tree has the focus when a file is open.
 start $large "$photographs"
-shoot file
 key Down Down
+shoot file
 click -100 -250
 key ctrl+a
 xdotool type --delay 30 "Mountain lake at dawn"
@@ -126,6 +126,13 @@ key End
 shoot hex
 click -110 -377
 shoot thumbnail
+key alt+i Down Return
+sleep 1
+shoot properties
+xdotool windowfocus "$(front)"; key Escape
+xdotool windowfocus "$window"; key alt+h; key alt+i Right Return
+xdotool windowfocus "$(front)"; key alt+s
+shoot about
 stop
 
 # A palette of light text on dark ground, as the settings of a desktop tell it.
@@ -133,14 +140,14 @@ cat >"$XDG_CONFIG_HOME/kdeglobals" <<'PALETTE'
 [KDE]
 widgetStyle=Fusion
 [Colors:Window]
-BackgroundNormal=35,38,41
+BackgroundNormal=49,54,59
 ForegroundNormal=239,240,241
 [Colors:View]
-BackgroundNormal=27,30,32
-BackgroundAlternate=35,38,41
+BackgroundNormal=35,38,41
+BackgroundAlternate=49,54,59
 ForegroundNormal=239,240,241
 [Colors:Button]
-BackgroundNormal=49,54,59
+BackgroundNormal=64,70,76
 ForegroundNormal=239,240,241
 [Colors:Selection]
 BackgroundNormal=61,174,233

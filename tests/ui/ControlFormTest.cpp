@@ -577,6 +577,30 @@ private Q_SLOTS:
         QCOMPARE(window.desktop.done, QStringList({open, properties, open, properties}));
     }
 
+    void tellsOfMissingHelp()
+    {
+        Window window;
+        window.open({window.copy("night.jpg")});
+        HelpContents(window.desktop, window.dialogs, window.path("index.html"));
+        QCOMPARE(window.dialogs.taken(),
+                 QStringList(QStringLiteral("Unable to display Help Contents. There is no Help associated with this "
+                                            "project.")));
+        writeTextFile(window.path("index.html"), "<html/>");
+        HelpContents(window.desktop, window.dialogs, window.path("index.html"));
+        QVERIFY(window.dialogs.messages.isEmpty());
+        QCOMPARE(window.desktop.done.size(), 1);
+    }
+
+    void showsAPropertySheetOfItsOwnWhereThereIsNoFileManager()
+    {
+        Window window;
+        const std::string path = window.copy("night.jpg");
+        window.open({path});
+        ShellVerb(*std::make_unique<SystemDesktop>(), path, window.form(), Verb::Properties);
+        const auto* sheet = window.form().findChild<QDialog*>();
+        QVERIFY(sheet && sheet->isVisible() && sheet->windowTitle().contains(QStringLiteral("night.jpg")));
+    }
+
     void endsWithoutAFolder()
     {
         Window window;
