@@ -10,6 +10,7 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${1:-$root/build/release}
 output=${2:-$root/docs/images}
+photographs=/tmp/Photographs # the pictures show this name
 work=$(mktemp -d)
 mkdir -p "$output"
 
@@ -18,18 +19,19 @@ fail() { echo "screenshots.sh: $1" >&2; exit 1; }
 cleanup() {
     [ -z "${program:-}" ] || kill "$program" 2>/dev/null || true
     [ -z "${screen:-}" ] || kill "$screen" 2>/dev/null || true
-    rm -rf "$work"
+    rm -rf "$work" "$photographs"
 }
+[ ! -e "$photographs" ] || fail "$photographs is in the way"
 trap cleanup EXIT
 
 [ -x "$build/bin/ovisto" ] || fail "no $build/bin/ovisto; build it first"
-for tool in Xvfb xdotool import; do
+for tool in Xvfb xdotool import convert; do
     command -v $tool >/dev/null || fail "$tool is missing"
 done
 
-mkdir -p "$work/home/.config" "$work/runtime" "$work/photographs"
+mkdir -p "$work/home/.config" "$work/runtime" "$photographs"
 chmod 700 "$work/runtime"
-cp "$root"/samples/{little-endian,night,portrait,xmp}.jpg "$work/photographs"
+cp "$root"/samples/{little-endian,night,portrait,xmp}.jpg "$photographs"
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_RUNTIME_DIR=$work/runtime
 export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 unset DBUS_SESSION_BUS_ADDRESS QT_SCALE_FACTOR QT_QPA_PLATFORMTHEME XDG_CURRENT_DESKTOP
@@ -75,7 +77,8 @@ front() { windows | head -1; }
 shoot() {
     sleep 0.5
     eval "$(xdotool getwindowgeometry --shell "$window")"
-    import -window root -crop "${WIDTH}x${HEIGHT}+$X+$Y" +repage "$output/$1.png"
+    import -window root -crop "${WIDTH}x${HEIGHT}+$X+$Y" +repage "$work/shot.png"
+    convert "$work/shot.png" -colors 256 "PNG8:$output/$1.png"
     echo "$output/$1.png"
 }
 
@@ -91,7 +94,6 @@ click() {
 
 key() { xdotool key --delay 60 "$@"; sleep 0.3; }
 
-photographs=$work/photographs
 small=0,0,11655,8505
 large=0,0,18000,12000
 
