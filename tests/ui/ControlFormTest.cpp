@@ -233,8 +233,10 @@ private Q_SLOTS:
         Window window;
         const std::string path = window.copy("little-endian.jpg");
         setInFile(path, "/JPEG/Exif/IFD[@id='9C9C']", "first\nsecond");
+        setInFile(path, kTitle, "up\r\n\tdown\u00A0");
         window.open({path});
         window.visit("FileComments");
+        window.visit("FileTitle");
         QVERIFY(!window.isChanged());
         window.type("FileTitle", QStringLiteral("Dawn"));
         window.type("FileComments", QStringLiteral("a\nb"));
@@ -525,6 +527,7 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(&window.form(), &enter);
         QDropEvent drop({9, 9}, Qt::CopyAction, &files, Qt::LeftButton, {});
         QCoreApplication::sendEvent(&window.form(), &drop);
+        QCoreApplication::processEvents();
         QCOMPARE(window.form().windowTitle(), QStringLiteral("XMP.JPEG[*]"));
         QCOMPARE(window.control<QListView>("FilesFoundList").model()->rowCount(), 1);
     }
