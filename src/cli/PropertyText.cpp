@@ -3,20 +3,10 @@
 #include "cli/TerminalReporter.h"
 #include "collection/PropertyTree.h"
 #include "common/DataType.h"
-#include "common/Error.h"
 
 namespace ovisto {
 
 namespace {
-
-/// The data type of a node; a missing or strange one counts as Undefined.
-int shownDataType(const XmlNode& node)
-{
-    int dataType = 0;
-    ErrorTrap trap;
-    trap.run([&] { dataType = dataTypeOf(node); });
-    return dataType == 0 ? kUndefined : dataType;
-}
 
 /// The value on one line; of long byte values (thumbnails, tables) only the beginning and the size.
 std::string valueText(const XmlNode& node, int dataType)

@@ -1,5 +1,7 @@
 #include "collection/PropertyTree.h"
 
+#include "common/DataType.h"
+#include "common/Error.h"
 #include "common/NodePath.h"
 
 namespace ovisto {
@@ -27,6 +29,14 @@ std::vector<PropertyItem> propertyTree(const XmlDocument& document, const TagDic
     if (const XmlNode root = document.documentElement())
         appendItems(items, root, dictionary, technical, 0);
     return items;
+}
+
+int shownDataType(const XmlNode& node)
+{
+    int dataType = 0;
+    ErrorTrap trap;
+    trap.run([&] { dataType = dataTypeOf(node); });
+    return dataType == 0 ? kUndefined : dataType;
 }
 
 } // namespace ovisto

@@ -21,4 +21,7 @@ struct PropertyItem {
 /// below it with it. With `technical`, the technical ones are shown as well.
 std::vector<PropertyItem> propertyTree(const XmlDocument& document, const TagDictionary& dictionary, bool technical);
 
+/// The data type of a node; a missing or strange one counts as Undefined.
+int shownDataType(const XmlNode& node);
+
 } // namespace ovisto

@@ -1,0 +1,12 @@
+#include "ui/App/MessageReporter.h"
+
+#include "ui/App/Text.h"
+
+namespace ovisto {
+
+void MessageReporter::report(const std::string& context, const Error& error)
+{
+    m_dialogs.show(toQString(errorReportText(context, error)));
+}
+
+} // namespace ovisto

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "common/ErrorReport.h"
+#include "ui/App/Dialogs.h"
+
+namespace ovisto {
+
+/// Shows errors to the person in front.
+class MessageReporter : public ErrorReporter {
+public:
+    /// `dialogs` must outlive the reporter.
+    explicit MessageReporter(Dialogs& dialogs) : m_dialogs(dialogs) {}
+
+    void report(const std::string& context, const Error& error) override;
+
+private:
+    Dialogs& m_dialogs;
+};
+
+} // namespace ovisto

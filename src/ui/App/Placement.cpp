@@ -1,0 +1,107 @@
+#include "ui/App/Placement.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSplitter>
+#include <QStringList>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace ovisto {
+
+namespace {
+
+constexpr int kTwips = 15; // a logical pixel
+constexpr int kMostPixels = 1 << 20;
+
+/// The whole numbers joined by "," in `text`; none at all when one of them is none.
+QList<int> numbers(const QString& text)
+{
+    QList<int> result;
+    for (const QString& part : text.split(QLatin1Char(','))) {
+        bool isNumber = false;
+        result.append(part.trimmed().toInt(&isNumber));
+        if (!isNumber)
+            return {};
+    }
+    return result;
+}
+
+QString joined(const QList<int>& numbers)
+{
+    QStringList parts;
+    for (const int number : numbers)
+        parts.append(QString::number(number));
+    return parts.join(QLatin1Char(','));
+}
+
+int area(const QRect& rectangle)
+{
+    return rectangle.isEmpty() ? 0 : rectangle.width() * rectangle.height();
+}
+
+} // namespace
+
+std::optional<QRect> placement(const QString& text)
+{
+    const QList<int> twips = numbers(text);
+    if (twips.size() < 4)
+        return std::nullopt;
+    const QRect place(twips[0] / kTwips, twips[1] / kTwips, twips[2] / kTwips, twips[3] / kTwips);
+    if (place.isEmpty() || std::max(place.width(), place.height()) > kMostPixels)
+        return std::nullopt;
+    return place;
+}
+
+QRect movedOnto(const QList<QRect>& screens, const QRect& place)
+{
+    const auto shown = [&](const QRect& screen) { return area(screen.intersected(place)); };
+    const auto screen = std::ranges::max_element(screens, {}, shown);
+    if (screen == screens.end())
+        return place;
+    QRect moved(place.topLeft(), place.size().boundedTo(screen->size()));
+    moved.moveRight(std::min(moved.right(), screen->right()));
+    moved.moveBottom(std::min(moved.bottom(), screen->bottom()));
+    moved.moveLeft(std::max(moved.left(), screen->left()));
+    moved.moveTop(std::max(moved.top(), screen->top()));
+    return moved;
+}
+
+void PlacementLoad(QWidget& window, const Settings& settings, const QString& key, const QString& whenMissing)
+{
+    auto place = placement(settings.GetSetting(key, whenMissing));
+    if (!place)
+        place = placement(whenMissing);
+    if (!place)
+        return;
+    QList<QRect> screens;
+    for (const QScreen* screen : QGuiApplication::screens())
+        screens.append(screen->availableGeometry());
+    const QRect moved = movedOnto(screens, *place);
+    window.resize(moved.size());
+    window.move(moved.topLeft());
+}
+
+void PlacementSave(const QWidget& window, Settings& settings, const QString& key)
+{
+    const bool fillsScreen = window.isMaximized() || window.isFullScreen() || window.isMinimized();
+    const QRect place = fillsScreen ? window.normalGeometry() : QRect(window.pos(), window.size());
+    settings.SaveSetting(
+        key, joined({place.x() * kTwips, place.y() * kTwips, place.width() * kTwips, place.height() * kTwips}));
+}
+
+void splitterLoad(QSplitter& splitter, const Settings& settings, const QString& whenMissing)
+{
+    const QList<int> sizes = numbers(settings.GetSetting(splitter.objectName(), whenMissing));
+    const bool sensible =
+        sizes.size() == splitter.count() && std::ranges::all_of(sizes, [](int size) { return size > 0; });
+    splitter.setSizes(sensible ? sizes : numbers(whenMissing));
+}
+
+void splitterSave(const QSplitter& splitter, Settings& settings)
+{
+    settings.SaveSetting(splitter.objectName(), joined(splitter.sizes()));
+}
+
+} // namespace ovisto

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ui/App/Dialogs.h"
+
+namespace ovisto {
+
+/// The boxes and dialogs of the desktop.
+class SystemDialogs : public Dialogs {
+public:
+    void show(const QString& message) override;
+    bool ask(const QString& question) override;
+    std::optional<QString> chooseFolder(const QString& folder) override;
+    std::optional<QString> chooseFile(const QString& folder, const QString& filter) override;
+};
+
+} // namespace ovisto

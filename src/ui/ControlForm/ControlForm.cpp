@@ -1,0 +1,349 @@
+#include "ui/ControlForm/ControlForm.h"
+
+#include "common/Error.h"
+#include "ui/AboutForm/AboutForm.h"
+#include "ui/App/Placement.h"
+#include "ui/App/Text.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QShortcut>
+#include <QUrl>
+
+#include <utility>
+
+namespace ovisto {
+
+namespace {
+
+/// The settings of the check items in the menu, and what they are on a first run.
+struct OptionSetting {
+    const char* key;
+    QAction* Ui::ControlForm::*item;
+    bool whenMissing;
+};
+
+constexpr OptionSetting kOptionSettings[] = {
+    {"DecodeExif1", &Ui::ControlForm::menuDecodeExif1, true},
+    {"DecodeMaker", &Ui::ControlForm::menuDecodeMaker, true},
+    {"DecodeThumb", &Ui::ControlForm::menuDecodeThumb, true},
+    {"ShowTechnical", &Ui::ControlForm::menuShowTechnical, false},
+};
+
+/// The splitters, and how they divide a window of the size of a first run.
+struct SplitterSetting {
+    QSplitter* Ui::ControlForm::*splitter;
+    const char* whenMissing;
+};
+
+constexpr SplitterSetting kSplitterSettings[] = {
+    {&Ui::ControlForm::ControlFormColumns, "205,300,258"},
+    {&Ui::ControlForm::ControlFormLists, "310,210"},
+    {&Ui::ControlForm::ControlFormPicture, "270,250"},
+    {&Ui::ControlForm::ControlFormProperties, "240,280"},
+};
+
+constexpr int kFirstLine = 4; ///< pixels from the top of a box to its first line
+
+/// Whether the focus went to another control of the window, and not only for a while to a menu or another window.
+bool isLeaving(const QFocusEvent& event)
+{
+    return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason &&
+           event.reason() != Qt::ActiveWindowFocusReason;
+}
+
+bool isEnter(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+} // namespace
+
+ControlForm::ControlForm(TagDictionary dictionary, const Surroundings& surroundings)
+    : m_surroundings(surroundings), m_reporter(surroundings.dialogs), Merovel(std::move(dictionary))
+{
+    ui.setupUi(this);
+    m_osBoxes = {{
+        {OsProperty::Title, ui.FileTitle, &DittoTitle},
+        {OsProperty::Subject, ui.FileSubject, &DittoSubject},
+        {OsProperty::Comments, ui.FileComments, &DittoComments},
+        {OsProperty::Keywords, ui.FileKeywords, &DittoKeywords},
+    }};
+    const int markSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    ui.SaveWarning->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(markSize));
+    ui.SaveWarning->hide();
+    ui.FilesFoundList->setModel(&m_found);
+    for (QLabel* caption : {ui.FileCommentsL, ui.FileKeywordsL})
+        caption->setContentsMargins(0, kFirstLine, 0, 0);
+    // Of another part of the program that is to come.
+    for (QAbstractButton* button : {ui.SlideShower, ui.BatchShower})
+        button->setEnabled(false);
+    ui.menuGenerate->setEnabled(false);
+    connectControls();
+    connectMenus();
+    clearShownFile();
+    loadSettings();
+}
+
+void ControlForm::connectControls()
+{
+    m_selection.setSingleShot(true);
+    connect(&m_selection, &QTimer::timeout, this, &ControlForm::OpenSelectedFile);
+    // A list that is still busy with the mouse must not change, so the file is opened a moment later.
+    connect(ui.FilesFoundList->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (!ControlsUpdating && selectedFile() >= 0)
+            m_selection.start();
+    });
+    connect(ui.FilesFoundList, &QListView::clicked, this, [this] {
+        if (CurrentFileName.empty())
+            m_selection.start();
+    });
+    const auto pickPrevious = [this] { pickFile(*ui.FilePickerPrev, &FoundFiles::previous); };
+    const auto pickNext = [this] { pickFile(*ui.FilePickerNext, &FoundFiles::next); };
+    connect(ui.FileFinder, &QPushButton::clicked, this, &ControlForm::findFiles);
+    connect(ui.FilePickerPrev, &QToolButton::clicked, this, pickPrevious);
+    connect(ui.FilePickerNext, &QToolButton::clicked, this, pickNext);
+    connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, pickPrevious);
+    connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, pickNext);
+    connect(ui.KeywordLoader, &QPushButton::clicked, this, &ControlForm::chooseKeywords);
+    connect(ui.KeywordList, &QListWidget::itemClicked, this, &ControlForm::insertKeyword);
+    connect(ui.Image1, &PictureBox::clicked, this,
+            [this](Qt::MouseButton button) { runVerb(button == Qt::LeftButton ? Verb::Open : Verb::Properties); });
+    connect(ui.FileSaver, &QPushButton::clicked, this, &ControlForm::saveAndReopen);
+    connect(ui.FileReset, &QPushButton::clicked, this, &ControlForm::reset);
+    connect(ui.FilePropPaster, &QPushButton::clicked, this, &ControlForm::ditto);
+    // Not the current item, which is there as soon as the tree has the focus.
+    connect(ui.NodeTree, &QTreeWidget::itemSelectionChanged, this, [this] {
+        if (!ControlsUpdating)
+            nodeClicked(selectedItem());
+    });
+    connect(ui.ViewHexOpt, &QCheckBox::toggled, this, &ControlForm::setValueFont);
+    connect(ui.ViewHexOpt, &QCheckBox::toggled, this, [this] {
+        if (!ControlsUpdating)
+            ShowNodeValue();
+    });
+    connect(ui.NodeText, &TextBox::textChanged, this, &ControlForm::nodeTextChanged);
+    connect(ui.NodeAdder, &QPushButton::clicked, this, &ControlForm::addNode);
+    connect(ui.NodeDeleter, &QPushButton::clicked, this, &ControlForm::deleteNode);
+    ui.NodeText->installEventFilter(this);
+    ui.KeywordList->installEventFilter(this);
+    for (const OsBox& osBox : m_osBoxes)
+        osBox.box->installEventFilter(this);
+}
+
+void ControlForm::connectMenus()
+{
+    connect(ui.menuFileSave, &QAction::triggered, this, [this] {
+        moveFocusTo(*ui.FileSaver);
+        saveAndReopen();
+    });
+    connect(ui.menuFileSaveXML, &QAction::triggered, this, &ControlForm::saveXml);
+    connect(ui.menuFileReset, &QAction::triggered, this, [this] {
+        ui.SaveWarning->show();
+        moveFocusTo(*ui.FileReset);
+        reset();
+    });
+    connect(ui.menuFileExit, &QAction::triggered, this, &ControlForm::close);
+    connect(ui.menuImageOpen, &QAction::triggered, this, [this] { runVerb(Verb::Open); });
+    connect(ui.menuImageProps, &QAction::triggered, this, [this] { runVerb(Verb::Properties); });
+    connect(ui.menuHelpAbout, &QAction::triggered, this, [this] { AboutForm(this).exec(); });
+    connect(ui.menuHelpContents, &QAction::triggered, this, [this] {
+        HelpContents(m_surroundings.desktop, m_surroundings.dialogs, m_surroundings.folders.data + "help/index.html");
+    });
+}
+
+void ControlForm::loadSettings()
+{
+    const Settings& settings = m_surroundings.settings;
+    const QString folder = pathText(m_surroundings.folders.data);
+    PlacementLoad(*this, settings, objectName(), QStringLiteral("0,0,11655,8505"));
+    for (const SplitterSetting& setting : kSplitterSettings)
+        splitterLoad(*(ui.*setting.splitter), settings, QLatin1String(setting.whenMissing));
+    loadKeywords(toPath(settings.GetSetting(QStringLiteral("Keywords"), folder + QStringLiteral("keywords.txt"))));
+    m_scan = loadScanSettings(settings, folder);
+    for (const OptionSetting& option : kOptionSettings)
+        (ui.*option.item)->setChecked(settings.choice(QLatin1String(option.key), option.whenMissing));
+}
+
+void ControlForm::saveSettings()
+{
+    Settings& settings = m_surroundings.settings;
+    PlacementSave(*this, settings, objectName());
+    for (const SplitterSetting& setting : kSplitterSettings)
+        splitterSave(*(ui.*setting.splitter), settings);
+    saveScanSettings(m_scan, settings);
+    for (const OptionSetting& option : kOptionSettings)
+        settings.saveChoice(QLatin1String(option.key), (ui.*option.item)->isChecked());
+}
+
+bool ControlForm::start(const std::vector<std::string>& paths)
+{
+    if (paths.empty())
+        return findFiles();
+    show();
+    findFilesAmong(paths);
+    return true;
+}
+
+void ControlForm::closeEvent(QCloseEvent* event)
+{
+    moveFocusTo(*ui.FileFinder);
+    OfferSave(true);
+    saveSettings();
+    event->accept();
+}
+
+void ControlForm::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void ControlForm::dropEvent(QDropEvent* event)
+{
+    std::vector<std::string> paths;
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile())
+            paths.push_back(toPath(url.toLocalFile()));
+    }
+    if (paths.empty())
+        return;
+    event->acceptProposedAction();
+    // Later, as a question now would keep the program waiting that the files came from.
+    QTimer::singleShot(0, this, [this, paths] {
+        moveFocusTo(*ui.FileFinder);
+        findFilesAmong(paths);
+    });
+}
+
+bool ControlForm::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::FocusOut:
+        if (isLeaving(*static_cast<QFocusEvent*>(event)))
+            leaveBox(watched);
+        break;
+    case QEvent::KeyPress:
+        if (watched == ui.KeywordList && isEnter(*static_cast<QKeyEvent*>(event))) {
+            insertKeyword();
+            return true;
+        }
+        break;
+    case QEvent::DragEnter:
+        // Files dropped on a box are for the window.
+        if (static_cast<QDragEnterEvent*>(event)->mimeData()->hasUrls()) {
+            event->ignore();
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+/// Leaves the box being edited for `control`.
+void ControlForm::moveFocusTo(QWidget& control)
+{
+    const QWidget* left = focusWidget();
+    control.setFocus();
+    // In a window that is not in front, the focus moves without an event that says so.
+    if (!isActiveWindow() && left != focusWidget())
+        leaveBox(left);
+}
+
+/// Lets a folder be chosen, and lists the files in it. Returns false when the person cancels.
+bool ControlForm::findFiles()
+{
+    const auto folder = m_surroundings.dialogs.chooseFolder(m_scan.FolderNameSelected);
+    if (!folder)
+        return false;
+    m_scan.FolderNameSelected = *folder;
+    show();
+    findFilesIn(toPath(*folder));
+    return true;
+}
+
+void ControlForm::findFilesIn(const std::string& folder)
+{
+    OfferSave(true);
+    clearShownFile();
+    std::vector<std::string> found;
+    ErrorTrap trap;
+    setCursor(Qt::WaitCursor);
+    trap.run([&] { found = listFolder(folder, subFolders()); });
+    unsetCursor();
+    if (trap.pending())
+        return m_surroundings.dialogs.show(tr("Folder not found"));
+    listFiles(std::move(found));
+}
+
+/// Lists the files named, and those in the folders named.
+void ControlForm::findFilesAmong(const std::vector<std::string>& paths)
+{
+    OfferSave(true);
+    clearShownFile();
+    setCursor(Qt::WaitCursor);
+    std::vector<std::string> found = listPaths(paths, subFolders());
+    unsetCursor();
+    listFiles(std::move(found));
+}
+
+SubFolders ControlForm::subFolders() const
+{
+    return m_scan.SubFolderScan ? SubFolders::Yes : SubFolders::No;
+}
+
+void ControlForm::listFiles(std::vector<std::string> found)
+{
+    {
+        const QScopedValueRollback updating(ControlsUpdating, true);
+        if (!m_scan.ListAppend)
+            m_found.clear();
+        m_found.append(std::move(found));
+    }
+    if (m_found.rowCount() == 0)
+        m_surroundings.dialogs.show(
+            tr("No files found with search criteria specified.  Click 'Find Files' button to try again."));
+    else
+        selectFile(0);
+    ui.FilesFoundList->setToolTip(tr("List of files found (%1)").arg(m_found.rowCount()));
+}
+
+int ControlForm::selectedFile() const
+{
+    const QModelIndexList selected = ui.FilesFoundList->selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+/// Selects the file in `row`, also when it is selected already, and opens it.
+void ControlForm::selectFile(int row)
+{
+    {
+        const QScopedValueRollback updating(ControlsUpdating, true);
+        ui.FilesFoundList->setCurrentIndex(m_found.index(row));
+    }
+    OpenSelectedFile();
+}
+
+void ControlForm::pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const)
+{
+    moveFocusTo(button);
+    if (OfferSave(false) == SaveResult::Failed)
+        return;
+    if (const auto row = (m_found.*neighbour)(selectedFile()))
+        selectFile(*row);
+}
+
+void ControlForm::runVerb(Verb verb)
+{
+    if (!CurrentFileName.empty())
+        ShellVerb(m_surroundings.desktop, CurrentFileName, *this, verb);
+}
+
+} // namespace ovisto

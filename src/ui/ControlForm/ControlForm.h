@@ -1,0 +1,154 @@
+#pragma once
+
+#include "common/ProgramFolder.h"
+#include "common/TagDictionary.h"
+#include "common/XmlDocument.h"
+#include "reader/JpegXml.h"
+#include "ui/App/Desktop.h"
+#include "ui/App/Dialogs.h"
+#include "ui/App/MessageReporter.h"
+#include "ui/App/Settings.h"
+#include "ui/ControlForm/FileListing.h"
+#include "ui/ControlForm/FoundFiles.h"
+#include "ui/ControlForm/NodeInspection.h"
+#include "ui/ControlForm/OsProperties.h"
+#include "ui/ControlForm/ScanSettings.h"
+#include "ui_ControlForm.h"
+
+#include <QMainWindow>
+#include <QString>
+#include <QTimer>
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ovisto {
+
+struct Leaf;
+
+/// What the window needs of the world around it. All of it must outlive the window.
+struct Surroundings {
+    Dialogs& dialogs;
+    Desktop& desktop;
+    Settings& settings;
+    ProgramFolders folders;
+};
+
+/// The main window: a list of files, and the properties of the one that is shown.
+class ControlForm : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// `dictionary` says what the nodes of a document are.
+    ControlForm(TagDictionary dictionary, const Surroundings& surroundings);
+
+    /// Shows the window with the files in `paths`, folders among them, or in a folder that the person chooses when
+    /// there are none. Returns whether there is a window: not when that choice was cancelled.
+    bool start(const std::vector<std::string>& paths);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    enum class SaveResult { NotSaved, Saved, Failed };
+
+    /// The box of a property of the operating system, and where the text that it had last is kept for "Ditto".
+    struct OsBox {
+        OsProperty property;
+        QWidget* box;
+        QString* dittoText;
+    };
+
+    void connectControls();
+    void connectMenus();
+    void loadSettings();
+    void saveSettings();
+    void moveFocusTo(QWidget& control);
+
+    // The list of files
+    bool findFiles();
+    void findFilesIn(const std::string& folder);
+    void findFilesAmong(const std::vector<std::string>& paths);
+    SubFolders subFolders() const;
+    void listFiles(std::vector<std::string> found);
+    int selectedFile() const;
+    void selectFile(int row);
+    void pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const);
+
+    // The file shown
+    void OpenSelectedFile();
+    bool findSelectedFile();
+    void readDocument();
+    void showPicture();
+    void clearShownFile();
+    void clearPanes();
+    void enableEditing(bool enabled);
+    KeepOptions keepOptions() const;
+    void runVerb(Verb verb);
+
+    // Its changes
+    void MarkChanged();
+    void clearChanged();
+    SaveResult OfferSave(bool ask);
+    SaveResult SaveDocument();
+    void saveAndReopen();
+    void saveXml();
+    void reset();
+
+    // The tree of its properties
+    void RebuildTree();
+    QTreeWidgetItem* LoadLeaf(const Leaf& leaf, QTreeWidgetItem* parent);
+    std::string LeafXPathForItem(const QTreeWidgetItem& item) const;
+    XmlNode DocNodeForItem(const QTreeWidgetItem& item) const;
+    QTreeWidgetItem* selectedItem() const;
+    void removeItem(const std::string& key);
+
+    // The node selected
+    void nodeClicked(const QTreeWidgetItem* item);
+    void ShowNodeValue();
+    void setValueFont(bool hexadecimal);
+    void loadThumbnail();
+    void nodeTextChanged();
+    void leaveNodeText();
+    void addNode();
+    void deleteNode();
+
+    // The properties of the operating system
+    void leaveOsBox(const OsBox& osBox);
+    void ditto();
+    void loadKeywords(const std::string& path);
+    void chooseKeywords();
+    void insertKeyword();
+    bool leaveBox(const QObject* box);
+
+    Ui::ControlForm ui;
+    Surroundings m_surroundings;
+    MessageReporter m_reporter;
+    TagDictionary Merovel;
+    ScanSettings m_scan;
+    FoundFiles m_found;
+    QTimer m_selection; ///< fires when a selection in the list has settled
+
+    XmlDocument JpegDoc;           ///< of the file shown
+    std::string CurrentFileName;   ///< full path of the file shown; empty when there is none
+    bool ChangesMade = false;      ///< JpegDoc differs from the file
+    bool ControlsUpdating = false; ///< the program itself fills controls, and their handlers stay silent
+
+    OsProperties m_osProperties;
+    QString DittoTitle;
+    QString DittoSubject;
+    QString DittoComments;
+    QString DittoKeywords;
+    std::array<OsBox, 4> m_osBoxes; ///< in the order of "Ditto"
+
+    XmlNode CurrentNode; ///< of the tree item selected
+    ProtectionLevel CurrentProt = 0;
+    std::string CurrentXPath; ///< of the item clicked last, maybe in another file
+};
+
+} // namespace ovisto

@@ -1,0 +1,54 @@
+#include "ui/ControlForm/LeafTree.h"
+
+#include "collection/PropertyTree.h"
+#include "common/Error.h"
+#include "common/NodePath.h"
+
+#include <cstddef>
+
+namespace ovisto {
+
+namespace {
+
+std::string leafKey(std::size_t LeafCounter)
+{
+    constexpr std::size_t kDigits = 6;
+    std::string number = std::to_string(LeafCounter);
+    if (number.size() < kDigits)
+        number.insert(0, kDigits - number.size(), '0');
+    return "x" + number;
+}
+
+} // namespace
+
+LeafTree loadLeaves(const XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical)
+{
+    if (!JpegDoc.documentElement())
+        throw systemError(kObjectNotSet);
+    LeafTree tree;
+    std::size_t LeafCounter = 0;
+    for (const PropertyItem& item : propertyTree(JpegDoc, Merovel, technical)) {
+        AttributeSet(item.node, "label", item.label);
+        if (XmlNode* node = tree.osProperties.nodeOf(item.path)) {
+            *node = item.node;
+            continue;
+        }
+        const std::string key = leafKey(++LeafCounter);
+        AttributeSet(item.node, "leafIndex", key);
+        tree.leaves.push_back({key, AttributeGet(item.node.parent(), "leafIndex"), item.label, item.path});
+    }
+    return tree;
+}
+
+std::string leafXPath(const std::string& key)
+{
+    return "//*[@leafIndex='" + key + "']";
+}
+
+void removeLeafKeys(const XmlDocument& JpegDoc)
+{
+    for (XmlNode attribute : JpegDoc.selectNodes("//@leafIndex"))
+        attribute.remove();
+}
+
+} // namespace ovisto

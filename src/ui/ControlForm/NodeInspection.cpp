@@ -1,0 +1,85 @@
+#include "ui/ControlForm/NodeInspection.h"
+
+#include "common/CodePage.h"
+#include "common/DataType.h"
+#include "common/Error.h"
+#include "common/Hex.h"
+#include "common/NodePath.h"
+#include "common/NumberText.h"
+#include "ui/ControlForm/OsProperties.h"
+
+#include <QCoreApplication>
+
+#include <string_view>
+
+namespace ovisto {
+
+ProtectionLevel protectionLevel(const XmlNode& entry)
+{
+    ProtectionLevel level = 0;
+    ErrorTrap trap;
+    trap.run([&] { level = static_cast<ProtectionLevel>(attributeToLong(AttributeGet(entry, "prot"))); });
+    return level;
+}
+
+std::optional<QString> dataTypeCaption(int dataType, ProtectionLevel level)
+{
+    const std::string name(dataTypeName(dataType));
+    if (name.empty())
+        return std::nullopt;
+    const QString caption = QCoreApplication::translate("DataType", name.c_str());
+    if (level == 2)
+        return caption + QCoreApplication::translate("DataType", " Required");
+    if (level == 1)
+        return caption + QCoreApplication::translate("DataType", " Protected");
+    return caption;
+}
+
+std::string valueText(const XmlNode& node, int dataType)
+{
+    const bool isText = dataType == kString || dataType == kUnicodeString;
+    return isText ? withCrLf(node.text()) : node.text();
+}
+
+std::string translatedText(const std::string& hexadecimal)
+{
+    constexpr std::uint8_t kControlStandIn = 140;
+    constexpr std::uint8_t kFirstPrintable = 32;
+    std::string text;
+    for (const std::uint8_t byte : bytesOf(hexadecimal)) {
+        if (byte == 0 || byte == '\n')
+            continue;
+        if (byte == '\r')
+            text += "\r\n";
+        else
+            appendCharacter(text, codePageCharacter(byte < kFirstPrintable && byte != '\t' ? kControlStandIn : byte));
+    }
+    return text;
+}
+
+std::vector<std::uint8_t> bytesOf(const std::string& hexadecimal)
+{
+    std::vector<std::uint8_t> bytes;
+    bytes.reserve(hexadecimal.size() / 2);
+    for (std::size_t at = 0; at + 1 < hexadecimal.size(); at += 2)
+        bytes.push_back(HexToByte(std::string_view(hexadecimal).substr(at, 2)));
+    return bytes;
+}
+
+bool isThumbnail(const XmlNode& node)
+{
+    return node.name() == "THUM";
+}
+
+int thumbnailOrientation(const XmlDocument& JpegDoc)
+{
+    int orientation = 1;
+    ErrorTrap trap;
+    for (const char* path : {"/JPEG/Exif/IFD[@id='0112']", "/JPEG/Exif/IFD1/IFD[@id='0112']"}) {
+        if (const XmlNode node = JpegDoc.selectSingleNode(path))
+            trap.run([&] { orientation = toLong(node.text()); });
+    }
+    return orientation;
+}
+
+} // namespace ovisto

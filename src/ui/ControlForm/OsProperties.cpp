@@ -1,0 +1,94 @@
+#include "ui/ControlForm/OsProperties.h"
+
+#include "writer/NodeCreation.h"
+
+#include <cstddef>
+
+namespace ovisto {
+
+namespace {
+
+struct Row {
+    OsProperty property;
+    XmlNode OsProperties::*node;
+    const char* path;           ///< in a document
+    const char* dictionaryPath; ///< of the entry that a missing node is made from
+    bool lines;
+};
+
+constexpr Row kRows[] = {
+    {OsProperty::Title, &OsProperties::TitleNode, "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']",
+     "/JPEG/Exif/IFD[@id='9C9B']", false},
+    {OsProperty::Subject, &OsProperties::SubjectNode, "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9F']",
+     "/JPEG/Exif/IFD[@id='9C9F']", false},
+    {OsProperty::Comments, &OsProperties::CommentsNode, "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9C']",
+     "/JPEG/Exif/IFD[@id='9C9C']", true},
+    {OsProperty::Keywords, &OsProperties::KeywordsNode, "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9E']",
+     "/JPEG/Exif/IFD[@id='9C9E']", true},
+};
+
+constexpr const Row& rowOf(OsProperty property)
+{
+    return kRows[static_cast<std::size_t>(property)];
+}
+
+std::string replaced(const std::string& text, const std::string& from, const std::string& to)
+{
+    std::string result;
+    std::size_t start = 0;
+    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, start)) {
+        result.append(text, start, at - start).append(to);
+        start = at + from.size();
+    }
+    return result.append(text, start);
+}
+
+} // namespace
+
+XmlNode* OsProperties::nodeOf(const std::string& path)
+{
+    for (const Row& row : kRows) {
+        if (path == row.path)
+            return &(this->*row.node);
+    }
+    return nullptr;
+}
+
+std::string OsProperties::boxText(OsProperty property) const
+{
+    const Row& row = rowOf(property);
+    const std::string text = (this->*row.node).text();
+    return row.lines ? withCrLf(text) : text;
+}
+
+bool OsProperties::leave(OsProperty property, const std::string& boxText, XmlDocument& JpegDoc,
+                         const TagDictionary& Merovel, ErrorReporter& reporter)
+{
+    const Row& row = rowOf(property);
+    XmlNode& node = this->*row.node;
+    if (!node) {
+        if (boxText.empty())
+            return false;
+        // Whichever of the four is created, its node is kept as that of the keywords. So a first title, subject or
+        // comment has its node now, but its text only once the document was opened and the box was filled again.
+        KeywordsNode = CreateNode(JpegDoc, Merovel.entry(row.dictionaryPath), reporter);
+        if (!KeywordsNode.parent())
+            return false;
+    }
+    if ((row.lines ? withLf(boxText) : boxText) == node.text())
+        return false;
+    node.setText(boxText);
+    return true;
+}
+
+std::string withCrLf(const std::string& text)
+{
+    return replaced(text, "\n", "\r\n");
+}
+
+std::string withLf(const std::string& text)
+{
+    return replaced(text, "\r\n", "\n");
+}
+
+} // namespace ovisto

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ui/App/Settings.h"
+
+#include <QString>
+
+namespace ovisto {
+
+/// Which files are looked for, and where.
+struct ScanSettings {
+    QString FolderNameSelected;
+    bool SubFolderScan = true;
+    bool ListAppend = false; ///< add to the list instead of clearing it first
+    QString FilePattern;     ///< names separated by ";"
+    QString SearchWords;     ///< separated by ",", or one regular expression
+    bool SearchAllWords = false;
+    bool SearchWordsWhole = false;
+    bool SearchRegExp = false;
+};
+
+/// As the settings store has it; `folder` is where a first run looks. ListAppend and FilePattern are not stored.
+ScanSettings loadScanSettings(const Settings& settings, const QString& folder);
+
+void saveScanSettings(const ScanSettings& scan, Settings& settings);
+
+} // namespace ovisto

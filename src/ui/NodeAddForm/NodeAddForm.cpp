@@ -1,0 +1,29 @@
+#include "ui/NodeAddForm/NodeAddForm.h"
+
+#include "common/NodePath.h"
+#include "ui/App/Text.h"
+
+namespace ovisto {
+
+NodeAddForm::NodeAddForm(XmlDocument& document, const TagDictionary& Merovel, bool technical, ErrorReporter& reporter,
+                         QWidget* owner)
+    : QDialog(owner), JpegDoc(document), m_reporter(reporter), m_entries(pickableEntries(Merovel, technical))
+{
+    ui.setupUi(this);
+    for (const XmlNode& entry : m_entries)
+        ui.NodeList->addItem(toQString(AttributeGet(entry, "label")));
+    connect(ui.NodeList, &QListWidget::currentRowChanged, this,
+            [this](int row) { ui.NodeAdder->setEnabled(row >= 0); });
+    connect(ui.NodeList, &QListWidget::itemDoubleClicked, this, &NodeAddForm::addNode);
+    connect(ui.NodeAdder, &QPushButton::clicked, this, &NodeAddForm::addNode);
+    connect(ui.FormCanceller, &QPushButton::clicked, this, &NodeAddForm::reject);
+}
+
+void NodeAddForm::addNode()
+{
+    const int row = ui.NodeList->currentRow();
+    NodeAddedXpath = addEntry(JpegDoc, m_entries[static_cast<std::size_t>(row)], m_reporter);
+    accept();
+}
+
+} // namespace ovisto

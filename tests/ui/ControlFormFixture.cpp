@@ -1,0 +1,158 @@
+#include "ControlFormFixture.h"
+
+#include "collection/MetadataDocument.h"
+#include "writer/JpegDocument.h"
+
+#include <QFile>
+#include <QLineEdit>
+
+namespace ovisto::test {
+
+namespace {
+
+const QString kSource = QStringLiteral(OVISTO_SOURCE_FOLDER);
+
+class NoReports : public ErrorReporter {
+public:
+    void report(const std::string& context, const Error&) override { qFatal("reported: %s", context.c_str()); }
+};
+
+} // namespace
+
+bool TestDialogs::ask(const QString& question)
+{
+    messages << question;
+    if (answers.empty())
+        qFatal("unexpected question: %s", qPrintable(question));
+    const bool answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+bool TestDesktop::open(const std::string& path)
+{
+    done << QStringLiteral("open ") + QString::fromStdString(path);
+    return true;
+}
+
+void TestDesktop::showProperties(const std::string& path, QWidget&)
+{
+    done << QStringLiteral("properties ") + QString::fromStdString(path);
+}
+
+Window::Window() : m_settings(m_writable.filePath(QStringLiteral("settings.ini"))) {}
+
+std::string Window::copy(const char* sample, const char* name)
+{
+    const std::string target = path(name != nullptr ? name : sample);
+    QFile::copy(kSource + QStringLiteral("/samples/") + QLatin1String(sample), QString::fromStdString(target));
+    return target;
+}
+
+std::unique_ptr<ControlForm> Window::newForm()
+{
+    const std::string data = (kSource + QStringLiteral("/data/")).toStdString();
+    const std::string writable = (m_writable.path() + QLatin1Char('/')).toStdString();
+    return std::make_unique<ControlForm>(TagDictionary(data + "Merovel.xml"),
+                                         Surroundings{dialogs, desktop, m_settings, {data, writable}});
+}
+
+void Window::open(const std::vector<std::string>& paths)
+{
+    m_form = newForm();
+    m_form->start(paths);
+    m_form->activateWindow();
+    if (!QTest::qWaitForWindowActive(m_form.get()))
+        qFatal("the window does not come to the front");
+}
+
+void Window::click(const char* button)
+{
+    QTest::mouseClick(&control<QAbstractButton>(button), Qt::LeftButton);
+    QCoreApplication::processEvents();
+}
+
+void Window::trigger(const char* menuItem)
+{
+    control<QAction>(menuItem).trigger();
+}
+
+void Window::type(const char* box, const QString& text)
+{
+    auto& widget = control<QWidget>(box);
+    widget.setFocus();
+    QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
+    if (text.isEmpty())
+        QTest::keyClick(&widget, Qt::Key_Delete);
+    for (const QChar character : text)
+        QTest::keyClick(&widget, character == QLatin1Char('\n') ? '\r' : character.toLatin1());
+}
+
+void Window::visit(const char* box)
+{
+    control<QWidget>(box).setFocus();
+    control<QWidget>("FileFinder").setFocus();
+}
+
+QString Window::text(const char* name)
+{
+    auto& widget = control<QWidget>(name);
+    if (auto* label = qobject_cast<QLabel*>(&widget))
+        return label->text();
+    return boxText(widget);
+}
+
+QTreeWidgetItem* Window::item(const char* nodePath)
+{
+    for (QTreeWidgetItemIterator at(&control<QTreeWidget>("NodeTree")); *at != nullptr; ++at) {
+        if ((*at)->data(0, Qt::UserRole + 1).toString() == QLatin1String(nodePath))
+            return *at;
+    }
+    return nullptr;
+}
+
+void Window::select(const char* nodePath)
+{
+    auto& tree = control<QTreeWidget>("NodeTree");
+    QTreeWidgetItem* found = item(nodePath);
+    if (found == nullptr)
+        qFatal("no item %s", nodePath);
+    tree.scrollToItem(found);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualItemRect(found).center());
+}
+
+void Window::selectFile(int row)
+{
+    auto& list = control<QListView>("FilesFoundList");
+    const QModelIndex index = list.model()->index(row, 0);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(index).center());
+    QCoreApplication::processEvents();
+}
+
+int Window::selectedFile()
+{
+    const auto selected = control<QListView>("FilesFoundList").selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+bool Window::isChanged()
+{
+    return control<QLabel>("SaveWarning").isVisible();
+}
+
+std::optional<std::string> inFile(const std::string& path, const std::string& nodePath)
+{
+    XmlDocument document = loadDocument(path);
+    const XmlNode node = document.selectSingleNode(nodePath);
+    return node ? std::optional(node.text()) : std::nullopt;
+}
+
+void setInFile(const std::string& path, const std::string& nodePath, const std::string& text)
+{
+    XmlDocument document = loadDocument(path);
+    document.selectSingleNode(nodePath).setText(text);
+    NoReports reporter;
+    JpegDocument(reporter).WriteJpeg(document, path);
+}
+
+} // namespace ovisto::test

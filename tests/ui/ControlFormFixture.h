@@ -1,0 +1,98 @@
+#pragma once
+
+#include "common/XmlDocument.h"
+#include "ui/App/Desktop.h"
+#include "ui/App/Dialogs.h"
+#include "ui/App/Settings.h"
+#include "ui/ControlForm/ControlForm.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace ovisto::test {
+
+/// A person who reads every message, and answers every question as told before.
+class TestDialogs : public Dialogs {
+public:
+    QStringList messages; ///< messages and questions, as they came
+    std::deque<bool> answers;
+    std::optional<QString> folder;
+    std::optional<QString> file;
+
+    void show(const QString& message) override { messages << message; }
+    bool ask(const QString& question) override;
+    std::optional<QString> chooseFolder(const QString&) override { return folder; }
+    std::optional<QString> chooseFile(const QString&, const QString&) override { return file; }
+
+    /// What was said since the last time.
+    QStringList taken() { return std::exchange(messages, {}); }
+};
+
+class TestDesktop : public Desktop {
+public:
+    QStringList done;
+
+    bool open(const std::string& path) override;
+    void showProperties(const std::string& path, QWidget& owner) override;
+};
+
+/// The main window on copies of sample photographs, and a person before it.
+class Window {
+public:
+    Window();
+
+    /// Puts a copy of a sample into the folder, under another name if wanted.
+    std::string copy(const char* sample, const char* name = nullptr);
+    std::string path(const char* name) const { return m_folder.filePath(QLatin1String(name)).toStdString(); }
+
+    /// Opens the window, as a new run of the program would, with the files and folders `paths`.
+    void open(const std::vector<std::string>& paths);
+    void close() { m_form.reset(); }
+    ControlForm& form() { return *m_form; }
+    std::unique_ptr<ControlForm> newForm();
+
+    template<class Control> Control& control(const char* name)
+    {
+        auto* found = m_form->findChild<Control*>(QLatin1String(name));
+        if (found == nullptr)
+            qFatal("no %s", name);
+        return *found;
+    }
+    void click(const char* button);
+    void trigger(const char* menuItem);
+    void type(const char* box, const QString& text);
+    /// Puts the focus into `box` and takes it away again.
+    void visit(const char* box);
+    QString text(const char* control);
+
+    /// The tree item with this node path; null when there is none.
+    QTreeWidgetItem* item(const char* nodePath);
+    void select(const char* nodePath);
+    /// Clicks a row of the list of files.
+    void selectFile(int row);
+    int selectedFile();
+    bool isChanged();
+
+    TestDialogs dialogs;
+    TestDesktop desktop;
+
+private:
+    QTemporaryDir m_folder;
+    QTemporaryDir m_writable;
+    Settings m_settings;
+    std::unique_ptr<ControlForm> m_form;
+};
+
+/// The text of a node in a file; nothing when there is no such node.
+std::optional<std::string> inFile(const std::string& path, const std::string& nodePath);
+
+/// Sets the text of a node in a file.
+void setInFile(const std::string& path, const std::string& nodePath, const std::string& text);
+
+} // namespace ovisto::test

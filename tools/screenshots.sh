@@ -1,0 +1,180 @@
+#!/bin/bash
+# Takes pictures of the window in its states: starts the real program on a screen that nobody sees (Xvfb), with copies of
+# the sample photographs, and works it with mouse and keys.
+#
+#     tools/screenshots.sh [BUILD FOLDER [OUTPUT FOLDER]]
+#
+# Needs the Debian packages xvfb, xdotool and imagemagick.
+set -euo pipefail
+
+root=$(cd "$(dirname "$0")/.." && pwd)
+build=${1:-$root/build/release}
+output=${2:-$root/docs/images}
+photographs=/tmp/Photographs # the pictures show this name
+work=$(mktemp -d)
+mkdir -p "$output"
+
+fail() { echo "screenshots.sh: $1" >&2; exit 1; }
+
+cleanup() {
+    [ -z "${program:-}" ] || kill "$program" 2>/dev/null || true
+    [ -z "${screen:-}" ] || kill "$screen" 2>/dev/null || true
+    rm -rf "$work" "$photographs"
+}
+[ ! -e "$photographs" ] || fail "$photographs is in the way"
+trap cleanup EXIT
+
+[ -x "$build/bin/ovisto" ] || fail "no $build/bin/ovisto; build it first"
+for tool in Xvfb xdotool import convert; do
+    command -v $tool >/dev/null || fail "$tool is missing"
+done
+
+mkdir -p "$work/home/.config" "$work/runtime" "$photographs"
+chmod 700 "$work/runtime"
+cp "$root"/samples/{little-endian,night,portrait,xmp}.jpg "$photographs"
+export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_RUNTIME_DIR=$work/runtime
+export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
+unset DBUS_SESSION_BUS_ADDRESS QT_SCALE_FACTOR QT_QPA_PLATFORMTHEME XDG_CURRENT_DESKTOP
+
+exec 3<>"$work/display"
+Xvfb -displayfd 3 -screen 0 3840x2160x24 >/dev/null 2>&1 &
+screen=$!
+sleep 1
+DISPLAY=:$(head -1 "$work/display")
+export DISPLAY
+
+# start PLACEMENT [ARGUMENT...]: starts the program in a window at a place given in twips, 15 a pixel
+start() {
+    printf '[Lumetra]\nControlForm="%s"\n' "$1" >"$XDG_CONFIG_HOME/Castelmar.conf"
+    shift
+    "$build/bin/ovisto" "$@" 2>/dev/null &
+    program=$!
+    sleep 2
+    window=$(windows | tail -1)
+    xdotool windowfocus "$window"
+    sleep 0.5
+}
+
+stop() {
+    kill "$program"
+    wait "$program" 2>/dev/null || true
+    program=
+}
+
+# windows: the windows that the program shows, the smallest first; the largest is the main window
+windows() {
+    local id
+    for id in $(xdotool search --onlyvisible --pid "$program" 2>/dev/null); do
+        eval "$(xdotool getwindowgeometry --shell "$id" 2>/dev/null)"
+        echo $((WIDTH * HEIGHT)) "$id"
+    done | sort -n | cut -d' ' -f2
+}
+
+# front: the window in front, a dialog where there is one
+front() { windows | head -1; }
+
+# shoot NAME: takes a picture of the main window with what stands before it
+shoot() {
+    sleep 0.5
+    eval "$(xdotool getwindowgeometry --shell "$window")"
+    import -window root -crop "${WIDTH}x${HEIGHT}+$X+$Y" +repage "$work/shot.png"
+    convert "$work/shot.png" -colors 256 "PNG8:$output/$1.png"
+    echo "$output/$1.png"
+}
+
+# click X Y: presses the mouse at a place in the window; from the right or the lower edge when negative
+click() {
+    eval "$(xdotool getwindowgeometry --shell "$window")"
+    local x=$1 y=$2
+    [ "$x" -ge 0 ] || x=$((WIDTH + x))
+    [ "$y" -ge 0 ] || y=$((HEIGHT + y))
+    xdotool mousemove $((X + x)) $((Y + y)) click 1
+    sleep 0.3
+}
+
+key() { xdotool key --delay 60 "$@"; sleep 0.3; }
+
+small=0,0,11655,8505
+large=0,0,18000,12000
+
+# The empty window, its message answered.
+mkdir "$work/empty"
+start $large "$work/empty"
+xdotool windowfocus "$(front)"; key Return
+shoot empty
+stop
+
+# The smallest size that all has room in.
+start $small "$photographs"
+shoot smallest
+stop
+
+# A file, its properties, and its values in all their forms. The tree has the focus when a file is open.
+start $large "$photographs"
+key Down Down
+shoot file
+click -100 -250
+key ctrl+a
+xdotool type --delay 30 "Mountain lake at dawn"
+key Tab
+shoot editing
+key alt+a
+xdotool windowfocus "$(front)"; key Down Down Down Down
+shoot add-node
+key Escape
+xdotool windowfocus "$window"
+click -150 100
+key End
+shoot hex
+click -110 -377
+shoot thumbnail
+key alt+i Down Return
+sleep 1
+shoot properties
+xdotool windowfocus "$(front)"; key Escape
+xdotool windowfocus "$window"; key alt+h; key alt+i Right Return
+xdotool windowfocus "$(front)"; key alt+s
+shoot about
+stop
+
+# A palette of light text on dark ground, as the settings of a desktop tell it.
+cat >"$XDG_CONFIG_HOME/kdeglobals" <<'PALETTE'
+[KDE]
+widgetStyle=Fusion
+[Colors:Window]
+BackgroundNormal=49,54,59
+ForegroundNormal=239,240,241
+[Colors:View]
+BackgroundNormal=35,38,41
+BackgroundAlternate=49,54,59
+ForegroundNormal=239,240,241
+[Colors:Button]
+BackgroundNormal=64,70,76
+ForegroundNormal=239,240,241
+[Colors:Selection]
+BackgroundNormal=61,174,233
+ForegroundNormal=252,252,252
+[Colors:Tooltip]
+BackgroundNormal=49,54,59
+ForegroundNormal=239,240,241
+PALETTE
+export XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5 KDE_FULL_SESSION=true
+start $large "$photographs/night.jpg"
+key Down Down
+click -100 -250
+key ctrl+a
+xdotool type --delay 30 "The harbour by night"
+key Tab
+shoot dark
+stop
+unset XDG_CURRENT_DESKTOP KDE_SESSION_VERSION KDE_FULL_SESSION
+rm "$XDG_CONFIG_HOME/kdeglobals"
+
+# Screens of fine and of many pixels.
+QT_SCALE_FACTOR=2 start $small "$photographs/portrait.jpg"
+shoot scaled
+stop
+start 0,0,57600,32400 "$photographs"
+key Down Down
+shoot large
+stop
