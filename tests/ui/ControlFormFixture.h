@@ -57,7 +57,7 @@ public:
     ControlForm& form() { return *m_form; }
     std::unique_ptr<ControlForm> newForm();
 
-    template<class Control> Control& control(const char* name)
+    template <class Control> Control& control(const char* name)
     {
         auto* found = m_form->findChild<Control*>(QLatin1String(name));
         if (found == nullptr)
