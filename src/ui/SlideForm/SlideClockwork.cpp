@@ -4,8 +4,25 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace ovisto {
+
+namespace {
+
+// The list may have become shorter since the row was shown.
+
+int rowAfter(int row, int count)
+{
+    return row >= count - 1 ? 0 : row + 1;
+}
+
+int rowBefore(int row, int count)
+{
+    return row > 0 ? std::min(row, count) - 1 : count - 1;
+}
+
+} // namespace
 
 void SlideClockwork::run(std::int16_t seconds)
 {
@@ -23,15 +40,27 @@ void SlideClockwork::stop()
     m_running = false;
 }
 
+std::vector<int> SlideClockwork::neededRows(int count) const
+{
+    if (m_row < 0 || m_row >= count)
+        return {};
+    std::vector<int> rows = {m_row, rowAfter(m_row, count), rowBefore(m_row, count)};
+    if (m_backward)
+        std::swap(rows[1], rows[2]);
+    return rows;
+}
+
 void SlideClockwork::next(int count)
 {
-    m_row = m_row >= count - 1 ? 0 : m_row + 1;
+    m_row = rowAfter(m_row, count);
+    m_backward = false;
 }
 
 void SlideClockwork::previous(int count)
 {
     stop();
-    m_row = m_row > 0 ? std::min(m_row, count) - 1 : count - 1;
+    m_row = rowBefore(m_row, count);
+    m_backward = true;
     restart();
 }
 

@@ -3,6 +3,7 @@
 #include "ui/SlideForm/SlideTimer.h"
 
 #include <cstdint>
+#include <vector>
 
 namespace ovisto {
 
@@ -21,6 +22,10 @@ public:
     void run(std::int16_t seconds);
     void stop();
 
+    /// The rows of a list of `count` files that are needed now and next: the one that is shown, and its neighbours, the
+    /// one first where the show is going to. None when no file is shown.
+    std::vector<int> neededRows(int count) const;
+
     /// Steps through a list of `count` files, whose ends meet. A step back lets a paused show run again.
     void next(int count);
     void previous(int count);
@@ -36,6 +41,7 @@ private:
     int m_row = -1;
     int m_interval = 0; ///< milliseconds; 0: moved by keys only
     bool m_running = false;
+    bool m_backward = false; ///< the last step went back
 };
 
 } // namespace ovisto

@@ -164,14 +164,12 @@ void SlideForm::tick()
 void SlideForm::showNext()
 {
     m_clockwork.next(m_surroundings.files.rowCount());
-    m_backward = false;
     showCurrent();
 }
 
 void SlideForm::showPrevious()
 {
     m_clockwork.previous(m_surroundings.files.rowCount());
-    m_backward = true;
     showCurrent();
 }
 
@@ -270,18 +268,12 @@ bool SlideForm::hasCurrent() const
     return !m_wanted.empty();
 }
 
-/// The slide that is due, and its two neighbours, the one first where the show is going to.
 std::vector<SlideRequest> SlideForm::wantedSlides() const
 {
     const FoundFiles& files = m_surroundings.files;
-    const int row = m_clockwork.row();
-    if (row < 0 || row >= files.rowCount())
-        return {};
-    const int before = *files.previous(row);
-    const int after = *files.next(row);
     std::vector<SlideRequest> wanted;
-    for (const int wantedRow : {row, m_backward ? before : after, m_backward ? after : before})
-        wanted.push_back(slideRequest(files.path(wantedRow), largestPicture()));
+    for (const int row : m_clockwork.neededRows(files.rowCount()))
+        wanted.push_back(slideRequest(files.path(row), largestPicture()));
     return wanted;
 }
 

@@ -73,7 +73,6 @@ private:
     bool m_fullscreen = false;
     bool m_resize = false;
     bool m_details = false;
-    bool m_backward = false;            ///< the last step went back
     bool m_isWaiting = false;           ///< the slide that is due is not on the screen yet
     std::vector<SlideRequest> m_wanted; ///< the one that is due first
     QString m_detailsLine;
