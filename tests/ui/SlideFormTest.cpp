@@ -65,6 +65,11 @@ public:
     CaptionLine& details() { return *m_form->findChild<CaptionLine*>(QStringLiteral("FileDetails")); }
     QString title() const { return m_form->windowTitle(); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(m_form.data(), key, modifiers); }
+    void movePointer(const QPoint& to)
+    {
+        QMouseEvent event(QEvent::MouseMove, to, image().mapToGlobal(to), Qt::NoButton, Qt::NoButton, {});
+        QCoreApplication::sendEvent(&image(), &event);
+    }
     QString setting(const char* key) const { return m_settings.GetSetting(QLatin1String(key), {}); }
     Settings& settings() { return m_settings; }
 
@@ -205,11 +210,13 @@ private Q_SLOTS:
         QVERIFY(show.form().isFullScreen());
         QVERIFY(show.form().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
         QTRY_COMPARE(show.form().geometry(), show.form().screen()->geometry());
-        QTest::mouseMove(&show.image(), {50, 50});
+        show.movePointer({50, 50});
         show.pointerTimer->pass();
         QCOMPARE(show.form().cursor().shape(), Qt::BlankCursor);
         QCOMPARE(show.pointerTimer->interval, 0);
-        QTest::mouseMove(&show.image(), {60, 50});
+        show.movePointer({50, 50}); // as when the picture below it changes
+        QCOMPARE(show.form().cursor().shape(), Qt::BlankCursor);
+        show.movePointer({60, 50});
         QCOMPARE(show.form().cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(show.pointerTimer->interval, 2000);
         show.press(Qt::Key_Escape);
@@ -221,12 +228,15 @@ private Q_SLOTS:
         Show show;
         show.list(kThree);
         show.start();
-        QCOMPARE(show.form().geometry(), QRect(0, 0, 777, 567));
-        show.form().setGeometry(30, 40, 500, 400);
+        QCOMPARE(show.form().pos(), QPoint(0, 0));
+        QCOMPARE(show.form().size(), QSize(777, 567));
+        show.form().move(30, 40);
+        show.form().resize(500, 400);
         show.form().close();
         QCOMPARE(show.setting("SlideForm"), QStringLiteral("450,600,7500,6000"));
         show.start();
-        QCOMPARE(show.form().geometry(), QRect(30, 40, 500, 400));
+        QCOMPARE(show.form().pos(), QPoint(30, 40));
+        QCOMPARE(show.form().size(), QSize(500, 400));
     }
 
     void endsAtTheFileShown_data()

@@ -115,7 +115,7 @@ private Q_SLOTS:
         row("two clocks never set", "", {.taken = entry("9003", "::") + entry("9004", "    :  :  ")});
         row("a date without a time", "Thu Thursday, May 6, 2004 12:00:00 AM", {.taken = entry("9003", "2004:05:06")});
         row("no date", "2004:13:06 01:02:03", {.taken = entry("9003", "2004:13:06 01:02:03")});
-        row("a time that summer time leaves out", "Sun Sonntag, 28. März 2004 02:30:00",
+        row("a time that summer time leaves out", "So. Sonntag, 28. März 2004 02:30:00",
             {.taken = entry("9003", "2004:03:28 02:30:00")}, "de_DE");
         row("a zone in brackets", "jue jueves, 6 de mayo de 2004 13:04:05", {.taken = taken}, "es_ES");
         row("letters between the numbers", "jeu. jeudi 6 mai 2004 13 h 04 min 05 s", {.taken = taken}, "fr_CA");
@@ -301,7 +301,7 @@ private Q_SLOTS:
         };
         constexpr auto kAny = std::numeric_limits<std::int64_t>::max();
         const auto lying = decoded(samples + "little-endian.jpg", kAny, wanted);
-        QCOMPARE(lying->picture.size(), QSize(90, 60));
+        QCOMPARE(lying->picture.size(), QSize(89, 60));
         QVERIFY(lying->details.startsWith(QLatin1String("\"Mountain lake\" -- ")));
         const auto upright = decoded(samples + "portrait.jpg", kAny, wanted);
         QCOMPARE(upright->picture.height(), 60);

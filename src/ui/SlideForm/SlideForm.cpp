@@ -62,8 +62,9 @@ SlideForm::SlideForm(const SlideSurroundings& surroundings, SlideTimers timers, 
     setAttribute(Qt::WA_DeleteOnClose);
     setPalette(blackPalette());
     allowLargePictures();
-    for (QWidget* part : {static_cast<QWidget*>(this), ui.PictureScroller->viewport(), static_cast<QWidget*>(ui.Image1),
-                          static_cast<QWidget*>(ui.FileDetails)})
+    // A movement reaches the form only if all that it passes on its way asked for it.
+    setMouseTracking(true);
+    for (QWidget* part : findChildren<QWidget*>())
         part->setMouseTracking(true);
     m_resized.setSingleShot(true);
     m_resized.setInterval(kSettled);
