@@ -11,7 +11,9 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QScrollBar>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -104,6 +106,8 @@ void SlideForm::openWindow()
     setWindowTitle({});
     setWindowFlag(Qt::WindowStaysOnTopHint);
     showFullScreen();
+    // Where no window manager does it.
+    windowHandle()->setGeometry(screen()->geometry());
     m_timers.pointer->start(kPointerPatience);
 }
 
