@@ -4,7 +4,7 @@
 #
 #     tools/slide-screenshots.sh [BUILD FOLDER [OUTPUT FOLDER]]
 #
-# Needs the Debian packages xvfb, xdotool and imagemagick.
+# Needs the Debian packages xvfb, xdotool and imagemagick, and openbox for windows with a frame.
 set -euo pipefail
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -17,6 +17,7 @@ fail() { echo "slide-screenshots.sh: $1" >&2; exit 1; }
 
 cleanup() {
     [ -z "${program:-}" ] || kill "$program" 2>/dev/null || true
+    [ -z "${manager:-}" ] || kill "$manager" 2>/dev/null || true
     [ -z "${screen:-}" ] || kill "$screen" 2>/dev/null || true
     rm -rf "$work"
 }
@@ -40,6 +41,11 @@ screen=$!
 sleep 1
 DISPLAY=:$(head -1 "$work/display")
 export DISPLAY
+if command -v openbox >/dev/null; then
+    openbox --sm-disable >/dev/null 2>&1 &
+    manager=$!
+    sleep 1
+fi
 
 # start FULLSCREEN RESIZE DETAILS [ENVIRONMENT...]: starts a show by the button of the main window, moved by keys or
 # paused only after half a minute
@@ -60,7 +66,7 @@ start() {
 focus() {
     sleep 0.5
     window=$(xdotool search --onlyvisible --name "$1" | tail -1)
-    xdotool windowfocus "$window"
+    xdotool windowactivate "$window" 2>/dev/null || xdotool windowfocus "$window"
     sleep 0.3
 }
 
@@ -72,8 +78,8 @@ stop() {
 
 key() { xdotool key --delay 60 "$@"; sleep 0.5; }
 
-# shoot NAME: takes a picture of the window that has the focus; shootAll: of the whole screen
-shoot() { sleep 0.5; import -window "$window" "$output/$1.png"; echo "$output/$1.png"; }
+# shoot NAME: takes a picture of the window that has the focus, with its frame; shootAll: of the whole screen
+shoot() { sleep 0.5; import -frame -window "$window" "$output/$1.png"; echo "$output/$1.png"; }
 shootAll() { sleep 0.5; import -window root "$output/$1.png"; echo "$output/$1.png"; }
 
 start 0 1 1

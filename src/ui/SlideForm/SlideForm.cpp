@@ -103,6 +103,10 @@ void SlideForm::openWindow()
     // Without details, the line appears for a pause only, before the picture.
     if (!m_details)
         ui.slideLayout->addWidget(ui.FileDetails, 0, 0, Qt::AlignBottom);
+    constexpr qreal kLegible = 1.4; // from farther away than a window
+    QFont font = ui.FileDetails->font();
+    font.setPointSizeF(kLegible * font.pointSizeF());
+    ui.FileDetails->setFont(font);
     setWindowTitle({});
     setWindowFlag(Qt::WindowStaysOnTopHint);
     showFullScreen();
