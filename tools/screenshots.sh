@@ -10,6 +10,7 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${1:-$root/build/release}
 output=${2:-$root/docs/images}
+photographs=/tmp/Photographs # the pictures show this name
 work=$(mktemp -d)
 mkdir -p "$output"
 
@@ -18,18 +19,19 @@ fail() { echo "screenshots.sh: $1" >&2; exit 1; }
 cleanup() {
     [ -z "${program:-}" ] || kill "$program" 2>/dev/null || true
     [ -z "${screen:-}" ] || kill "$screen" 2>/dev/null || true
-    rm -rf "$work"
+    rm -rf "$work" "$photographs"
 }
+[ ! -e "$photographs" ] || fail "$photographs is in the way"
 trap cleanup EXIT
 
 [ -x "$build/bin/ovisto" ] || fail "no $build/bin/ovisto; build it first"
-for tool in Xvfb xdotool import; do
+for tool in Xvfb xdotool import convert; do
     command -v $tool >/dev/null || fail "$tool is missing"
 done
 
-mkdir -p "$work/home/.config" "$work/runtime" "$work/photographs"
+mkdir -p "$work/home/.config" "$work/runtime" "$photographs"
 chmod 700 "$work/runtime"
-cp "$root"/samples/{little-endian,night,portrait,xmp}.jpg "$work/photographs"
+cp "$root"/samples/{little-endian,night,portrait,xmp}.jpg "$photographs"
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_RUNTIME_DIR=$work/runtime
 export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 unset DBUS_SESSION_BUS_ADDRESS QT_SCALE_FACTOR QT_QPA_PLATFORMTHEME XDG_CURRENT_DESKTOP
@@ -75,7 +77,8 @@ front() { windows | head -1; }
 shoot() {
     sleep 0.5
     eval "$(xdotool getwindowgeometry --shell "$window")"
-    import -window root -crop "${WIDTH}x${HEIGHT}+$X+$Y" +repage "$output/$1.png"
+    import -window root -crop "${WIDTH}x${HEIGHT}+$X+$Y" +repage "$work/shot.png"
+    convert "$work/shot.png" -colors 256 "PNG8:$output/$1.png"
     echo "$output/$1.png"
 }
 
@@ -91,7 +94,6 @@ click() {
 
 key() { xdotool key --delay 60 "$@"; sleep 0.3; }
 
-photographs=$work/photographs
 small=0,0,11655,8505
 large=0,0,18000,12000
 
@@ -109,8 +111,8 @@ stop
 
 # A file, its properties, and its values in all their forms. The tree has the focus when a file is open.
 start $large "$photographs"
-shoot file
 key Down Down
+shoot file
 click -100 -250
 key ctrl+a
 xdotool type --delay 30 "Mountain lake at dawn"
@@ -126,6 +128,13 @@ key End
 shoot hex
 click -110 -377
 shoot thumbnail
+key alt+i Down Return
+sleep 1
+shoot properties
+xdotool windowfocus "$(front)"; key Escape
+xdotool windowfocus "$window"; key alt+h; key alt+i Right Return
+xdotool windowfocus "$(front)"; key alt+s
+shoot about
 stop
 
 # A palette of light text on dark ground, as the settings of a desktop tell it.
@@ -133,14 +142,14 @@ cat >"$XDG_CONFIG_HOME/kdeglobals" <<'PALETTE'
 [KDE]
 widgetStyle=Fusion
 [Colors:Window]
-BackgroundNormal=35,38,41
+BackgroundNormal=49,54,59
 ForegroundNormal=239,240,241
 [Colors:View]
-BackgroundNormal=27,30,32
-BackgroundAlternate=35,38,41
+BackgroundNormal=35,38,41
+BackgroundAlternate=49,54,59
 ForegroundNormal=239,240,241
 [Colors:Button]
-BackgroundNormal=49,54,59
+BackgroundNormal=64,70,76
 ForegroundNormal=239,240,241
 [Colors:Selection]
 BackgroundNormal=61,174,233

@@ -163,6 +163,15 @@ private Q_SLOTS:
         QCOMPARE(placement(QStringLiteral("-150, 30 ,1500,1500")).value(), QRect(-10, 2, 100, 100));
         for (const char* nonsense : {"", "1,2,3", "left,top,wide,high", "0,0,0,0", "0,0,99999999999,15", "0,0,-15,15"})
             QVERIFY(!placement(QLatin1String(nonsense)));
+        QTemporaryDir folder;
+        Settings settings(folder.filePath(QStringLiteral("settings.ini")));
+        settings.SaveSetting(QStringLiteral("Window"), QStringLiteral("far,off,the,screen"));
+        QWidget window;
+        PlacementLoad(window, settings, QStringLiteral("Window"), QStringLiteral("0,0,4500,3000"));
+        QCOMPARE(window.size(), QSize(300, 200));
+        window.move(20, 10);
+        PlacementSave(window, settings, QStringLiteral("Window"));
+        QCOMPARE(settings.GetSetting(QStringLiteral("Window"), {}), QStringLiteral("300,150,4500,3000"));
     }
 
     void keepsWindowsOnTheScreen()

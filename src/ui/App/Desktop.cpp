@@ -47,7 +47,10 @@ bool SystemDesktop::open(const std::string& path)
 void SystemDesktop::showProperties(const std::string& path, QWidget& owner)
 {
     constexpr int kPatience = 5000; // milliseconds, a file manager may have to be started
-    const auto pending = QDBusConnection::sessionBus().asyncCall(showItemProperties(path), kPatience);
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return showPropertySheet(path, &owner);
+    const auto pending = bus.asyncCall(showItemProperties(path), kPatience);
     auto* watcher = new QDBusPendingCallWatcher(pending, &owner);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &owner, [watcher, path, &owner] {
         watcher->deleteLater();

@@ -48,7 +48,7 @@ QImage fittedPicture(QIODevice& file, QSize maximum)
     // The reader scales first and turns then: a picture lying on its side has to fit lying.
     const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     reader.setScaledSize(fittedSize(size, turned ? maximum.transposed() : maximum));
-    const QImage picture = reader.read();
+    QImage picture = reader.read();
     if (picture.isNull())
         throw Error{kInvalidPicture, "Invalid picture"};
     return picture;

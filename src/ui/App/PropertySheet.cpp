@@ -33,7 +33,9 @@ PropertySheet::PropertySheet(const std::string& path, QWidget* owner) : QDialog(
 
 void PropertySheet::addRow(QFormLayout& rows, const QString& caption, const QString& text)
 {
+    constexpr int kLine = 320; // pixels; longer texts take several lines
     auto* label = new QLabel(text, this);
+    label->setMinimumWidth(kLine);
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     label->setWordWrap(true);

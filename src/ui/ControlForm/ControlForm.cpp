@@ -96,7 +96,7 @@ void ControlForm::connectControls()
     connect(&m_selection, &QTimer::timeout, this, &ControlForm::OpenSelectedFile);
     // A list that is still busy with the mouse must not change, so the file is opened a moment later.
     connect(ui.FilesFoundList->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (!ControlsUpdating)
+        if (!ControlsUpdating && selectedFile() >= 0)
             m_selection.start();
     });
     connect(ui.FilesFoundList, &QListView::clicked, this, [this] {
@@ -215,8 +215,11 @@ void ControlForm::dropEvent(QDropEvent* event)
     if (paths.empty())
         return;
     event->acceptProposedAction();
-    moveFocusTo(*ui.FileFinder);
-    findFilesAmong(paths);
+    // Later, as a question now would keep the program waiting that the files came from.
+    QTimer::singleShot(0, this, [this, paths] {
+        moveFocusTo(*ui.FileFinder);
+        findFilesAmong(paths);
+    });
 }
 
 bool ControlForm::eventFilter(QObject* watched, QEvent* event)

@@ -41,8 +41,8 @@ class ControlForm : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// `Merovel` is the tag dictionary that says what the nodes of a document are.
-    ControlForm(TagDictionary Merovel, const Surroundings& surroundings);
+    /// `dictionary` says what the nodes of a document are.
+    ControlForm(TagDictionary dictionary, const Surroundings& surroundings);
 
     /// Shows the window with the files in `paths`, folders among them, or in a folder that the person chooses when
     /// there are none. Returns whether there is a window: not when that choice was cancelled.

@@ -84,6 +84,7 @@ void ControlForm::clearPanes()
 {
     const QScopedValueRollback updating(ControlsUpdating, true);
     CurrentNode = {};
+    CurrentProt = 0;
     m_osProperties = {};
     ui.TreeStack->setCurrentWidget(ui.TreeHint);
     ui.NodeTree->clear();

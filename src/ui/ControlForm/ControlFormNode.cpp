@@ -244,7 +244,7 @@ bool ControlForm::leaveBox(const QObject* box)
         leaveNodeText();
         return true;
     }
-    const auto osBox = std::ranges::find(m_osBoxes, box, [](const OsBox& candidate) { return candidate.box; });
+    auto* const osBox = std::ranges::find(m_osBoxes, box, [](const OsBox& candidate) { return candidate.box; });
     if (osBox == m_osBoxes.end())
         return false;
     leaveOsBox(*osBox);

@@ -15,7 +15,7 @@ class NodeAddForm : public QDialog {
     Q_OBJECT
 
 public:
-    NodeAddForm(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical, ErrorReporter& reporter,
+    NodeAddForm(XmlDocument& document, const TagDictionary& Merovel, bool technical, ErrorReporter& reporter,
                 QWidget* owner);
 
     /// The path of the node that was added; empty when none was.

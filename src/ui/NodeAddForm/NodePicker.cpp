@@ -12,7 +12,7 @@ std::vector<XmlNode> pickableEntries(const TagDictionary& Merovel, bool technica
 
 std::string addEntry(XmlDocument& JpegDoc, const XmlNode& entry, ErrorReporter& reporter)
 {
-    const std::string path = NodeXPath(entry);
+    std::string path = NodeXPath(entry);
     if (JpegDoc.selectSingleNode(path))
         return {};
     CreateNode(JpegDoc, entry, reporter);
