@@ -193,6 +193,8 @@ bool ControlForm::start(const std::vector<std::string>& paths)
 
 void ControlForm::closeEvent(QCloseEvent* event)
 {
+    if (auto* show = findChild<SlideForm*>())
+        show->close();
     moveFocusTo(*ui.FileFinder);
     OfferSave(true);
     saveSettings();

@@ -6,6 +6,7 @@
 #include "ui/App/Text.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QImageReader>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
@@ -13,7 +14,6 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QScrollBar>
-#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -109,9 +109,12 @@ void SlideForm::openWindow()
     ui.FileDetails->setFont(font);
     setWindowTitle({});
     setWindowFlag(Qt::WindowStaysOnTopHint);
+    // The place to remember is that of the window; from now on it is where the screen is, which not every window
+    // manager sees to by itself.
+    PlacementSave(*this, m_surroundings.settings, objectName());
+    if (const QScreen* shown = QGuiApplication::screenAt(geometry().center()))
+        setGeometry(shown->geometry());
     showFullScreen();
-    // Where no window manager does it.
-    windowHandle()->setGeometry(screen()->geometry());
     m_timers.pointer->start(kPointerPatience);
 }
 
@@ -119,7 +122,8 @@ void SlideForm::closeEvent(QCloseEvent* event)
 {
     m_clockwork.stop();
     m_cache.want({});
-    PlacementSave(*this, m_surroundings.settings, objectName());
+    if (!m_fullscreen)
+        PlacementSave(*this, m_surroundings.settings, objectName());
     event->accept();
 }
 
