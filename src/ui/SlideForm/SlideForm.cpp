@@ -129,9 +129,10 @@ void SlideForm::closeEvent(QCloseEvent* event)
 
 void SlideForm::keyPressEvent(QKeyEvent* event)
 {
-    if (event->modifiers() == Qt::ControlModifier)
+    const auto modifiers = event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    if (modifiers == Qt::ControlModifier)
         return scroll(event->key());
-    if ((event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier)) || isModifier(event->key()))
+    if (modifiers != Qt::NoModifier || isModifier(event->key()))
         return QWidget::keyPressEvent(event);
     switch (event->key()) {
     case Qt::Key_Escape:
