@@ -4,6 +4,7 @@
 #include "ui/AboutForm/AboutForm.h"
 #include "ui/App/Placement.h"
 #include "ui/App/Text.h"
+#include "ui/SlideShowOptionForm/SlideShowOptionForm.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -81,8 +82,7 @@ ControlForm::ControlForm(TagDictionary dictionary, const Surroundings& surroundi
     for (QLabel* caption : {ui.FileCommentsL, ui.FileKeywordsL})
         caption->setContentsMargins(0, kFirstLine, 0, 0);
     // Of another part of the program that is to come.
-    for (QAbstractButton* button : {ui.SlideShower, ui.BatchShower})
-        button->setEnabled(false);
+    ui.BatchShower->setEnabled(false);
     ui.menuGenerate->setEnabled(false);
     connectControls();
     connectMenus();
@@ -110,6 +110,7 @@ void ControlForm::connectControls()
     connect(ui.FilePickerNext, &QToolButton::clicked, this, pickNext);
     connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, pickPrevious);
     connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, pickNext);
+    connect(ui.SlideShower, &QPushButton::clicked, this, &ControlForm::showSlideShowOptions);
     connect(ui.KeywordLoader, &QPushButton::clicked, this, &ControlForm::chooseKeywords);
     connect(ui.KeywordList, &QListWidget::itemClicked, this, &ControlForm::insertKeyword);
     connect(ui.Image1, &PictureBox::clicked, this,
@@ -192,6 +193,8 @@ bool ControlForm::start(const std::vector<std::string>& paths)
 
 void ControlForm::closeEvent(QCloseEvent* event)
 {
+    if (auto* show = findChild<SlideForm*>())
+        show->close();
     moveFocusTo(*ui.FileFinder);
     OfferSave(true);
     saveSettings();
@@ -338,6 +341,16 @@ void ControlForm::pickFile(QWidget& button, std::optional<int> (FoundFiles::*nei
         return;
     if (const auto row = (m_found.*neighbour)(selectedFile()))
         selectFile(*row);
+}
+
+void ControlForm::showSlideShowOptions()
+{
+    auto* form = findChild<SlideShowOptionForm*>();
+    if (form == nullptr)
+        form = new SlideShowOptionForm(
+            {m_found, *ui.FilesFoundList->selectionModel(), m_surroundings.dialogs, m_surroundings.settings}, this);
+    form->show();
+    form->activateWindow();
 }
 
 void ControlForm::runVerb(Verb verb)

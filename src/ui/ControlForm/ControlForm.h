@@ -80,6 +80,8 @@ private:
     void selectFile(int row);
     void pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const);
 
+    void showSlideShowOptions();
+
     // The file shown
     void OpenSelectedFile();
     bool findSelectedFile();
