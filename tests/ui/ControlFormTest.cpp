@@ -145,7 +145,7 @@ private Q_SLOTS:
         QVERIFY(window.dialogs.messages.isEmpty());
     }
 
-    void savesTheBoxBeingEditedByKeyAndMenu()
+    void savesTheBoxBeingEditedByKeyMenuAndLetter()
     {
         Window window;
         const std::string path = window.copy("night.jpg");
@@ -158,6 +158,10 @@ private Q_SLOTS:
         window.type("NodeText", QStringLiteral("By menu"));
         window.trigger("menuFileSave");
         QCOMPARE(inFile(path, kDescription).value(), std::string("By menu"));
+        window.type("NodeText", QStringLiteral("By letter"));
+        window.form().activateWindow();
+        QTest::keyClick(&window.control<QWidget>("NodeText"), Qt::Key_S, Qt::AltModifier);
+        QTRY_COMPARE(inFile(path, kDescription).value(), std::string("By letter"));
         // The metadata have changed their length: had the file not been opened again, the image would be cut now.
         QVERIFY(imageData(path) == image);
         QVERIFY(window.dialogs.messages.isEmpty());

@@ -6,6 +6,7 @@
 #include "ui/App/Text.h"
 #include "ui/SlideShowOptionForm/SlideShowOptionForm.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -105,6 +106,10 @@ void ControlForm::connectControls()
     });
     const auto pickPrevious = [this] { pickFile(*ui.FilePickerPrev, &FoundFiles::previous); };
     const auto pickNext = [this] { pickFile(*ui.FilePickerNext, &FoundFiles::next); };
+    // A button pressed by its underlined letter does not take the focus by itself, but the box being edited must be
+    // left before anything happens.
+    for (QAbstractButton* button : findChildren<QAbstractButton*>())
+        connect(button, &QAbstractButton::pressed, button, [button] { button->setFocus(); });
     connect(ui.FileFinder, &QPushButton::clicked, this, &ControlForm::findFiles);
     connect(ui.FilePickerPrev, &QToolButton::clicked, this, pickPrevious);
     connect(ui.FilePickerNext, &QToolButton::clicked, this, pickNext);
