@@ -1,4 +1,4 @@
-#!/bin/bash
+#!/usr/bin/env bash
 # Takes pictures of the slide show in its states: starts the real program on a screen that nobody sees (Xvfb), with copies
 # of the sample photographs, and works it with mouse and keys.
 #
@@ -36,7 +36,7 @@ export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 unset DBUS_SESSION_BUS_ADDRESS QT_SCALE_FACTOR QT_QPA_PLATFORMTHEME XDG_CURRENT_DESKTOP
 
 exec 3<>"$work/display"
-Xvfb -displayfd 3 -screen 0 1920x1080x24 >/dev/null 2>&1 &
+Xvfb -displayfd 3 -screen 0 1280x800x24 >/dev/null 2>&1 &
 screen=$!
 sleep 1
 DISPLAY=:$(head -1 "$work/display")
