@@ -47,14 +47,13 @@ if command -v openbox >/dev/null; then
     sleep 1
 fi
 
-# start FULLSCREEN RESIZE DETAILS [ENVIRONMENT...]: starts a show by the button of the main window, moved by keys or
+# start FULLSCREEN RESIZE DETAILS: starts a show by the button of the main window, moved by keys or
 # paused only after half a minute
 start() {
     printf '[Lumetra]\nControlForm="0,0,18000,12000"\nSlideForm="1500,1500,12000,9000"\n' >"$XDG_CONFIG_HOME/Castelmar.conf"
     printf 'SlideFullscreen=%s\nSlideResize=%s\nSlideDetails=%s\nSlideSecondsPer=30\n' "$1" "$2" "$3" \
         >>"$XDG_CONFIG_HOME/Castelmar.conf"
-    shift 3
-    env "$@" "$build/bin/ovisto" "$work/photographs" 2>/dev/null &
+    "$build/bin/ovisto" "$work/photographs" 2>/dev/null &
     program=$!
     sleep 2
     focus '\[\*\]|little'
@@ -121,10 +120,4 @@ focus '^little-endian'
 xdotool windowsize "$window" 500 400
 key ctrl+Right ctrl+Down ctrl+Down
 shoot slides-own-size
-stop
-
-start 0 1 1 QT_SCALE_FACTOR=2
-key Return
-focus '^little-endian'
-shoot slides-scaled
 stop

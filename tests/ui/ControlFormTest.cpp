@@ -567,9 +567,10 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         } while (QApplication::focusWidget()->objectName() != QStringLiteral("FileFinder") && order.size() < 99);
         QCOMPARE(order.join(QLatin1Char(' ')),
-                 QStringLiteral("FileFinder FilesFoundList FilePickerPrev FilePickerNext KeywordList KeywordLoader "
-                                "FileTitle FileComments FileSubject FileKeywords FilePropPaster FileSaver FileReset "
-                                "NodeTree ViewHexOpt NodeText NodeHelp NodeAdder NodeDeleter"));
+                 QStringLiteral(
+                     "FileFinder FilesFoundList FilePickerPrev FilePickerNext SlideShower KeywordList KeywordLoader "
+                     "FileTitle FileComments FileSubject FileKeywords FilePropPaster FileSaver FileReset "
+                     "NodeTree ViewHexOpt NodeText NodeHelp NodeAdder NodeDeleter"));
         QVERIFY(!window.isChanged());
     }
 
