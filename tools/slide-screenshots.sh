@@ -1,4 +1,4 @@
-#!/bin/bash
+#!/usr/bin/env bash
 # Takes pictures of the slide show in its states: starts the real program on a screen that nobody sees (Xvfb), with copies
 # of the sample photographs, and works it with mouse and keys.
 #
@@ -36,7 +36,7 @@ export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 unset DBUS_SESSION_BUS_ADDRESS QT_SCALE_FACTOR QT_QPA_PLATFORMTHEME XDG_CURRENT_DESKTOP
 
 exec 3<>"$work/display"
-Xvfb -displayfd 3 -screen 0 1920x1080x24 >/dev/null 2>&1 &
+Xvfb -displayfd 3 -screen 0 1280x800x24 >/dev/null 2>&1 &
 screen=$!
 sleep 1
 DISPLAY=:$(head -1 "$work/display")
@@ -47,14 +47,13 @@ if command -v openbox >/dev/null; then
     sleep 1
 fi
 
-# start FULLSCREEN RESIZE DETAILS [ENVIRONMENT...]: starts a show by the button of the main window, moved by keys or
+# start FULLSCREEN RESIZE DETAILS: starts a show by the button of the main window, moved by keys or
 # paused only after half a minute
 start() {
     printf '[Lumetra]\nControlForm="0,0,18000,12000"\nSlideForm="1500,1500,12000,9000"\n' >"$XDG_CONFIG_HOME/Castelmar.conf"
     printf 'SlideFullscreen=%s\nSlideResize=%s\nSlideDetails=%s\nSlideSecondsPer=30\n' "$1" "$2" "$3" \
         >>"$XDG_CONFIG_HOME/Castelmar.conf"
-    shift 3
-    env "$@" "$build/bin/ovisto" "$work/photographs" 2>/dev/null &
+    "$build/bin/ovisto" "$work/photographs" 2>/dev/null &
     program=$!
     sleep 2
     focus '\[\*\]|little'
@@ -121,10 +120,4 @@ focus '^little-endian'
 xdotool windowsize "$window" 500 400
 key ctrl+Right ctrl+Down ctrl+Down
 shoot slides-own-size
-stop
-
-start 0 1 1 QT_SCALE_FACTOR=2
-key Return
-focus '^little-endian'
-shoot slides-scaled
 stop

@@ -1,5 +1,4 @@
 #include "common/Error.h"
-#include "common/File.h"
 #include "ui/SlideForm/Slide.h"
 #include "ui/SlideForm/SlideCache.h"
 #include "ui/SlideForm/SlideClockwork.h"
@@ -8,9 +7,7 @@
 
 #include "SlideTestTimer.h"
 
-#include <QFile>
 #include <QSemaphore>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <limits>
@@ -309,23 +306,6 @@ private Q_SLOTS:
         QVERIFY(decoded(samples + "no-exif.jpg", kAny, wanted)->details.isEmpty());
         QVERIFY(!decoded(samples + "portrait.jpg", 100, wanted));
         QVERIFY(!decoded(samples + "portrait.jpg", kAny, abandoned));
-    }
-
-    void tellsWhyThereIsNoPicture()
-    {
-        QTemporaryDir folder;
-        const auto failure = [&](const char* name) {
-            const std::atomic<bool> abandoned = false;
-            const std::string path = folder.filePath(QLatin1String(name)).toStdString();
-            const auto slide = decodeSlide(slideRequest(path, {9, 9}), QLocale::c(), {1000, abandoned});
-            return slide->picture.isNull() ? slide->failure : QStringLiteral("a picture");
-        };
-        writeTextFile(folder.filePath(QStringLiteral("text.jpg")).toStdString(), "This is no picture.");
-        writeTextFile(folder.filePath(QStringLiteral("empty.jpg")).toStdString(), "");
-        QCOMPARE(failure("missing.jpg"), QStringLiteral("missing.jpg\nFile not found"));
-        QCOMPARE(failure("text.jpg"), QStringLiteral("text.jpg\nInvalid picture"));
-        QCOMPARE(failure("empty.jpg"), QStringLiteral("empty.jpg\nInvalid picture"));
-        QCOMPARE(failure("."), QStringLiteral(".\nPath/File access error"));
     }
 };
 
