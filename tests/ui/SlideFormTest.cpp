@@ -308,7 +308,7 @@ private Q_SLOTS:
         QTRY_COMPARE(show.image().picture().size(), show.sizeInFile("portrait.jpg").transposed());
         QTRY_COMPARE(show.image().height(), qRound(show.image().picture().height() / show.form().devicePixelRatioF()));
         auto* bar = show.form().findChild<QScrollArea*>()->verticalScrollBar();
-        QVERIFY(bar->maximum() > 0 && bar->isVisible());
+        QTRY_VERIFY(bar->maximum() > 0 && bar->isVisible());
         show.press(Qt::Key_Down, Qt::ControlModifier);
         QVERIFY(bar->value() > 0);
     }
