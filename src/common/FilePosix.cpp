@@ -2,6 +2,7 @@
 
 #include "common/PathText.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
@@ -12,6 +13,7 @@
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -103,6 +105,8 @@ bool names(const std::string& path, int descriptor)
 void deleteLeftover(const std::string& path)
 {
     const FileHandle leftover(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    if (leftover.get() < 0 && errno == ENOENT)
+        return;
     if (leftover.get() < 0 || (lock(leftover.get()) && names(path, leftover.get())))
         unlink(path.c_str());
 }
@@ -240,6 +244,22 @@ void OutputFile::sync()
     checked(uninterrupted([&] { return fsync(m_handle.get()); }));
 }
 
+std::uint64_t OutputFile::device() const
+{
+    return statusOf(m_handle.get()).st_dev;
+}
+
+bool OutputFile::syncFileSystem()
+{
+    flush();
+#ifdef __linux__
+    // It tells of all that failed since the file was opened.
+    return syncfs(m_handle.get()) == 0;
+#else
+    return false;
+#endif
+}
+
 void OutputFile::takeAttributesFrom(const InputFile& old)
 {
     const struct stat status = statusOf(old.m_handle.get());
@@ -320,6 +340,18 @@ std::string readTextFile(const std::string& path)
     std::string content(static_cast<std::size_t>(file.size()), '\0');
     content.resize(file.readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
     return content;
+}
+
+std::size_t openFilesAllowed(std::size_t wanted)
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
+        return wanted;
+    rlimit raised = limit;
+    raised.rlim_cur = std::min<rlim_t>(wanted, limit.rlim_max);
+    if (raised.rlim_cur > limit.rlim_cur && setrlimit(RLIMIT_NOFILE, &raised) == 0)
+        return raised.rlim_cur;
+    return limit.rlim_cur;
 }
 
 bool fileExists(const std::string& path)

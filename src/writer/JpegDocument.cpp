@@ -128,12 +128,14 @@ JpegDocument::NewVersion JpegDocument::writeTemporary(XmlDocument& document, con
         newFile->takeAttributesFrom(*oldFile);
         newFile->startSync();
     });
-    return {target, temporaryName, std::move(*oldFile), std::move(*newFile)};
+    return {target, temporaryName, std::move(*oldFile), std::move(*newFile), false};
 }
 
 void JpegDocument::finishTemporary(NewVersion& version)
 {
-    reported(m_reporter, version.temporaryName + " write failed", [&] { version.newFile.sync(); });
+    if (!version.onDisk)
+        reported(m_reporter, version.temporaryName + " write failed", [&] { version.newFile.sync(); });
+    version.onDisk = true;
     // Here both files are whole: the place for checks that may refuse to go on.
 }
 
@@ -146,8 +148,8 @@ void JpegDocument::writeSegments(XmlDocument& document, OutputFile& file)
         if (row == std::end(kElementWriters))
             continue;
         row->write(writer, element);
-        file.flush();
     }
+    file.flush();
 }
 
 void JpegDocument::replaceOld(const NewVersion& version)

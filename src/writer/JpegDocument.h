@@ -30,6 +30,7 @@ public:
         std::string temporaryName;
         InputFile oldFile;
         OutputFile newFile;
+        bool onDisk = false; ///< whether it is known that the disk has it
     };
 
     // WriteJpeg in three steps, for who has many files to write: a disk takes them faster in one go. They fail as it
@@ -37,7 +38,7 @@ public:
 
     /// Writes the new version, and has the disk begin with it.
     NewVersion writeTemporary(XmlDocument& document, const std::string& fileName);
-    /// Waits until the disk has it.
+    /// Waits until the disk has it, where that is not known.
     void finishTemporary(NewVersion& version);
     /// Puts it, finished, in the place of the old one.
     void replaceOld(const NewVersion& version);
