@@ -29,7 +29,7 @@ struct XsltFree {
 template <class T> using XsltPtr = std::unique_ptr<T, XsltFree>;
 
 // Steps that a transformation may take: in any case, and for each element of the data.
-constexpr unsigned long kStepsFree = 50'000'000;
+constexpr unsigned long kStepsFree = 10'000'000;
 constexpr unsigned long kStepsPerElement = 2'000;
 constexpr unsigned long kPathStepsPerStep = 20; // a step of a path is quicker than an instruction
 
