@@ -2,6 +2,7 @@
 
 #include "common/PathText.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
@@ -12,6 +13,7 @@
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -103,6 +105,8 @@ bool names(const std::string& path, int descriptor)
 void deleteLeftover(const std::string& path)
 {
     const FileHandle leftover(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    if (leftover.get() < 0 && errno == ENOENT)
+        return;
     if (leftover.get() < 0 || (lock(leftover.get()) && names(path, leftover.get())))
         unlink(path.c_str());
 }
@@ -136,14 +140,6 @@ void copyExtendedAttributes(int from, int to)
     }
 }
 
-/// Makes a rename or a deletion in `folder` survive a power failure, where the file system can.
-void syncFolder(const std::string& folder)
-{
-    const FileHandle handle(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (handle.get() >= 0)
-        fsync(handle.get());
-}
-
 bool isMarkedReadOnly(const std::string& path)
 {
     constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
@@ -153,6 +149,11 @@ bool isMarkedReadOnly(const std::string& path)
 }
 
 } // namespace
+
+Error lastSystemError()
+{
+    return errorOf(errno);
+}
 
 FileHandle& FileHandle::operator=(FileHandle&& other) noexcept
 {
@@ -228,10 +229,35 @@ void OutputFile::flush()
     }
 }
 
+void OutputFile::startSync()
+{
+    flush();
+#ifdef SYNC_FILE_RANGE_WRITE
+    // Only a hint: a file system that cannot do it has all its work left to sync().
+    sync_file_range(m_handle.get(), 0, 0, SYNC_FILE_RANGE_WRITE);
+#endif
+}
+
 void OutputFile::sync()
 {
     flush();
     checked(uninterrupted([&] { return fsync(m_handle.get()); }));
+}
+
+std::uint64_t OutputFile::device() const
+{
+    return statusOf(m_handle.get()).st_dev;
+}
+
+bool OutputFile::syncFileSystem()
+{
+    flush();
+#ifdef __linux__
+    // It tells of all that failed since the file was opened.
+    return syncfs(m_handle.get()) == 0;
+#else
+    return false;
+#endif
 }
 
 void OutputFile::takeAttributesFrom(const InputFile& old)
@@ -259,8 +285,14 @@ std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const 
         const bool denied = renameError == EACCES || renameError == EPERM;
         return ReplaceFailure{denied ? ReplaceStep::Delete : ReplaceStep::Rename, errorOf(renameError)};
     }
-    syncFolder(splitPath(path).folder);
     return std::nullopt;
+}
+
+void syncFolder(const std::string& folder)
+{
+    const FileHandle handle(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (handle.get() >= 0)
+        fsync(handle.get());
 }
 
 std::string linkTarget(const std::string& path)
@@ -283,10 +315,23 @@ void writeTextFile(const std::string& path, std::string_view content)
         file.sync();
         if (const auto failure = replaceFile(temporaryName, target))
             throw Error(failure->error);
+        syncFolder(splitPath(target).folder);
     });
     if (trap.pending())
         unlink(temporaryName.c_str());
     trap.raise();
+}
+
+TemporaryFile::TemporaryFile()
+{
+    const char* folder = std::getenv("TMPDIR");
+    m_path = std::string(folder != nullptr && *folder != '\0' ? folder : "/tmp") + "/ovisto.XXXXXX";
+    const FileHandle reserved(checked(mkstemp(m_path.data())));
+}
+
+TemporaryFile::~TemporaryFile()
+{
+    unlink(m_path.c_str());
 }
 
 std::string readTextFile(const std::string& path)
@@ -295,6 +340,18 @@ std::string readTextFile(const std::string& path)
     std::string content(static_cast<std::size_t>(file.size()), '\0');
     content.resize(file.readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
     return content;
+}
+
+std::size_t openFilesAllowed(std::size_t wanted)
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
+        return wanted;
+    rlimit raised = limit;
+    raised.rlim_cur = std::min<rlim_t>(wanted, limit.rlim_max);
+    if (raised.rlim_cur > limit.rlim_cur && setrlimit(RLIMIT_NOFILE, &raised) == 0)
+        return raised.rlim_cur;
+    return limit.rlim_cur;
 }
 
 bool fileExists(const std::string& path)
