@@ -167,6 +167,41 @@ private Q_SLOTS:
         QVERIFY(window.dialogs.messages.isEmpty());
     }
 
+    void staysWithTheFileShownWhenItsRowIsTakenBack()
+    {
+        Window window;
+        const std::string path = window.copy("night.jpg");
+        const std::string image = imageData(path);
+        window.open({path});
+        for (const QString& text : {QString(400, QLatin1Char('x')), QStringLiteral("short")}) {
+            window.control<QListView>("FilesFoundList").clearSelection();
+            window.select(kDescription);
+            window.type("NodeText", text);
+            window.click("FilePickerPrev");
+            QCOMPARE(inFile(path, kDescription).value(), text.toStdString());
+            QVERIFY(imageData(path) == image);
+        }
+        QVERIFY(window.dialogs.messages.isEmpty());
+    }
+
+    void keepsWhatCouldNotBeSaved()
+    {
+        Window window;
+        const std::string path = window.copy("night.jpg");
+        window.open({path});
+        window.select(kDescription);
+        window.type("NodeText", QStringLiteral("Mine"));
+        const std::filesystem::path file = path;
+        std::filesystem::remove(file);
+        std::filesystem::create_directory(file);
+        window.dialogs.answers = {true};
+        QVERIFY(!window.form().close());
+        QVERIFY(window.isChanged());
+        QCOMPARE(window.text("NodeText"), QStringLiteral("Mine"));
+        window.dialogs.answers = {false};
+        QVERIFY(window.form().close());
+    }
+
     void changesSeveralLinesByLeavingThem()
     {
         Window window;

@@ -97,8 +97,12 @@ void ControlForm::connectControls()
     connect(&m_selection, &QTimer::timeout, this, &ControlForm::OpenSelectedFile);
     // A list that is still busy with the mouse must not change, so the file is opened a moment later.
     connect(ui.FilesFoundList->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (!ControlsUpdating && selectedFile() >= 0)
+        if (ControlsUpdating)
+            return;
+        if (selectedFile() >= 0)
             m_selection.start();
+        else if (!CurrentFileName.empty())
+            QTimer::singleShot(0, this, &ControlForm::selectShownFile);
     });
     connect(ui.FilesFoundList, &QListView::clicked, this, [this] {
         if (CurrentFileName.empty())
@@ -167,11 +171,12 @@ void ControlForm::loadSettings()
 {
     const Settings& settings = m_surroundings.settings;
     const QString folder = pathText(m_surroundings.folders.data);
+    const QString folderWithoutSeparator = folder.chopped(1);
     PlacementLoad(*this, settings, objectName(), QStringLiteral("0,0,11655,8505"));
     for (const SplitterSetting& setting : kSplitterSettings)
         splitterLoad(*(ui.*setting.splitter), settings, QLatin1String(setting.whenMissing));
     loadKeywords(toPath(settings.GetSetting(QStringLiteral("Keywords"), folder + QStringLiteral("keywords.txt"))));
-    m_scan = loadScanSettings(settings, folder);
+    m_scan = loadScanSettings(settings, folderWithoutSeparator);
     for (const OptionSetting& option : kOptionSettings)
         (ui.*option.item)->setChecked(settings.choice(QLatin1String(option.key), option.whenMissing));
 }
@@ -201,15 +206,22 @@ void ControlForm::closeEvent(QCloseEvent* event)
     if (auto* show = findChild<SlideForm*>())
         show->close();
     moveFocusTo(*ui.FileFinder);
-    OfferSave(true);
+    if (OfferSave(true) == SaveResult::Failed) {
+        // What could not be saved is not thrown away by closing. Whoever wants that answers No.
+        MarkChanged();
+        event->ignore();
+        return;
+    }
     saveSettings();
     event->accept();
 }
 
 void ControlForm::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
+    if (!event->mimeData()->hasUrls())
+        return;
+    event->setDropAction(Qt::CopyAction); // whoever lets them be moved would delete them
+    event->accept();
 }
 
 void ControlForm::dropEvent(QDropEvent* event)
@@ -221,7 +233,8 @@ void ControlForm::dropEvent(QDropEvent* event)
     }
     if (paths.empty())
         return;
-    event->acceptProposedAction();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
     // Later, as a question now would keep the program waiting that the files came from.
     QTimer::singleShot(0, this, [this, paths] {
         moveFocusTo(*ui.FileFinder);
@@ -315,11 +328,11 @@ void ControlForm::listFiles(std::vector<std::string> found)
             m_found.clear();
         m_found.append(std::move(found));
     }
+    if (m_found.rowCount() > 0)
+        selectFile(0); // which leaves none when none of them is there any more
     if (m_found.rowCount() == 0)
         m_surroundings.dialogs.show(
             tr("No files found with search criteria specified.  Click 'Find Files' button to try again."));
-    else
-        selectFile(0);
     ui.FilesFoundList->setToolTip(tr("List of files found (%1)").arg(m_found.rowCount()));
 }
 
@@ -339,13 +352,26 @@ void ControlForm::selectFile(int row)
     OpenSelectedFile();
 }
 
+/// Selects the file shown again, where the selection was taken back: there is always one while a file is shown.
+void ControlForm::selectShownFile()
+{
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    const QModelIndex shown = ui.FilesFoundList->currentIndex();
+    if (selectedFile() < 0 && shown.isValid())
+        ui.FilesFoundList->selectionModel()->select(shown, QItemSelectionModel::ClearAndSelect);
+}
+
 void ControlForm::pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const)
 {
     moveFocusTo(button);
-    if (OfferSave(false) == SaveResult::Failed)
+    selectShownFile();
+    const SaveResult saved = OfferSave(false);
+    if (saved == SaveResult::Failed)
         return;
     if (const auto row = (m_found.*neighbour)(selectedFile()))
         selectFile(*row);
+    else if (saved == SaveResult::Saved)
+        OpenSelectedFile();
 }
 
 void ControlForm::showSlideShowOptions()

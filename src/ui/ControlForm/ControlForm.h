@@ -78,6 +78,7 @@ private:
     void listFiles(std::vector<std::string> found);
     int selectedFile() const;
     void selectFile(int row);
+    void selectShownFile();
     void pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const);
 
     void showSlideShowOptions();
@@ -85,6 +86,7 @@ private:
     // The file shown
     void OpenSelectedFile();
     bool findSelectedFile();
+    void keepShownFile();
     void readDocument();
     void showPicture();
     void clearShownFile();
@@ -121,6 +123,7 @@ private:
     void deleteNode();
 
     // The properties of the operating system
+    void leaveFocusedBox() { leaveBox(focusWidget()); }
     void leaveOsBox(const OsBox& osBox);
     void ditto();
     void loadKeywords(const std::string& path);

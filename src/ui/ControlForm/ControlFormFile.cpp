@@ -15,7 +15,8 @@ namespace ovisto {
 void ControlForm::OpenSelectedFile()
 {
     m_selection.stop();
-    OfferSave(true);
+    if (OfferSave(true) == SaveResult::Failed)
+        return keepShownFile();
     clearShownFile();
     if (!findSelectedFile())
         return;
@@ -26,6 +27,15 @@ void ControlForm::OpenSelectedFile()
     showPicture();
     enableEditing(true);
     ui.NodeTree->setFocus();
+}
+
+/// What could not be saved stays in the window, as changed as it was. The list shows again whose it is.
+void ControlForm::keepShownFile()
+{
+    MarkChanged();
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    if (const auto row = m_found.rowOf(CurrentFileName))
+        ui.FilesFoundList->setCurrentIndex(m_found.index(*row));
 }
 
 /// Makes the file selected in the list the file shown. Files that are not there any more leave the list, and the one
@@ -141,6 +151,7 @@ void ControlForm::clearChanged()
 /// Saves the file shown if it was changed; with `ask`, if the person wants that.
 ControlForm::SaveResult ControlForm::OfferSave(bool ask)
 {
+    leaveFocusedBox();
     for (const OsBox& osBox : m_osBoxes)
         *osBox.dittoText = boxText(*osBox.box);
     if (!ChangesMade)
@@ -168,6 +179,8 @@ ControlForm::SaveResult ControlForm::SaveDocument()
 /// Saves the file shown, changed or not. It is opened again then, as its image data may have moved.
 void ControlForm::saveAndReopen()
 {
+    leaveFocusedBox();
+    selectShownFile();
     if (SaveDocument() == SaveResult::Saved)
         OpenSelectedFile();
 }
@@ -186,6 +199,8 @@ void ControlForm::saveXml()
 /// Opens the file anew, without its changes.
 void ControlForm::reset()
 {
+    leaveFocusedBox();
+    selectShownFile();
     clearChanged();
     OpenSelectedFile();
     if (ChangesMade)
