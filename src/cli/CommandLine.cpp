@@ -9,6 +9,20 @@ namespace ovisto {
 
 namespace {
 
+void addJobs(CLI::App& command, CommandLine& line)
+{
+    command.add_option("--jobs", line.jobs, "Files worked on at the same time (default: one a core)")
+        ->option_text("N")
+        ->check(CLI::Range(1, 1024));
+}
+
+void addKeepOptions(CLI::App& command, CommandLine& line)
+{
+    command.add_flag("!--no-maker-notes", line.keep.pCodifyMakerNote, "Leave out maker notes");
+    command.add_flag("!--no-thumbnails", line.keep.pCodifyThumb, "Leave out thumbnails");
+    command.add_flag("!--no-nonstandard-exif", line.keep.pCodifyExif1, "Leave out APP1 segments that are not Exif");
+}
+
 void addCommonOptions(CLI::App& command, CommandLine& line)
 {
     command
@@ -16,9 +30,7 @@ void addCommonOptions(CLI::App& command, CommandLine& line)
         ->option_text("FILE");
     command.add_flag("-0", line.zeroSeparated, "The names in --files-from end with NUL bytes");
     command.add_option("--dictionary", line.dictionary, "Use another tag dictionary")->option_text("FILE");
-    command.add_option("--jobs", line.jobs, "Files worked on at the same time (default: one a core)")
-        ->option_text("N")
-        ->check(CLI::Range(1, 1024));
+    addJobs(command, line);
 }
 
 void addFiles(CLI::App& command, CommandLine& line)
@@ -41,6 +53,24 @@ void addNodePath(CLI::App& command, CommandLine& line)
         ->required();
 }
 
+void addScan(CLI::App& command, CommandLine& line)
+{
+    ScanOptions& scan = line.scan;
+    command.add_option("FOLDER", scan.folder, "Where to look")->option_text(" ")->required();
+    command.add_option("--pattern", scan.patterns, "Names of files: * any run, ? one character, ; between patterns")
+        ->option_text("P [" + scan.patterns + "]");
+    command
+        .add_option("--words", scan.content.words,
+                    "Words that the metadata contains, any one of them; , between words. Names of tags count too")
+        ->option_text("W");
+    command.add_flag("--all-words", scan.content.allWords, "All of the words");
+    command.add_flag("--whole-words", scan.content.wholeWords, "Not as parts of longer words");
+    command.add_flag("--regexp", scan.content.regExp, "W is a regular expression, not a list of words");
+    command.add_flag("!--no-subfolders", scan.subFolders, "Only in FOLDER itself");
+    command.add_flag("-0", line.zeroSeparated, "End the names with NUL bytes, not line ends");
+    addJobs(command, line);
+}
+
 } // namespace
 
 std::optional<CommandLine> parseCommandLine(int argc, char** argv, int& exitStatus)
@@ -59,9 +89,7 @@ std::optional<CommandLine> parseCommandLine(int argc, char** argv, int& exitStat
 
     CLI::App& xml = addCommand(app, line, Command::Xml, "xml", "Write the metadata documents to standard output");
     addFiles(xml, line);
-    xml.add_flag("!--no-maker-notes", line.keep.pCodifyMakerNote, "Leave out maker notes");
-    xml.add_flag("!--no-thumbnails", line.keep.pCodifyThumb, "Leave out thumbnails");
-    xml.add_flag("!--no-nonstandard-exif", line.keep.pCodifyExif1, "Leave out APP1 segments that are not Exif");
+    addKeepOptions(xml, line);
 
     addFiles(addCommand(app, line, Command::Export, "export", "Write FILE.XML beside each file"), line);
 
@@ -83,10 +111,21 @@ std::optional<CommandLine> parseCommandLine(int argc, char** argv, int& exitStat
     addNodePath(add, line);
     addFiles(add, line);
 
+    addScan(addCommand(app, line, Command::Find, "find", "Find files by name and metadata, one path a line"), line);
+
+    CLI::App& report = addCommand(app, line, Command::Report, "report", "Transform the metadata of all files at once");
+    report.add_option("--style", line.styleSheet, "The XSL style sheet, applied to <JPEGs> with a <JPEG> a file")
+        ->option_text("XSL")
+        ->required();
+    report.add_option("--output", line.output, "The file to write, in UTF-16; else standard output, in UTF-8")
+        ->option_text("FILE");
+    addKeepOptions(report, line);
+    addFiles(report, line);
+
     // The parser reports by exceptions of its own, help and version included; they end here.
     try {
         app.parse(argc, argv);
-        if (line.files.empty() && line.filesFrom.empty())
+        if (line.command != Command::Find && line.files.empty() && line.filesFrom.empty())
             throw CLI::RequiredError("FILE");
         if (!line.document.empty() && (line.files.size() != 1 || !line.filesFrom.empty()))
             throw CLI::ValidationError("--document", "goes with exactly one FILE");

@@ -1,14 +1,14 @@
 #include "cli/Commands.h"
 
+#include "cli/CollectionCommands.h"
+#include "cli/CommandOutput.h"
 #include "cli/FileLoop.h"
 #include "cli/FileNames.h"
 #include "cli/PropertyText.h"
-#include "cli/TerminalProgress.h"
 #include "cli/TerminalReporter.h"
+#include "collection/BatchAction.h"
 #include "collection/MetadataDocument.h"
-#include "collection/NodeChange.h"
 #include "collection/XmlExport.h"
-#include "common/CodePage.h"
 #include "common/NodePath.h"
 #include "common/ProgramFolder.h"
 #include "common/XmlLoad.h"
@@ -110,40 +110,6 @@ FileWork writeWork(const CommandLine& line)
     };
 }
 
-/// A text from the command line. One that is no UTF-8 comes from a terminal with a code page.
-std::string textOf(const std::string& argument)
-{
-    if (isUtf8(argument))
-        return argument;
-    std::string text;
-    appendCharacters(text, {reinterpret_cast<const std::uint8_t*>(argument.data()), argument.size()},
-                     ControlBytes::Keep);
-    return text;
-}
-
-FileWork changeWork(const CommandLine& line)
-{
-    const auto dictionary = std::make_shared<TagDictionary>(loadDictionary(line));
-    NodeChange change{.action = NodeAction::Set, .entry = {}, .value = textOf(line.value)};
-    if (line.command == Command::Delete)
-        change.action = NodeAction::Delete;
-    else if (line.command == Command::Add)
-        change.action = NodeAction::Add;
-
-    ErrorTrap trap;
-    trap.run([&] { change.entry = dictionary->entry(line.nodePath); });
-    const std::string reason = !change.entry.isElement()   ? "The tag dictionary has no node " + line.nodePath
-                               : objection(change).empty() ? std::string()
-                                                           : line.nodePath + ": " + objection(change);
-    return [change, reason, dictionary](const std::string& path) {
-        return resultOf(path, [&](FileResult&, TerminalReporter& reporter) {
-            if (!reason.empty())
-                throw Error{kInvalidCall, reason};
-            changeFile(path, change, reporter);
-        });
-    };
-}
-
 FileWork workFor(const CommandLine& line)
 {
     switch (line.command) {
@@ -155,17 +121,19 @@ FileWork workFor(const CommandLine& line)
         return exportWork(line);
     case Command::Write:
         return writeWork(line);
-    case Command::Set:
-    case Command::Delete:
-    case Command::Add:
-        return changeWork(line);
+    default:
+        return {};
     }
-    return {};
+}
+
+bool changesNodes(Command command)
+{
+    return command == Command::Set || command == Command::Delete || command == Command::Add;
 }
 
 bool rewritesFiles(Command command)
 {
-    return command != Command::Show && command != Command::Xml && command != Command::Export;
+    return changesNodes(command) || command == Command::Write;
 }
 
 /// `work`, but not for a file that would destroy another one of the list while it is written.
@@ -180,45 +148,40 @@ FileWork sparingOthers(const FileWork& work, const std::vector<std::string>& fil
     };
 }
 
+/// Does `work` for each of the files.
+int runEach(const CommandLine& line, const std::vector<std::string>& files, const FileWork& work)
+{
+    CommandOutput output;
+    forEachFile(
+        files, line.jobs, [&](std::size_t index) { return work(files[index]); },
+        [&](const FileResult& result) { output.write(result); }, output.progress());
+    return output.finish();
+}
+
+int runOnFiles(const CommandLine& line)
+{
+    std::vector<std::string> files = fileNames(line);
+    if (rewritesFiles(line.command))
+        files = withoutRepeats(std::move(files));
+    if (changesNodes(line.command))
+        return runChange(line, files, loadDictionary(line));
+    if (line.command == Command::Report)
+        return runReport(line, files);
+    const FileWork work = workFor(line);
+    return runEach(line, files, line.command == Command::Write ? sparingOthers(work, files) : work);
+}
+
 } // namespace
 
 int runCommand(const CommandLine& line)
 {
-    std::vector<std::string> files;
-    FileWork work;
+    if (line.command == Command::Find)
+        return runFind(line);
+    int status = kSomeFailed;
     ErrorTrap trap;
-    trap.run([&] {
-        files = fileNames(line);
-        work = workFor(line);
-        if (rewritesFiles(line.command)) {
-            files = withoutRepeats(std::move(files));
-            work = sparingOthers(work, files);
-        }
-    });
-    if (trap.pending()) {
+    trap.run([&] { status = runOnFiles(line); });
+    if (trap.pending())
         std::fputs(errorLine("", trap.take().description).c_str(), stderr);
-        return kSomeFailed;
-    }
-
-    int status = kAllDone;
-    TerminalProgress progress;
-    const auto finish = [&](const FileResult& result) {
-        if (!result.errors.empty())
-            status = kSomeFailed;
-        if (result.output.empty() && result.errors.empty())
-            return;
-        progress.clear();
-        std::fwrite(result.output.data(), 1, result.output.size(), stdout);
-        if (!result.errors.empty()) {
-            std::fflush(stdout);
-            std::fputs(result.errors.c_str(), stderr);
-        }
-    };
-    forEachFile(files, line.jobs, work, finish, progress);
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-        std::fputs(errorLine("", "Standard output cannot be written").c_str(), stderr);
-        return kSomeFailed;
-    }
     return status;
 }
 

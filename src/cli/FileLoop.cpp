@@ -66,14 +66,14 @@ private:
 } // namespace
 
 void forEachFile(const std::vector<std::string>& paths, unsigned jobs,
-                 const std::function<FileResult(const std::string& path)>& work,
+                 const std::function<FileResult(std::size_t index)>& work,
                  const std::function<void(const FileResult&)>& finish, Progress& progress)
 {
     jobs = static_cast<unsigned>(std::clamp<std::size_t>(jobs, 1, std::max<std::size_t>(paths.size(), 1)));
     ResultQueue queue(paths, jobs, finish, progress);
     const auto workOn = [&] {
         while (const auto index = queue.take())
-            queue.put(*index, work(paths[*index]));
+            queue.put(*index, work(*index));
     };
     std::vector<std::jthread> helpers;
     ErrorTrap trap; // a thread that the system refuses is done without

@@ -2,10 +2,10 @@
 
 #include "common/Error.h"
 #include "common/File.h"
-#include "common/PathText.h"
 
 #include <iostream>
 #include <sstream>
+#include <unordered_set>
 
 namespace ovisto {
 
@@ -45,19 +45,6 @@ std::vector<std::string> withoutRepeats(std::vector<std::string> files)
     std::unordered_set<std::string> seen;
     std::erase_if(files, [&](const std::string& file) { return !seen.insert(realPath(file)).second; });
     return files;
-}
-
-std::unordered_set<std::string> overwritingOthers(const std::vector<std::string>& files)
-{
-    std::unordered_set<std::string> all;
-    for (const std::string& file : files)
-        all.insert(realPath(file));
-    std::unordered_set<std::string> overwriting;
-    for (const std::string& file : files) {
-        if (all.contains(temporaryNameOf(realPath(file))))
-            overwriting.insert(file);
-    }
-    return overwriting;
 }
 
 } // namespace ovisto

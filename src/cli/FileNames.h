@@ -3,7 +3,6 @@
 #include "cli/CommandLine.h"
 
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 namespace ovisto {
@@ -14,8 +13,5 @@ std::vector<std::string> fileNames(const CommandLine& line);
 /// `files` without those that are, by another name or the same, already among those before them: no file is to be
 /// written twice at the same time.
 std::vector<std::string> withoutRepeats(std::vector<std::string> files);
-
-/// Those of `files` whose temporary name while they are written is the name of another of them.
-std::unordered_set<std::string> overwritingOthers(const std::vector<std::string>& files);
 
 } // namespace ovisto

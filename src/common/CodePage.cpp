@@ -110,4 +110,27 @@ std::u16string utf16(std::string_view text)
     return units;
 }
 
+std::string utf16Bytes(std::string_view text)
+{
+    std::string bytes;
+    bytes.reserve(2 * text.size());
+    const auto append = [&](char16_t unit) {
+        bytes.push_back(static_cast<char>(unit & 0xFF));
+        bytes.push_back(static_cast<char>(unit >> 8));
+    };
+    while (!text.empty()) {
+        // Documents are hardly anything but ASCII.
+        const auto* plainEnd = std::ranges::find_if(text, [](char character) { return (character & 0x80) != 0; });
+        const auto plainSize = static_cast<std::size_t>(plainEnd - text.begin());
+        for (const char character : text.substr(0, plainSize))
+            append(static_cast<char16_t>(character));
+        text.remove_prefix(plainSize);
+        const auto* otherEnd = std::ranges::find_if(text, [](char character) { return (character & 0x80) == 0; });
+        const auto otherSize = static_cast<std::size_t>(otherEnd - text.begin());
+        std::ranges::for_each(utf16(text.substr(0, otherSize)), append);
+        text.remove_prefix(otherSize);
+    }
+    return bytes;
+}
+
 } // namespace ovisto

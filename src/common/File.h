@@ -14,6 +14,9 @@ namespace ovisto {
 // Files as the program needs them. All functions raise an Error with one of the system numbers when the system refuses.
 // Paths are bytes as the system gives them; nothing here depends on the locale.
 
+/// The reason that the system gave last, as an error.
+Error lastSystemError();
+
 /// The system's handle of an open file, closed with its owner.
 class FileHandle {
 public:
@@ -64,6 +67,9 @@ public:
     /// Hands to the system what is still in the buffer, so that a full disk shows now.
     void flush();
 
+    /// Flushes, and has the disk begin with what was written, without waiting for it: a sync() to come is then short.
+    void startSync();
+
     /// Flushes and waits until the disk has it.
     void sync();
 
@@ -85,13 +91,31 @@ struct ReplaceFailure {
 
 /// Puts the complete file `replacement` in the place of `path`, so that at every instant `path` names a whole old or a
 /// whole new file. A file that may not be deleted (marked read-only, or its folder denies it) fails at the deletion.
+/// Which of the two survives a power failure is open until syncFolder() was called.
 std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path);
+
+/// Makes what was replaced, created or deleted in `folder` survive a power failure, where the file system can.
+void syncFolder(const std::string& folder);
 
 /// Where `path` leads to when it is a symbolic link, else `path` itself.
 std::string linkTarget(const std::string& path);
 
 /// Writes a text file as a whole: `path` names its old or its new content, never a part of it.
 void writeTextFile(const std::string& path, std::string_view content);
+
+/// A file of a name that nobody has, for as long as the object lives.
+class TemporaryFile {
+public:
+    TemporaryFile();
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile();
+
+    const std::string& path() const { return m_path; }
+
+private:
+    std::string m_path;
+};
 
 /// A whole file.
 std::string readTextFile(const std::string& path);

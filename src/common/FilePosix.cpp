@@ -136,14 +136,6 @@ void copyExtendedAttributes(int from, int to)
     }
 }
 
-/// Makes a rename or a deletion in `folder` survive a power failure, where the file system can.
-void syncFolder(const std::string& folder)
-{
-    const FileHandle handle(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (handle.get() >= 0)
-        fsync(handle.get());
-}
-
 bool isMarkedReadOnly(const std::string& path)
 {
     constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
@@ -153,6 +145,11 @@ bool isMarkedReadOnly(const std::string& path)
 }
 
 } // namespace
+
+Error lastSystemError()
+{
+    return errorOf(errno);
+}
 
 FileHandle& FileHandle::operator=(FileHandle&& other) noexcept
 {
@@ -228,6 +225,15 @@ void OutputFile::flush()
     }
 }
 
+void OutputFile::startSync()
+{
+    flush();
+#ifdef SYNC_FILE_RANGE_WRITE
+    // Only a hint: a file system that cannot do it has all its work left to sync().
+    sync_file_range(m_handle.get(), 0, 0, SYNC_FILE_RANGE_WRITE);
+#endif
+}
+
 void OutputFile::sync()
 {
     flush();
@@ -259,8 +265,14 @@ std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const 
         const bool denied = renameError == EACCES || renameError == EPERM;
         return ReplaceFailure{denied ? ReplaceStep::Delete : ReplaceStep::Rename, errorOf(renameError)};
     }
-    syncFolder(splitPath(path).folder);
     return std::nullopt;
+}
+
+void syncFolder(const std::string& folder)
+{
+    const FileHandle handle(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (handle.get() >= 0)
+        fsync(handle.get());
 }
 
 std::string linkTarget(const std::string& path)
@@ -283,10 +295,23 @@ void writeTextFile(const std::string& path, std::string_view content)
         file.sync();
         if (const auto failure = replaceFile(temporaryName, target))
             throw Error(failure->error);
+        syncFolder(splitPath(target).folder);
     });
     if (trap.pending())
         unlink(temporaryName.c_str());
     trap.raise();
+}
+
+TemporaryFile::TemporaryFile()
+{
+    const char* folder = std::getenv("TMPDIR");
+    m_path = std::string(folder != nullptr && *folder != '\0' ? folder : "/tmp") + "/ovisto.XXXXXX";
+    const FileHandle reserved(checked(mkstemp(m_path.data())));
+}
+
+TemporaryFile::~TemporaryFile()
+{
+    unlink(m_path.c_str());
 }
 
 std::string readTextFile(const std::string& path)

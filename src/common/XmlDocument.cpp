@@ -77,13 +77,49 @@ int readText(void* rest, char* buffer, int size)
     return static_cast<int>(count);
 }
 
-XmlParseError outOfMemory()
+XmlParseError parseError(const Error& error)
 {
-    return {.code = XML_ERR_NO_MEMORY,
-            .reason = systemError(kOutOfMemory).description,
-            .line = 0,
-            .linepos = 0,
-            .srcText = {}};
+    return {.code = error.number, .reason = error.description, .line = 0, .linepos = 0, .srcText = {}};
+}
+
+/// A file as the parser takes it, piece by piece: the combined documents of many photographs may be larger than memory.
+struct FileSource {
+    explicit FileSource(const std::string& path) : file(path) {}
+
+    /// All of it, for the line that an error is in; nothing where that would be too much to look at.
+    std::string text() const
+    {
+        constexpr std::int64_t kMost = std::int64_t{64} * 1024 * 1024;
+        std::string all(file.size() <= kMost ? static_cast<std::size_t>(file.size()) : 0, '\0');
+        all.resize(file.readAt(0, {reinterpret_cast<std::uint8_t*>(all.data()), all.size()}));
+        return all;
+    }
+
+    InputFile file;
+    std::int64_t offset = 0;
+    ErrorTrap trap;
+};
+
+int readSource(void* fileSource, char* buffer, int length)
+{
+    auto& source = *static_cast<FileSource*>(fileSource);
+    int count = -1;
+    source.trap.run([&] {
+        const auto size = static_cast<std::size_t>(length);
+        count = static_cast<int>(source.file.readAt(source.offset, {reinterpret_cast<std::uint8_t*>(buffer), size}));
+        source.offset += count;
+    });
+    return count;
+}
+
+constexpr int kNoDeclaration = -2; ///< what the parser notes in place of "standalone"
+
+/// Whether the document type says what elements there are. One that only names characters (style sheets often do)
+/// says nothing that the content could be held against.
+bool declaresElements(const xmlDoc& doc)
+{
+    return doc.extSubset != nullptr ||
+           (doc.intSubset != nullptr && (doc.intSubset->elements != nullptr || doc.intSubset->SystemID != nullptr));
 }
 
 /// About what the nodes of `text` take in memory: an element, its two tags in the text, with its text node; and an
@@ -110,8 +146,6 @@ constexpr std::size_t kNodeMemoryFree = std::size_t{24} * 1024 * 1024; ///< more
 /// Holds the document type that `doc` declares, if it does, against its content.
 std::optional<XmlParseError> validate(xmlDoc* doc, std::string_view source)
 {
-    if (doc->intSubset == nullptr)
-        return std::nullopt;
     std::optional<XmlParseError> firstError;
     const auto remember = [](void* userData, xmlError* error) {
         auto& [found, text] = *static_cast<std::pair<std::optional<XmlParseError>*, std::string_view>*>(userData);
@@ -146,7 +180,7 @@ std::optional<XmlParseError> XmlDocument::loadText(std::string_view text)
     m_content.reset();
     initialiseParser();
     if (nodeMemory(text) > kNodeMemoryFree + text.size() || text.size() > std::numeric_limits<int>::max())
-        return outOfMemory();
+        return parseError(systemError(kOutOfMemory));
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
     // Only without its limits does the parser take a long run of digits for one text, but also any depth of nesting.
     const bool mayHoldLongText = text.size() > XML_MAX_TEXT_LENGTH;
@@ -164,25 +198,26 @@ std::optional<XmlParseError> XmlDocument::loadFile(const std::string& path, Vali
 {
     m_content.reset();
     initialiseParser();
-    std::string source;
+    std::optional<FileSource> source;
     ErrorTrap trap;
-    trap.run([&] { source = readTextFile(path); });
-    if (trap.pending()) {
-        const Error error = trap.take();
-        return XmlParseError{.code = error.number, .reason = error.description, .line = 0, .linepos = 0, .srcText = {}};
-    }
+    trap.run([&] { source.emplace(path); });
+    if (trap.pending())
+        return parseError(trap.take());
     const int options = kParseOptions | (validation == Validation::On ? XML_PARSE_DTDLOAD : 0) |
-                        (whiteSpace == WhiteSpace::Strip ? XML_PARSE_NOBLANKS : 0);
+                        (whiteSpace == WhiteSpace::Strip ? XML_PARSE_NOBLANKS : 0) |
+                        (source->file.size() > XML_MAX_TEXT_LENGTH ? XML_PARSE_HUGE : 0);
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
     const XmlPtr<xmlChar> uri(xmlPathToURI(xmlText(path.c_str())));
-    xmlDoc* doc = xmlCtxtReadMemory(context.get(), source.data(), static_cast<int>(source.size()),
-                                    toString(uri.get()).c_str(), nullptr, options);
+    xmlDoc* doc =
+        xmlCtxtReadIO(context.get(), readSource, nullptr, &*source, toString(uri.get()).c_str(), nullptr, options);
+    auto content = doc != nullptr ? std::make_unique<Content>(doc) : nullptr;
+    if (source->trap.pending())
+        return parseError(source->trap.take());
     if (doc == nullptr)
-        return parseError(context->lastError, source);
-    auto content = std::make_unique<Content>(doc);
-    content->declaration = source.starts_with("<?xml");
-    if (validation == Validation::On) {
-        if (auto error = validate(doc, source))
+        return parseError(context->lastError, source->text());
+    content->declaration = doc->standalone != kNoDeclaration;
+    if (validation == Validation::On && declaresElements(*doc)) {
+        if (auto error = validate(doc, source->text()))
             return error;
     }
     m_content = std::move(content);

@@ -10,6 +10,10 @@ struct _xmlNode;
 
 namespace ovisto {
 
+class XmlDocument;
+enum class TextEncoding;
+struct Transformation;
+
 /// A node of an XmlDocument, or no node. No node answers every question with nothing and lets every change pass by.
 /// The handle stays valid as long as the document lives and is not loaded anew, also after the node was removed.
 /// All texts are UTF-8.
@@ -61,6 +65,7 @@ public:
 
 private:
     friend class XmlDocument;
+    friend Transformation transformNode(XmlDocument& data, const std::string& styleSheet, TextEncoding encoding);
     _xmlNode* m_node = nullptr;
 };
 

@@ -105,9 +105,10 @@ void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& t
 
 void JpegDocument::WriteJpeg(XmlDocument& document, const std::string& fileName)
 {
-    const NewVersion version = writeTemporary(document, fileName);
-    // Here both files are whole: the place for checks that may refuse to go on.
+    NewVersion version = writeTemporary(document, fileName);
+    finishTemporary(version);
     replaceOld(version);
+    syncFolder(splitPath(version.fileName).folder);
 }
 
 JpegDocument::NewVersion JpegDocument::writeTemporary(XmlDocument& document, const std::string& fileName)
@@ -125,9 +126,15 @@ JpegDocument::NewVersion JpegDocument::writeTemporary(XmlDocument& document, con
     reported(m_reporter, temporaryName + " write failed", [&] {
         SegmentWriter(*newFile, m_reporter).WriteHex("FFD9");
         newFile->takeAttributesFrom(*oldFile);
-        newFile->sync();
+        newFile->startSync();
     });
     return {target, temporaryName, std::move(*oldFile), std::move(*newFile)};
+}
+
+void JpegDocument::finishTemporary(NewVersion& version)
+{
+    reported(m_reporter, version.temporaryName + " write failed", [&] { version.newFile.sync(); });
+    // Here both files are whole: the place for checks that may refuse to go on.
 }
 
 void JpegDocument::writeSegments(XmlDocument& document, OutputFile& file)

@@ -23,17 +23,26 @@ public:
     /// elements of `document` are laid out in the course of it.
     void WriteJpeg(XmlDocument& document, const std::string& fileName);
 
-private:
-    /// The new version of a file, complete and on disk under its temporary name.
+    /// A file's new version, complete under its temporary name beside the old one. No other save can take that name as
+    /// long as it is open.
     struct NewVersion {
-        std::string fileName;
+        std::string fileName; ///< where a symbolic link leads to
         std::string temporaryName;
         InputFile oldFile;
         OutputFile newFile;
     };
 
+    // WriteJpeg in three steps, for who has many files to write: a disk takes them faster in one go. They fail as it
+    // does. After the last one the folder of the file is still to be synced.
+
+    /// Writes the new version, and has the disk begin with it.
     NewVersion writeTemporary(XmlDocument& document, const std::string& fileName);
+    /// Waits until the disk has it.
+    void finishTemporary(NewVersion& version);
+    /// Puts it, finished, in the place of the old one.
     void replaceOld(const NewVersion& version);
+
+private:
     void writeSegments(XmlDocument& document, OutputFile& file);
 
     ErrorReporter& m_reporter;

@@ -1,0 +1,197 @@
+#include "cli/CollectionCommands.h"
+
+#include "cli/CommandOutput.h"
+#include "cli/FileLoop.h"
+#include "cli/TerminalReporter.h"
+#include "collection/BatchAction.h"
+#include "collection/FolderScan.h"
+#include "collection/Report.h"
+#include "common/CodePage.h"
+#include "common/File.h"
+#include "common/XmlLoad.h"
+#include "common/XmlTransform.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <optional>
+
+namespace ovisto {
+
+namespace {
+
+/// A text from the command line. One that is no UTF-8 comes from a terminal with a code page.
+std::string textOf(const std::string& argument)
+{
+    if (isUtf8(argument))
+        return argument;
+    std::string text;
+    appendCharacters(text, {reinterpret_cast<const std::uint8_t*>(argument.data()), argument.size()},
+                     ControlBytes::Keep);
+    return text;
+}
+
+/// Makes a line of each report.
+class LineReporter : public ErrorReporter {
+public:
+    explicit LineReporter(std::string& lines) : m_lines(lines) {}
+
+    void report(const std::string& context, const Error& error) override
+    {
+        m_lines += errorLine(context, error.description);
+    }
+
+private:
+    std::string& m_lines;
+};
+
+/// Progress over files where the loop counts stretches of them; or where nobody watches, as all is done at once.
+class StretchProgress : public Progress {
+public:
+    StretchProgress(Progress& files, std::size_t stretch, std::size_t total)
+        : m_files(files), m_stretch(stretch), m_total(total)
+    {
+    }
+
+    bool step(const std::string& path, std::size_t done, std::size_t /*total*/) override
+    {
+        return m_files.step(path, done * m_stretch, m_total);
+    }
+
+private:
+    Progress& m_files;
+    std::size_t m_stretch;
+    std::size_t m_total;
+};
+
+class NoProgress : public Progress {
+public:
+    bool step(const std::string& /*path*/, std::size_t /*done*/, std::size_t /*total*/) override { return true; }
+};
+
+/// The change, or an error that says why it cannot be made to any file.
+NodeChange changeOf(const CommandLine& line, const TagDictionary& dictionary)
+{
+    NodeChange change{.action = NodeAction::Set, .entry = {}, .value = textOf(line.value)};
+    if (line.command == Command::Delete)
+        change.action = NodeAction::Delete;
+    else if (line.command == Command::Add)
+        change.action = NodeAction::Add;
+    ErrorTrap trap;
+    trap.run([&] { change.entry = dictionary.entry(line.nodePath); });
+    if (!change.entry.isElement())
+        throw Error{kInvalidCall, "The tag dictionary has no node " + line.nodePath};
+    if (const std::string reason = objection(change); !reason.empty())
+        throw Error{kInvalidCall, line.nodePath + ": " + reason};
+    return change;
+}
+
+/// How many files a thread takes at a time: a whole group, but not so many that some threads have none, or that the
+/// files which are open at the same time are more than a process may have.
+std::size_t stretchOf(std::size_t files, unsigned jobs)
+{
+    constexpr std::size_t kMostAtOnce = 256;
+    const std::size_t fair = (files + jobs - 1) / jobs;
+    return std::clamp<std::size_t>(std::min(fair, kMostAtOnce / jobs), 1, BatchAction::kGroupSize);
+}
+
+} // namespace
+
+int runChange(const CommandLine& line, const std::vector<std::string>& files, const TagDictionary& dictionary)
+{
+    CommandOutput output;
+    NodeChange change;
+    ErrorTrap trap;
+    trap.run([&] { change = changeOf(line, dictionary); });
+    if (trap.pending()) {
+        for (const std::string& path : files)
+            output.fail(errorLine(path, trap.error().description));
+        return output.finish();
+    }
+    const BatchAction batch(files, change);
+    const std::size_t stretch = stretchOf(files.size(), line.jobs);
+    std::vector<std::string> firstFiles;
+    for (std::size_t i = 0; i < files.size(); i += stretch)
+        firstFiles.push_back(files[i]);
+    const auto work = [&](std::size_t index) {
+        FileResult result;
+        LineReporter reporter(result.errors);
+        NoProgress unwatched;
+        const std::size_t first = index * stretch;
+        batch.run(first, std::min(first + stretch, files.size()), unwatched, reporter);
+        return result;
+    };
+    StretchProgress progress(output.progress(), stretch, files.size());
+    forEachFile(
+        firstFiles, line.jobs, work, [&](const FileResult& result) { output.write(result); }, progress);
+    return output.finish();
+}
+
+int runFind(const CommandLine& line)
+{
+    // The names first, then the contents, which several threads look at.
+    ScanOptions names = line.scan;
+    names.content = {};
+    ContentSearch content = line.scan.content;
+    content.words = textOf(content.words);
+    CommandOutput output;
+    std::string scanErrors;
+    LineReporter reporter(scanErrors);
+    std::vector<std::string> files;
+    std::optional<ContentFilter> filter;
+    NoProgress unwatched;
+    ErrorTrap trap;
+    trap.run([&] { filter.emplace(content); });
+    if (trap.pending()) {
+        output.fail(errorLine("", trap.take().description));
+        output.finish();
+        return kWrongUsage;
+    }
+    trap.run([&] { FolderScan(names).run(files, unwatched, reporter); });
+    if (trap.pending())
+        scanErrors += errorLine(names.folder, trap.take().description);
+    output.fail(scanErrors);
+    const auto work = [&](std::size_t index) {
+        FileResult result;
+        ErrorTrap check;
+        check.run([&] {
+            if (filter->keeps(files[index]))
+                result.output = files[index] + (line.zeroSeparated ? '\0' : '\n');
+        });
+        if (check.pending())
+            result.errors = errorLine("", check.take().description);
+        return result;
+    };
+    forEachFile(
+        files, line.jobs, work, [&](const FileResult& result) { output.write(result); }, output.progress());
+    return output.finish();
+}
+
+int runReport(const CommandLine& line, const std::vector<std::string>& files)
+{
+    CommandOutput output;
+    Transformation report;
+    ErrorTrap trap;
+    trap.run([&] {
+        XmlDocument document;
+        XMLLoad(document, line.styleSheet);
+        const TemporaryFile combined;
+        for (const FileFailure& failure : combineDocuments(files, line.keep, combined.path(), output.progress()))
+            output.fail(errorLine(failure.path, failure.error.description));
+        XMLLoad(document, combined.path());
+        report =
+            transformNode(document, line.styleSheet, line.output.empty() ? TextEncoding::Utf8 : TextEncoding::Utf16);
+    });
+    if (trap.pending())
+        output.fail(errorLine("", trap.take().description));
+    else if (report.error)
+        output.fail(errorLine(line.styleSheet, report.error->description));
+    else if (line.output.empty())
+        output.write({.output = report.bytes, .errors = {}});
+    else
+        trap.run([&] { writeTextFile(line.output, report.bytes); });
+    if (trap.pending())
+        output.fail(errorLine(line.output, trap.take().description));
+    return output.finish();
+}
+
+} // namespace ovisto

@@ -1,0 +1,31 @@
+#include "cli/CommandOutput.h"
+
+#include "cli/CommandLine.h"
+#include "cli/TerminalReporter.h"
+
+#include <cstdio>
+
+namespace ovisto {
+
+void CommandOutput::write(const FileResult& result)
+{
+    if (result.output.empty() && result.errors.empty())
+        return;
+    m_progress.clear();
+    std::fwrite(result.output.data(), 1, result.output.size(), stdout);
+    if (result.errors.empty())
+        return;
+    m_failed = true;
+    std::fflush(stdout);
+    std::fputs(result.errors.c_str(), stderr);
+}
+
+int CommandOutput::finish()
+{
+    m_progress.clear();
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+        fail(errorLine("", "Standard output cannot be written"));
+    return m_failed ? kSomeFailed : kAllDone;
+}
+
+} // namespace ovisto

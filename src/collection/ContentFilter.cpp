@@ -1,0 +1,72 @@
+#include "collection/ContentFilter.h"
+
+#include "common/Error.h"
+#include "common/NumberText.h"
+#include "reader/JpegXml.h"
+
+#include <algorithm>
+
+namespace ovisto {
+
+namespace {
+
+std::string wordPattern(std::string_view word, bool wholeWords)
+{
+    const auto first = word.find_first_not_of(' ');
+    const std::string trimmed(
+        first == std::string_view::npos ? "" : word.substr(first, word.find_last_not_of(' ') - first + 1));
+    return wholeWords ? "\\b" + trimmed + "\\b" : trimmed;
+}
+
+/// The words as alternatives. An empty word behind another one is an alternative that every text has; an empty first
+/// word is none at all. People who end their list with a comma see every file, and are used to it.
+std::string anyWordPattern(const ContentSearch& search)
+{
+    std::string pattern;
+    for (const std::string_view word : split(search.words, ',')) {
+        if (!pattern.empty())
+            pattern += '|';
+        pattern += wordPattern(word, search.wholeWords);
+    }
+    return pattern;
+}
+
+std::vector<RegularExpression> expressionsFor(const ContentSearch& search)
+{
+    std::vector<RegularExpression> expressions;
+    if (search.words.empty())
+        return expressions;
+    if (search.regExp) {
+        expressions.emplace_back(search.words);
+    } else if (search.allWords) {
+        for (const std::string_view word : split(search.words, ','))
+            expressions.emplace_back(wordPattern(word, search.wholeWords));
+    } else {
+        expressions.emplace_back(anyWordPattern(search));
+    }
+    return expressions;
+}
+
+} // namespace
+
+ContentFilter::ContentFilter(const ContentSearch& search) : m_expressions(expressionsFor(search)) {}
+
+bool ContentFilter::keeps(const std::string& path) const
+{
+    if (m_expressions.empty())
+        return true;
+    const Translation translation = JpegXml().XMLtranslate(path);
+    if (translation.error)
+        return false;
+    ErrorTrap trap;
+    bool matches = false;
+    trap.run([&] {
+        matches = std::ranges::all_of(
+            m_expressions, [&](const RegularExpression& expression) { return expression.matches(translation.text); });
+    });
+    if (trap.pending())
+        throw Error{trap.error().number, path + ": " + trap.error().description};
+    return matches;
+}
+
+} // namespace ovisto

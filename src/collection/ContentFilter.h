@@ -1,0 +1,37 @@
+#pragma once
+
+#include "common/RegularExpression.h"
+
+#include <string>
+#include <vector>
+
+namespace ovisto {
+
+/// What the metadata of a file is to contain.
+struct ContentSearch {
+    std::string words;       ///< separated by commas, or one regular expression; empty: anything
+    bool allWords = false;   ///< all of the words, not any one
+    bool wholeWords = false; ///< not as a part of longer words; nothing to a regular expression
+    bool regExp = false;     ///< `words` is a regular expression
+};
+
+/// What a failed content check is called in a report.
+inline constexpr const char* kContentCheckContext = "Checking file contents";
+
+/// Tells the files whose metadata contains what is searched for. It may be used by several threads at once.
+class ContentFilter {
+public:
+    /// Raises kInvalidCall when what is searched for is no regular expression. The characters of regular expressions
+    /// have their meaning in words too.
+    explicit ContentFilter(const ContentSearch& search);
+
+    /// Whether the document of the JPEG file at `path` contains it, markup included. A file that the reader cannot
+    /// translate does not; where anything will do, no file is read. Raises what RegularExpression::matches() raises,
+    /// with the file's name.
+    bool keeps(const std::string& path) const;
+
+private:
+    std::vector<RegularExpression> m_expressions; // all of them have to match
+};
+
+} // namespace ovisto

@@ -1,0 +1,63 @@
+#include "collection/KeywordFile.h"
+
+#include "common/CodePage.h"
+#include "common/File.h"
+
+#include <optional>
+
+namespace ovisto {
+
+namespace {
+
+std::string textOf(const std::string& content)
+{
+    // What is UTF-8 by chance only is not what anybody calls a photograph.
+    if (isUtf8(content))
+        return content;
+    std::string text;
+    appendCharacters(text, {reinterpret_cast<const std::uint8_t*>(content.data()), content.size()}, ControlBytes::Keep);
+    return text;
+}
+
+/// The pieces between CR LF. A line feed by itself parts nothing: lists were always written with both.
+std::vector<std::string> linesOf(const std::string& text)
+{
+    constexpr std::string_view kLineEnd = "\r\n";
+    std::vector<std::string> lines;
+    std::size_t start = 0;
+    for (std::size_t end = text.find(kLineEnd); end != std::string::npos; end = text.find(kLineEnd, start)) {
+        lines.push_back(text.substr(start, end - start));
+        start = end + kLineEnd.size();
+    }
+    lines.push_back(text.substr(start));
+    return lines;
+}
+
+} // namespace
+
+void loadKeywords(const std::string& path, std::vector<std::string>& keywords, ErrorReporter& reporter)
+{
+    ErrorTrap trap;
+    std::optional<InputFile> file;
+    trap.run([&] { file.emplace(path); });
+    if (trap.pending())
+        return ErrorReport(reporter, "Open File " + path, trap.take());
+    std::string content;
+    trap.run([&] {
+        content.resize(static_cast<std::size_t>(file->size()));
+        content.resize(file->readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
+    });
+    keywords = linesOf(textOf(content));
+    if (trap.pending())
+        ErrorReport(reporter, "Read File " + path, trap.take());
+}
+
+std::string keywordInsertion(const std::string& keyword, std::size_t length, std::size_t selectionStart,
+                             std::size_t selectionLength)
+{
+    const bool atEnd = selectionStart == length && length > 0;
+    const bool textFollows = selectionStart + selectionLength < length;
+    return (atEnd ? " " : "") + keyword + (textFollows ? " " : "");
+}
+
+} // namespace ovisto

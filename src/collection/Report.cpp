@@ -1,0 +1,141 @@
+#include "collection/Report.h"
+
+#include "collection/MetadataDocument.h"
+#include "common/CodePage.h"
+#include "common/File.h"
+#include "common/PathText.h"
+#include "common/XmlLoad.h"
+#include "common/XmlTransform.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace ovisto {
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xFF\xFE";
+
+void write(OutputFile& file, std::string_view bytes)
+{
+    file.write({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
+}
+
+/// The document of a file as the reader makes it. A well-formed text of the combined file can only be made of
+/// well-formed ones, so that one which is not would take all others with it.
+std::string documentText(const std::string& path, const KeepOptions& keep)
+{
+    Translation translation = JpegXml().XMLtranslate(path, keep);
+    if (translation.error)
+        throw Error(*translation.error);
+    // The reader escapes everything but what stands in a CDATA section.
+    if (translation.text.find("<![CDATA[") != std::string::npos)
+        documentOf(translation.text);
+    return std::move(translation.text);
+}
+
+/// An extension comes from a style sheet: it must not lead to another folder, nor to a name that other systems refuse.
+void checkExtension(const std::string& extension)
+{
+    const bool isName = std::ranges::none_of(extension, [](char character) {
+        return static_cast<unsigned char>(character) < 32 ||
+               std::string_view("\\/:*?\"<>|").find(character) != std::string_view::npos;
+    });
+    if (!isName)
+        throw systemError(kPathAccessError);
+}
+
+/// Runs a step and reports the error that it raises. Returns whether it raised none.
+template <class Step> bool succeeds(ErrorReporter& reporter, const std::string& context, Step step)
+{
+    ErrorTrap trap;
+    trap.run(step);
+    if (trap.pending())
+        ErrorReport(reporter, context, trap.error());
+    return !trap.pending();
+}
+
+/// Writes the report itself. Returns its path, empty when it could not be written.
+std::string writeReport(const std::string& report, const std::string& folder, ErrorReporter& reporter)
+{
+    const std::string extension = reportExtension(report);
+    const std::string path = folder + "Report." + extension;
+    std::optional<OutputFile> file;
+    const bool created = succeeds(reporter, "Create file " + path, [&] {
+        checkExtension(extension);
+        file.emplace(path, NewFileAccess::Usual);
+    });
+    const bool written = created && succeeds(reporter, "Write file " + path, [&] {
+                             write(*file, report);
+                             file->flush();
+                         });
+    return written ? path : std::string();
+}
+
+} // namespace
+
+std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files, const KeepOptions& keep,
+                                          const std::string& combined, Progress& progress)
+{
+    std::vector<FileFailure> leftOut;
+    OutputFile file(combined, NewFileAccess::Usual);
+    write(file, kByteOrderMark);
+    write(file, utf16Bytes("<JPEGs>"));
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        if (!progress.step(files[i], i, files.size()))
+            break;
+        std::string text;
+        ErrorTrap trap;
+        trap.run([&] { text = documentText(files[i], keep); });
+        if (trap.pending())
+            leftOut.push_back({files[i], trap.take()});
+        else
+            write(file, utf16Bytes(text));
+    }
+    write(file, utf16Bytes("</JPEGs>"));
+    file.flush();
+    return leftOut;
+}
+
+ReportResult makeReport(const std::vector<std::string>& files, const ReportOptions& options, Progress& progress,
+                        ErrorReporter& reporter)
+{
+    ReportResult result;
+    XmlDocument document;
+    if (!succeeds(reporter, options.styleSheet, [&] { XMLLoad(document, options.styleSheet); }))
+        return result;
+    // The documents of the last time must not be reported on as if they were these.
+    const std::string combined = options.folder + "Report.xml";
+    if (!succeeds(reporter, combined, [&] {
+            createFolders(options.folder);
+            result.leftOut = combineDocuments(files, options.keep, combined, progress);
+            XMLLoad(document, combined);
+        }))
+        return result;
+    const Transformation report = transformNode(document, options.styleSheet, TextEncoding::Utf16);
+    // What a style sheet made before it failed is worth a look.
+    if (report.error)
+        ErrorReport(reporter, "Transform XML", *report.error);
+    result.path = writeReport(report.bytes, options.folder, reporter);
+    return result;
+}
+
+std::string reportExtension(std::string_view report)
+{
+    constexpr std::size_t kLength = 3;
+    if (report.starts_with(kByteOrderMark))
+        report.remove_prefix(kByteOrderMark.size());
+    const auto unit = [&](std::size_t index) {
+        return static_cast<char32_t>(static_cast<std::uint8_t>(report[2 * index]) |
+                                     static_cast<std::uint8_t>(report[2 * index + 1]) << 8);
+    };
+    const std::size_t length = report.size() / 2;
+    if (length == 0 || unit(0) != U'<')
+        return "txt";
+    std::string extension;
+    for (std::size_t i = 1; i < std::min(length, 1 + kLength); ++i)
+        appendCharacter(extension, unit(i));
+    return extension;
+}
+
+} // namespace ovisto

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ovisto {
+
+/// What tells a folder from all others, by whatever name it was reached.
+struct FolderIdentity {
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
+    auto operator<=>(const FolderIdentity&) const = default;
+};
+
+/// What is in one folder: names without the folder's path, sorted as people sort names. Hidden things, and those that
+/// are neither file nor folder, are left out. What a symbolic link leads to decides what it is.
+struct FolderListing {
+    FolderIdentity identity;
+    std::vector<std::string> files;
+    std::vector<std::string> folders;
+};
+
+/// Raises the system's reason when `folder` cannot be read.
+FolderListing listFolder(const std::string& folder);
+
+/// The path of what is called `name` in `folder`.
+std::string pathIn(const std::string& folder, std::string_view name);
+
+/// The characters of a name with the difference of letter case taken away.
+std::u32string foldedCase(std::string_view name);
+
+} // namespace ovisto

@@ -1,0 +1,98 @@
+#include "common/FileListing.h"
+
+#include "common/CodePage.h"
+#include "common/Error.h"
+#include "common/File.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <memory>
+#include <tuple>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <wctype.h>
+
+namespace ovisto {
+
+namespace {
+
+struct CloseFolder {
+    void operator()(DIR* folder) const { closedir(folder); }
+};
+
+enum class Kind { File, Folder, Other };
+
+Kind kindOf(mode_t mode)
+{
+    return S_ISREG(mode) ? Kind::File : S_ISDIR(mode) ? Kind::Folder : Kind::Other;
+}
+
+/// The system mostly tells with the name what it stands for, but for a link not what that leads to.
+Kind kindOf(int folder, const dirent& entry)
+{
+    if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)
+        return kindOf(DTTOIF(entry.d_type));
+    struct stat status = {};
+    return fstatat(folder, entry.d_name, &status, 0) == 0 ? kindOf(status.st_mode) : Kind::Other;
+}
+
+void sortAsPeopleDo(std::vector<std::string>& names)
+{
+    std::vector<std::pair<std::u32string, std::string>> keyed;
+    keyed.reserve(names.size());
+    for (std::string& name : names)
+        keyed.emplace_back(foldedCase(name), std::move(name));
+    std::ranges::sort(keyed);
+    std::ranges::transform(keyed, names.begin(), [](auto& pair) { return std::move(pair.second); });
+}
+
+} // namespace
+
+FolderListing listFolder(const std::string& folder)
+{
+    const std::unique_ptr<DIR, CloseFolder> opened(opendir(folder.c_str()));
+    struct stat status = {};
+    if (!opened || fstat(dirfd(opened.get()), &status) != 0)
+        throw lastSystemError();
+    FolderListing listing{.identity = {status.st_dev, status.st_ino}, .files = {}, .folders = {}};
+    for (;;) {
+        errno = 0;
+        const dirent* entry = readdir(opened.get());
+        if (entry == nullptr)
+            break;
+        if (entry->d_name[0] == '.') // hidden, or the folder itself, or the one above
+            continue;
+        const Kind kind = kindOf(dirfd(opened.get()), *entry);
+        if (kind == Kind::File)
+            listing.files.emplace_back(entry->d_name);
+        else if (kind == Kind::Folder)
+            listing.folders.emplace_back(entry->d_name);
+    }
+    if (errno != 0)
+        throw lastSystemError();
+    sortAsPeopleDo(listing.files);
+    sortAsPeopleDo(listing.folders);
+    return listing;
+}
+
+std::string pathIn(const std::string& folder, std::string_view name)
+{
+    return std::string(folder).append(folder.ends_with('/') ? "" : "/").append(name);
+}
+
+std::u32string foldedCase(std::string_view name)
+{
+    static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    std::u32string folded = characters(name);
+    for (char32_t& character : folded) {
+        if (character >= U'A' && character <= U'Z')
+            character += U'a' - U'A';
+        else if (character >= 128 && unicode != nullptr)
+            character = static_cast<char32_t>(towlower_l(static_cast<wint_t>(character), unicode));
+    }
+    return folded;
+}
+
+} // namespace ovisto

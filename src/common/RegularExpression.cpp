@@ -1,0 +1,120 @@
+#include "common/RegularExpression.h"
+
+#include "common/CodePage.h"
+#include "common/Error.h"
+
+#include <array>
+
+#define PCRE2_CODE_UNIT_WIDTH 8
+#include <pcre2.h>
+
+namespace ovisto {
+
+namespace {
+
+struct PatternFree {
+    void operator()(pcre2_code* code) const { pcre2_code_free(code); }
+    void operator()(pcre2_compile_context* context) const { pcre2_compile_context_free(context); }
+    void operator()(pcre2_match_context* context) const { pcre2_match_context_free(context); }
+    void operator()(pcre2_match_data* data) const { pcre2_match_data_free(data); }
+    void operator()(pcre2_jit_stack* stack) const { pcre2_jit_stack_free(stack); }
+};
+template <class T> using PatternPtr = std::unique_ptr<T, PatternFree>;
+
+constexpr std::uint32_t kCompileOptions =
+    PCRE2_UTF | PCRE2_CASELESS | PCRE2_MULTILINE | PCRE2_ALT_BSUX | PCRE2_ALLOW_EMPTY_CLASS | PCRE2_MATCH_UNSET_BACKREF;
+constexpr std::uint32_t kMatchLimit = 5'000'000; ///< steps of a match; some tenths of a second
+constexpr std::size_t kJitStackStart = std::size_t{32} * 1024;
+constexpr std::size_t kJitStackMost = std::size_t{8} * 1024 * 1024;
+
+/// One stack a thread, for as long as the thread lives.
+pcre2_jit_stack* threadStack(void* /*data*/)
+{
+    thread_local const PatternPtr<pcre2_jit_stack> stack(
+        pcre2_jit_stack_create(kJitStackStart, kJitStackMost, nullptr));
+    return stack.get();
+}
+
+std::string messageOf(int error)
+{
+    std::array<PCRE2_UCHAR, 256> message{};
+    pcre2_get_error_message(error, message.data(), message.size());
+    return reinterpret_cast<const char*>(message.data());
+}
+
+/// `pattern` as the engine writes the same thing: it gives a meaning to more than ECMAScript does. An escaped letter
+/// that means nothing there is that letter; a bracket in a class is one; and what begins with "(*" is an error, not a
+/// command to the engine.
+std::string engineSpelling(std::string_view pattern)
+{
+    constexpr std::string_view kLetterEscapes = "bBdDsSwWfnrtvcxu";
+    std::string spelling;
+    bool inClass = false;
+    for (std::size_t i = 0; i < pattern.size(); ++i) {
+        const char character = pattern[i];
+        if (character == '\\' && i + 1 < pattern.size()) {
+            const char escaped = pattern[++i];
+            const bool isLetter = (escaped >= 'a' && escaped <= 'z') || (escaped >= 'A' && escaped <= 'Z');
+            if (!isLetter || kLetterEscapes.find(escaped) != std::string_view::npos)
+                spelling += '\\';
+            spelling += escaped;
+            continue;
+        }
+        if (character == '[' && inClass)
+            spelling += '\\';
+        else if (character == '[')
+            inClass = true;
+        else if (character == ']')
+            inClass = false;
+        spelling += character;
+        if (!inClass && character == '(' && pattern.substr(i + 1).starts_with('*'))
+            spelling += "?:";
+    }
+    return spelling;
+}
+
+} // namespace
+
+struct RegularExpression::Compiled {
+    PatternPtr<pcre2_code> code;
+    PatternPtr<pcre2_match_context> context;
+};
+
+RegularExpression::RegularExpression(const std::string& pattern) : m_compiled(std::make_unique<Compiled>())
+{
+    const PatternPtr<pcre2_compile_context> context(pcre2_compile_context_create(nullptr));
+    pcre2_set_newline(context.get(), PCRE2_NEWLINE_ANYCRLF);
+    const std::string spelling = engineSpelling(pattern);
+    int error = 0;
+    std::size_t place = 0;
+    m_compiled->code.reset(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(spelling.data()), spelling.size(),
+                                         kCompileOptions, &error, &place, context.get()));
+    if (!m_compiled->code) {
+        const std::size_t character = characterCount(std::string_view(spelling).substr(0, place));
+        throw Error{kInvalidCall, "Not a regular expression: " + pattern + ": " + messageOf(error) + " (at character " +
+                                      std::to_string(character) + ")"};
+    }
+    // Where the processor has no such compiler, the expression is interpreted, as it would be without this.
+    pcre2_jit_compile(m_compiled->code.get(), PCRE2_JIT_COMPLETE);
+    m_compiled->context.reset(pcre2_match_context_create(nullptr));
+    pcre2_set_match_limit(m_compiled->context.get(), kMatchLimit);
+    pcre2_jit_stack_assign(m_compiled->context.get(), threadStack, nullptr);
+}
+
+RegularExpression::RegularExpression(RegularExpression&& other) noexcept = default;
+RegularExpression& RegularExpression::operator=(RegularExpression&& other) noexcept = default;
+RegularExpression::~RegularExpression() = default;
+
+bool RegularExpression::matches(std::string_view text) const
+{
+    const PatternPtr<pcre2_match_data> data(pcre2_match_data_create(1, nullptr));
+    const int result = pcre2_match(m_compiled->code.get(), reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(), 0, 0,
+                                   data.get(), m_compiled->context.get());
+    if (result == PCRE2_ERROR_NOMATCH)
+        return false;
+    if (result < 0)
+        throw Error{kOutOfMemory, "The regular expression runs too long: " + messageOf(result)};
+    return true;
+}
+
+} // namespace ovisto

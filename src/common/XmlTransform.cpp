@@ -1,0 +1,167 @@
+#include "common/XmlTransform.h"
+
+#include "common/XmlPointer.h"
+
+#include <libexslt/exslt.h>
+#include <libxml/uri.h>
+#include <libxslt/documents.h>
+#include <libxslt/extensions.h>
+#include <libxslt/extra.h>
+#include <libxslt/security.h>
+#include <libxslt/transform.h>
+#include <libxslt/xsltInternals.h>
+#include <libxslt/xsltutils.h>
+
+#include <array>
+#include <cstdarg>
+#include <cstdio>
+#include <limits>
+#include <mutex>
+
+namespace ovisto {
+
+namespace {
+
+struct XsltFree {
+    void operator()(xsltStylesheet* style) const { xsltFreeStylesheet(style); }
+    void operator()(xsltTransformContext* context) const { xsltFreeTransformContext(context); }
+};
+template <class T> using XsltPtr = std::unique_ptr<T, XsltFree>;
+
+// Steps that a transformation may take: in any case, and for each element of the data.
+constexpr unsigned long kStepsFree = 50'000'000;
+constexpr unsigned long kStepsPerElement = 2'000;
+constexpr unsigned long kPathStepsPerStep = 20; // a step of a path is quicker than an instruction
+
+/// All that style sheets load, and themselves, comes from local files.
+xmlDoc* loadLocal(const xmlChar* uri, xmlDict* dictionary, int options, void* /*context*/, xsltLoadType /*type*/)
+{
+    const XmlPtr<xmlParserCtxt> parser(xmlNewParserCtxt());
+    if (dictionary != nullptr) {
+        xmlDictFree(parser->dict);
+        parser->dict = dictionary;
+        xmlDictReference(dictionary);
+    }
+    return xmlCtxtReadFile(parser.get(), reinterpret_cast<const char*>(uri), nullptr, options | XML_PARSE_NONET);
+}
+
+xsltSecurityPrefs* securityPreferences()
+{
+    xsltSecurityPrefs* preferences = xsltNewSecurityPrefs();
+    for (const xsltSecurityOption option : {XSLT_SECPREF_WRITE_FILE, XSLT_SECPREF_CREATE_DIRECTORY,
+                                            XSLT_SECPREF_READ_NETWORK, XSLT_SECPREF_WRITE_NETWORK})
+        xsltSetSecurityPrefs(preferences, option, xsltSecurityForbid);
+    return preferences;
+}
+
+void initialiseTransformer()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        xsltInit();
+        exsltRegisterAll();
+        // Style sheets written for another engine call the function by its name there.
+        xsltRegisterExtModuleFunction(xmlText("node-set"), xmlText("urn:schemas-microsoft-com:xslt"),
+                                      xsltFunctionNodeSet);
+        xsltSetLoaderFunc(loadLocal);
+        xsltSetDefaultSecurityPrefs(securityPreferences());
+    });
+}
+
+__attribute__((format(printf, 2, 3))) void appendMessage(void* messages, const char* format, ...)
+{
+    std::array<char, 1024> text{};
+    va_list arguments;
+    va_start(arguments, format);
+    std::vsnprintf(text.data(), text.size(), format, arguments);
+    va_end(arguments);
+    static_cast<std::string*>(messages)->append(text.data());
+}
+
+/// Collects what the libraries have to say while it lives. They keep the receiver in a variable of the whole program,
+/// so there is one at a time.
+class Messages {
+public:
+    Messages() : m_lock(mutex())
+    {
+        xsltSetGenericErrorFunc(&m_text, appendMessage);
+        xmlSetGenericErrorFunc(&m_text, appendMessage);
+    }
+    Messages(const Messages&) = delete;
+    Messages& operator=(const Messages&) = delete;
+    ~Messages()
+    {
+        xsltSetGenericErrorFunc(nullptr, nullptr);
+        xmlSetGenericErrorFunc(nullptr, nullptr);
+    }
+
+    /// The place and the reason; what follows is of use to who develops the library.
+    Error error() const
+    {
+        constexpr int kLines = 2;
+        std::size_t end = 0;
+        for (int i = 0; i < kLines && end != std::string::npos; ++i)
+            end = m_text.find('\n', end == 0 ? 0 : end + 1);
+        const std::string reason = m_text.substr(0, end);
+        return {kInvalidCall, reason.empty() ? "The style sheet cannot be applied" : reason};
+    }
+
+private:
+    static std::mutex& mutex()
+    {
+        static std::mutex mutex;
+        return mutex;
+    }
+
+    std::lock_guard<std::mutex> m_lock;
+    std::string m_text;
+};
+
+/// Makes `style` write its result in `encoding`, whatever it says itself.
+void setEncoding(xsltStylesheet& style, TextEncoding encoding)
+{
+    xmlFree(style.encoding);
+    style.encoding = xmlStrdup(xmlText(encoding == TextEncoding::Utf16 ? "UTF-16" : "UTF-8"));
+}
+
+void limitSteps(xsltTransformContext& context, xmlDoc* doc)
+{
+    // Numbering the elements, besides counting them, lets paths sort what they find at once.
+    const auto elements = static_cast<unsigned long>(std::max(0L, xmlXPathOrderDocElems(doc)));
+    context.opLimit = kStepsFree + elements * kStepsPerElement;
+    context.xpathCtxt->opLimit = context.opLimit * kPathStepsPerStep;
+}
+
+std::string resultText(xmlDoc* result, xsltStylesheet* style)
+{
+    xmlChar* bytes = nullptr;
+    int size = 0;
+    if (result == nullptr || xsltSaveResultToString(&bytes, &size, result, style) != 0 || bytes == nullptr)
+        return {};
+    const XmlPtr<xmlChar> owner(bytes);
+    return {reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)};
+}
+
+} // namespace
+
+Transformation transformNode(XmlDocument& data, const std::string& styleSheet, TextEncoding encoding)
+{
+    initialiseTransformer();
+    const Messages messages;
+    const XmlPtr<xmlChar> uri(xmlPathToURI(xmlText(styleSheet.c_str())));
+    const XsltPtr<xsltStylesheet> style(xsltParseStylesheetFile(uri.get()));
+    if (!style || style->errors != 0)
+        return {.bytes = {}, .error = messages.error()};
+    setEncoding(*style, encoding);
+
+    auto* doc = reinterpret_cast<xmlDoc*>(data.node().m_node);
+    const XsltPtr<xsltTransformContext> context(xsltNewTransformContext(style.get(), doc));
+    limitSteps(*context, doc);
+    const XmlPtr<xmlDoc> result(xsltApplyStylesheetUser(style.get(), doc, nullptr, nullptr, nullptr, context.get()));
+    Transformation transformation{.bytes = resultText(result.get(), style.get()), .error = {}};
+    if (!result || context->state != XSLT_STATE_OK)
+        transformation.error = messages.error();
+    return transformation;
+}
+
+} // namespace ovisto

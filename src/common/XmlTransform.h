@@ -1,0 +1,26 @@
+#pragma once
+
+#include "common/Error.h"
+#include "common/XmlDocument.h"
+
+#include <optional>
+#include <string>
+
+namespace ovisto {
+
+/// The encoding that a result is in, and names where its format has a place for it.
+enum class TextEncoding { Utf8, Utf16 };
+
+/// What a style sheet made of a document.
+struct Transformation {
+    std::string bytes; ///< in UTF-16 with a byte-order mark. After an error what was made before, or nothing
+    std::optional<Error> error;
+};
+
+/// Transforms `data` by the XSLT 1.0 style sheet at `styleSheet`, EXSLT functions and msxsl:node-set() included. White
+/// space that the style sheet strips is taken out of `data`. A style sheet reads local files and nothing from a
+/// network, and writes no file; one that would never end is stopped after far more steps than the data needs. An error
+/// of the style sheet is kInvalidCall, with its reason and place.
+Transformation transformNode(XmlDocument& data, const std::string& styleSheet, TextEncoding encoding);
+
+} // namespace ovisto
