@@ -5,7 +5,6 @@
 #include "ui/App/Settings.h"
 #include "ui/ControlForm/FileListing.h"
 #include "ui/ControlForm/FoundFiles.h"
-#include "ui/ControlForm/KeywordFile.h"
 #include "ui/ControlForm/LeafTree.h"
 #include "ui/ControlForm/NodeInspection.h"
 #include "ui/ControlForm/ScanSettings.h"
@@ -73,27 +72,6 @@ private Q_SLOTS:
         ErrorTrap trap;
         trap.run([&] { loadLeaves(XmlDocument(), Merovel, false); });
         QCOMPARE(trap.take().number, kObjectNotSet);
-    }
-
-    void insertsKeywordsWithBlanks()
-    {
-        const QString beach = QStringLiteral("beach");
-        const QString sunset = QStringLiteral("sunset");
-        QCOMPARE(keywordInsertion({}, 0, 0, beach), QStringLiteral("beach"));
-        QCOMPARE(keywordInsertion(sunset, 6, 0, beach), QStringLiteral(" beach"));
-        QCOMPARE(keywordInsertion(sunset, 0, 0, beach), QStringLiteral("beach "));
-        QCOMPARE(keywordInsertion(sunset, 3, 0, beach), QStringLiteral("beach "));
-        QCOMPARE(keywordInsertion(sunset, 0, 6, beach), QStringLiteral("beach"));
-        QCOMPARE(keywordInsertion(sunset, 6, 0, {}), QStringLiteral(" "));
-    }
-
-    void readsKeywordFiles()
-    {
-        QTemporaryDir folder;
-        const std::string path = folder.filePath(QStringLiteral("k.txt")).toStdString();
-        writeTextFile(path, "caf\xE9\r\n\r\none\ntwo\r\n");
-        QCOMPARE(keywordsIn(path),
-                 QStringList({QStringLiteral("caf\u00E9"), QString(), QStringLiteral("one\ntwo"), QString()}));
     }
 
     void givesBackTheTextPutIn()
