@@ -29,11 +29,6 @@ QMessageBox::StandardButton run(QMessageBox::Icon icon, const QString& text, QMe
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
-std::optional<QString> chosen(const QString& path)
-{
-    return path.isEmpty() ? std::nullopt : std::optional(path);
-}
-
 } // namespace
 
 void SystemDialogs::show(const QString& message)
@@ -46,14 +41,10 @@ bool SystemDialogs::ask(const QString& question)
     return run(QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
-std::optional<QString> SystemDialogs::chooseFolder(const QString& folder)
+std::optional<QString> SystemDialogs::chooseFile(const QString& title, const QString& folder, const QString& filter)
 {
-    return chosen(QFileDialog::getExistingDirectory(owner(), {}, folder));
-}
-
-std::optional<QString> SystemDialogs::chooseFile(const QString& folder, const QString& filter)
-{
-    return chosen(QFileDialog::getOpenFileName(owner(), {}, folder, filter));
+    const QString path = QFileDialog::getOpenFileName(owner(), title, folder, filter);
+    return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 
 } // namespace ovisto

@@ -69,6 +69,13 @@ void ControlForm::showPicture()
     ui.Image1->showFile(CurrentFileName, m_reporter);
 }
 
+/// Shows no file any more, its changes saved if the person wants that.
+void ControlForm::leaveShownFile()
+{
+    OfferSave(true);
+    clearShownFile();
+}
+
 /// No file is shown from now on, and none can be edited.
 void ControlForm::clearShownFile()
 {

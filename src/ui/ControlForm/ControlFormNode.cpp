@@ -285,7 +285,7 @@ void ControlForm::loadKeywords(const std::string& path)
 
 void ControlForm::chooseKeywords()
 {
-    const auto path = m_surroundings.dialogs.chooseFile(pathText(m_surroundings.folders.data),
+    const auto path = m_surroundings.dialogs.chooseFile({}, pathText(m_surroundings.folders.data),
                                                         tr("*.TXT (*.TXT *.txt);;All Files (*)"));
     if (!path)
         return;
