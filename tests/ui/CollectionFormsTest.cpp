@@ -426,7 +426,7 @@ private Q_SLOTS:
         cancelAt("3.jpg");
         chooseStyleSheet(window, QStringLiteral("files: <xsl:value-of select='count(/JPEGs/JPEG)'/>"));
         window.trigger("menuGenerate");
-        QCOMPARE(reportText(window, "Report.txt"), QStringLiteral("files: 2"));
+        QCOMPARE(reportText(window, "Report.txt"), QStringLiteral("files: 2\n"));
         QVERIFY(window.dialogs.taken().value(0).startsWith(
             QStringLiteral("Open %1/Report.txt\r\n").arg(window.writable())));
     }
