@@ -45,7 +45,8 @@ export DISPLAY
 
 # start PLACEMENT [ARGUMENT...]: starts the program in a window at a place given in twips, 15 a pixel
 start() {
-    printf '[Lumetra]\nControlForm="%s"\n' "$1" >"$XDG_CONFIG_HOME/Castelmar.conf"
+    printf '[Lumetra]\nControlForm="%s"\nFolder=%s\nSearchWords=%s\n' "$1" "$photographs" "${words:-}" \
+        >"$XDG_CONFIG_HOME/Castelmar.conf"
     shift
     "$build/bin/ovisto" "$@" 2>/dev/null &
     program=$!
@@ -135,6 +136,38 @@ xdotool windowfocus "$(front)"; key Escape
 xdotool windowfocus "$window"; key alt+h; key alt+i Right Return
 xdotool windowfocus "$(front)"; key alt+s
 shoot about
+stop
+
+# The choice of a folder, before there is any window, and before one.
+words="lake, mountain" start $large
+shoot choose-first
+stop
+words="no photograph has this" start $large "$photographs"
+click 150 42
+sleep 0.5
+shoot choose
+# A scan of many photographs, which takes its time.
+mkdir "$photographs/Archive"
+for ((i = 10000; i < 40000; ++i)); do ln "$photographs/night.jpg" "$photographs/Archive/night $i.jpg"; done
+xdotool windowfocus "$(front)"; key shift+Tab shift+Tab shift+Tab
+xdotool type --delay 10 "$photographs/Archive"
+key Return
+sleep 1
+shoot progress
+xdotool windowfocus "$(front)"; key Escape
+sleep 1
+shoot nothing-found
+stop
+rm -r "$photographs/Archive"
+
+# One change to all photographs, and a report on them.
+start $large "$photographs"
+key alt+b
+xdotool windowfocus "$(front)"; key Down Down Down Down
+shoot batch
+key Escape
+xdotool windowfocus "$window"; key alt+f g
+shoot open-report
 stop
 
 # A palette of light text on dark ground, as the settings of a desktop tell it.

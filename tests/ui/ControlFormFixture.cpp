@@ -32,7 +32,7 @@ bool TestDialogs::ask(const QString& question)
 bool TestDesktop::open(const std::string& path)
 {
     done << QStringLiteral("open ") + QString::fromStdString(path);
-    return true;
+    return canOpen;
 }
 
 void TestDesktop::showProperties(const std::string& path, QWidget&)
@@ -138,6 +138,15 @@ int Window::selectedFile()
 bool Window::isChanged()
 {
     return control<QLabel>("SaveWarning").isVisible();
+}
+
+QString Window::listed()
+{
+    QStringList names;
+    const auto* list = control<QListView>("FilesFoundList").model();
+    for (int row = 0; row < list->rowCount(); ++row)
+        names << list->index(row, 0).data().toString().section(QLatin1Char('/'), -1);
+    return names.join(QLatin1Char(' '));
 }
 
 std::optional<std::string> inFile(const std::string& path, const std::string& nodePath)

@@ -9,8 +9,10 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,13 +24,11 @@ class TestDialogs : public Dialogs {
 public:
     QStringList messages; ///< messages and questions, as they came
     std::deque<bool> answers;
-    std::optional<QString> folder;
     std::optional<QString> file;
 
     void show(const QString& message) override { messages << message; }
     bool ask(const QString& question) override;
-    std::optional<QString> chooseFolder(const QString&) override { return folder; }
-    std::optional<QString> chooseFile(const QString&, const QString&) override { return file; }
+    std::optional<QString> chooseFile(const QString&, const QString&, const QString&) override { return file; }
 
     /// What was said since the last time.
     QStringList taken() { return std::exchange(messages, {}); }
@@ -37,10 +37,20 @@ public:
 class TestDesktop : public Desktop {
 public:
     QStringList done;
+    bool canOpen = true;
 
     bool open(const std::string& path) override;
     void showProperties(const std::string& path, QWidget& owner) override;
 };
+
+/// The control of this name in `form`.
+template <class Control> Control& controlOf(const QWidget& form, const char* name)
+{
+    auto* found = form.findChild<Control*>(QLatin1String(name));
+    if (found == nullptr)
+        qFatal("no %s", name);
+    return *found;
+}
 
 /// The main window on copies of sample photographs, and a person before it.
 class Window {
@@ -57,13 +67,7 @@ public:
     ControlForm& form() { return *m_form; }
     std::unique_ptr<ControlForm> newForm();
 
-    template <class Control> Control& control(const char* name)
-    {
-        auto* found = m_form->findChild<Control*>(QLatin1String(name));
-        if (found == nullptr)
-            qFatal("no %s", name);
-        return *found;
-    }
+    template <class Control> Control& control(const char* name) { return controlOf<Control>(*m_form, name); }
     void click(const char* button);
     void trigger(const char* menuItem);
     void type(const char* box, const QString& text);
@@ -78,6 +82,13 @@ public:
     void selectFile(int row);
     int selectedFile();
     bool isChanged();
+    /// The names of the files listed.
+    QString listed();
+
+    /// The folder of the photographs, and the one that the program writes to.
+    QString folder() const { return m_folder.path(); }
+    QString writable() const { return m_writable.path(); }
+    Settings& settings() { return m_settings; }
 
     TestDialogs dialogs;
     TestDesktop desktop;
@@ -88,6 +99,23 @@ private:
     Settings m_settings;
     std::unique_ptr<ControlForm> m_form;
 };
+
+/// Does `work` with the form that takes the input, once that is a `Form` which `isReady`.
+template <class Form>
+void whenOpen(
+    std::function<void(Form&)> work, std::function<bool(Form&)> isReady = [](Form&) { return true; })
+{
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, work, isReady] {
+        auto* form = qobject_cast<Form*>(QApplication::activeModalWidget());
+        if (form == nullptr || !isReady(*form))
+            return;
+        timer->stop();
+        timer->deleteLater();
+        work(*form);
+    });
+    timer->start(0);
+}
 
 /// The text of a node in a file; nothing when there is no such node.
 std::optional<std::string> inFile(const std::string& path, const std::string& nodePath);

@@ -606,10 +606,10 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         } while (QApplication::focusWidget()->objectName() != QStringLiteral("FileFinder") && order.size() < 99);
         QCOMPARE(order.join(QLatin1Char(' ')),
-                 QStringLiteral(
-                     "FileFinder FilesFoundList FilePickerPrev FilePickerNext SlideShower KeywordList KeywordLoader "
-                     "FileTitle FileComments FileSubject FileKeywords FilePropPaster FileSaver FileReset "
-                     "NodeTree ViewHexOpt NodeText NodeHelp NodeAdder NodeDeleter"));
+                 QStringLiteral("FileFinder FilesFoundList FilePickerPrev FilePickerNext SlideShower BatchShower "
+                                "KeywordList KeywordLoader "
+                                "FileTitle FileComments FileSubject FileKeywords FilePropPaster FileSaver FileReset "
+                                "NodeTree ViewHexOpt NodeText NodeHelp NodeAdder NodeDeleter"));
         QVERIFY(!window.isChanged());
     }
 
@@ -650,27 +650,6 @@ private Q_SLOTS:
         ShellVerb(*std::make_unique<SystemDesktop>(), path, window.form(), Verb::Properties);
         const auto* sheet = window.form().findChild<QDialog*>();
         QVERIFY(sheet && sheet->isVisible() && sheet->windowTitle().contains(QStringLiteral("night.jpg")));
-    }
-
-    void endsWithoutAFolder()
-    {
-        Window window;
-        const auto form = window.newForm();
-        QVERIFY(!form->start({}));
-        QVERIFY(!form->isVisible());
-    }
-
-    void tellsOfAnEmptyFolder()
-    {
-        Window window;
-        window.dialogs.folder = QFileInfo(QString::fromStdString(window.path("x"))).path();
-        window.open({});
-        const QStringList nothing(
-            QStringLiteral("No files found with search criteria specified.  Click 'Find Files' button to try again."));
-        QCOMPARE(window.dialogs.taken(), nothing);
-        window.dialogs.folder = QStringLiteral("/nowhere/at/all");
-        window.click("FileFinder");
-        QCOMPARE(window.dialogs.taken(), QStringList(QStringLiteral("Folder not found")));
     }
 
     void asksBeforeItCloses_data()

@@ -3,11 +3,12 @@
 #include "ui/App/PictureFit.h"
 #include "ui/App/Placement.h"
 #include "ui/App/Settings.h"
-#include "ui/ControlForm/FileListing.h"
+#include "ui/BrowserCapForm/FolderTree.h"
 #include "ui/ControlForm/FoundFiles.h"
-#include "ui/ControlForm/KeywordFile.h"
 #include "ui/ControlForm/LeafTree.h"
+#include "ui/ControlForm/NamedFiles.h"
 #include "ui/ControlForm/NodeInspection.h"
+#include "ui/ControlForm/ReportMessage.h"
 #include "ui/ControlForm/ScanSettings.h"
 #include "ui/ControlForm/TextBox.h"
 
@@ -75,27 +76,6 @@ private Q_SLOTS:
         QCOMPARE(trap.take().number, kObjectNotSet);
     }
 
-    void insertsKeywordsWithBlanks()
-    {
-        const QString beach = QStringLiteral("beach");
-        const QString sunset = QStringLiteral("sunset");
-        QCOMPARE(keywordInsertion({}, 0, 0, beach), QStringLiteral("beach"));
-        QCOMPARE(keywordInsertion(sunset, 6, 0, beach), QStringLiteral(" beach"));
-        QCOMPARE(keywordInsertion(sunset, 0, 0, beach), QStringLiteral("beach "));
-        QCOMPARE(keywordInsertion(sunset, 3, 0, beach), QStringLiteral("beach "));
-        QCOMPARE(keywordInsertion(sunset, 0, 6, beach), QStringLiteral("beach"));
-        QCOMPARE(keywordInsertion(sunset, 6, 0, {}), QStringLiteral(" "));
-    }
-
-    void readsKeywordFiles()
-    {
-        QTemporaryDir folder;
-        const std::string path = folder.filePath(QStringLiteral("k.txt")).toStdString();
-        writeTextFile(path, "caf\xE9\r\n\r\none\ntwo\r\n");
-        QCOMPARE(keywordsIn(path),
-                 QStringList({QStringLiteral("caf\u00E9"), QString(), QStringLiteral("one\ntwo"), QString()}));
-    }
-
     void givesBackTheTextPutIn()
     {
         TextBox box;
@@ -140,21 +120,59 @@ private Q_SLOTS:
         QVERIFY(view.visualRect(found.index(999'999)).intersects(view.viewport()->rect()));
     }
 
-    void listsPhotographsBeforeSubFolders()
+    void findsWhatIsNamed()
     {
+        class Stopping : public Progress {
+        public:
+            std::size_t left = 0;
+            bool step(const std::string&, std::size_t, std::size_t) override { return left > 0 && left-- > 0; }
+        };
+        class Reporter : public ErrorReporter {
+            void report(const std::string& context, const Error&) override { qFatal("%s", context.c_str()); }
+        } reporter;
         QTemporaryDir folder;
         const QDir root(folder.path());
-        QVERIFY(root.mkpath(QStringLiteral("a/deep")) && root.mkpath(QStringLiteral(".hidden")));
-        for (const char* name : {"z.JPG", "b.jpeg", "c.png", ".h.jpg", "a/1.jpg", "a/deep/2.jpg", ".hidden/3.jpg"})
+        QVERIFY(root.mkpath(QStringLiteral("a/deep")));
+        for (const char* name : {"z.JPG", "b.jpeg", "c.png", "a/1.jpg", "a/deep/2.jpg"})
             writeTextFile(root.filePath(QLatin1String(name)).toStdString(), "x");
-        const auto names = [&](SubFolders subFolders) {
+        const std::string path = folder.path().toStdString();
+        const auto names = [&](std::vector<std::string> named, std::size_t steps, bool subFolders = true) {
+            Stopping progress;
+            progress.left = steps;
+            ScanOptions options;
+            options.subFolders = subFolders;
             QStringList result;
-            for (const std::string& path : listPaths({folder.path().toStdString()}, subFolders))
-                result << root.relativeFilePath(QString::fromStdString(path));
+            for (const std::string& found : namedFiles(named, options, progress, reporter))
+                result << root.relativeFilePath(QString::fromStdString(found));
             return result.join(QLatin1Char(' '));
         };
-        QCOMPARE(names(SubFolders::No), QStringLiteral("b.jpeg z.JPG"));
-        QCOMPARE(names(SubFolders::Yes), QStringLiteral("b.jpeg z.JPG a/1.jpg a/deep/2.jpg"));
+        QCOMPARE(names({path}, 99), QStringLiteral("b.jpeg z.JPG a/1.jpg a/deep/2.jpg"));
+        QCOMPARE(names({path + "/a/../a", path + "/c.png", path}, 99, false),
+                 QStringLiteral("a/1.jpg c.png b.jpeg z.JPG"));
+        QCOMPARE(names({path + "/a", path, "gone.jpg"}, 1), QStringLiteral("a/1.jpg"));
+        QVERIFY(QDir::setCurrent(folder.path()));
+        QCOMPARE(names({"a", "gone.jpg"}, 99), QStringLiteral("a/1.jpg a/deep/2.jpg gone.jpg"));
+    }
+
+    void understandsTypedFolders()
+    {
+        const QString home = QDir::homePath();
+        const QDir inHome(home);
+        QCOMPARE(typedFolder(QStringLiteral("/a/../b/")), QStringLiteral("/b"));
+        QCOMPARE(typedFolder(QStringLiteral("~")), QDir::cleanPath(home));
+        QCOMPARE(typedFolder(QStringLiteral("~/x")), inHome.filePath(QStringLiteral("x")));
+        QCOMPARE(typedFolder(QStringLiteral("~x")), inHome.filePath(QStringLiteral("~x")));
+        QCOMPARE(typedFolder({}), QDir::cleanPath(home));
+    }
+
+    void tellsWhatAReportLeavesOut()
+    {
+        std::vector<FileFailure> leftOut{{"/a.jpg", {kOpenFailed, "File open failure /a.jpg"}},
+                                         {"/b.jpg", {kOpenFailed, "not well-formed"}}};
+        QCOMPARE(leftOutMessage(leftOut), QStringLiteral("The report does not cover these files:\r\n"
+                                                         "File open failure /a.jpg\r\n/b.jpg: not well-formed"));
+        leftOut.resize(12, leftOut.back());
+        QVERIFY(leftOutMessage(leftOut).endsWith(QStringLiteral("\r\nand 2 more")));
     }
 
     void readsPlacements()

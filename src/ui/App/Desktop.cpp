@@ -59,12 +59,12 @@ void SystemDesktop::showProperties(const std::string& path, QWidget& owner)
     });
 }
 
-void ShellVerb(Desktop& desktop, const std::string& path, QWidget& owner, Verb verb)
+bool ShellVerb(Desktop& desktop, const std::string& path, QWidget& owner, Verb verb)
 {
     if (verb == Verb::Open)
-        desktop.open(path);
-    else
-        desktop.showProperties(path, owner);
+        return desktop.open(path);
+    desktop.showProperties(path, owner);
+    return true;
 }
 
 void HelpContents(Desktop& desktop, Dialogs& dialogs, const std::string& helpFile)

@@ -34,8 +34,9 @@ public:
 
 enum class Verb { Open, Properties };
 
-/// Does with the file at `path` what `verb` says. Nothing is said when that fails.
-void ShellVerb(Desktop& desktop, const std::string& path, QWidget& owner, Verb verb);
+/// Does with the file at `path` what `verb` says. Nothing is said when that fails; false when the desktop has
+/// no program to open it with.
+bool ShellVerb(Desktop& desktop, const std::string& path, QWidget& owner, Verb verb);
 
 /// Opens the handbook, whose first page is `helpFile`. When there is no such file, or nothing opens it, a message says
 /// so.

@@ -20,11 +20,9 @@ public:
     /// Asks a question, to be answered by Yes or No.
     virtual bool ask(const QString& question) = 0;
 
-    /// Lets a folder be chosen, beginning at `folder`. Nothing when the person cancels.
-    virtual std::optional<QString> chooseFolder(const QString& folder) = 0;
-
-    /// Lets an existing file be chosen, beginning at `folder`. `filter` is written as QFileDialog has it.
-    virtual std::optional<QString> chooseFile(const QString& folder, const QString& filter) = 0;
+    /// Lets an existing file be chosen, beginning at `folder`. `filter` is written as QFileDialog has it; an empty
+    /// `title` is the desktop's own. Nothing when the person cancels.
+    virtual std::optional<QString> chooseFile(const QString& title, const QString& folder, const QString& filter) = 0;
 };
 
 } // namespace ovisto

@@ -35,11 +35,6 @@ void setText(QMessageBox& box, const QString& text)
         box.setDetailedText(lines);
 }
 
-std::optional<QString> chosen(const QString& path)
-{
-    return path.isEmpty() ? std::nullopt : std::optional(path);
-}
-
 } // namespace
 
 void SystemDialogs::show(const QString& message)
@@ -62,14 +57,10 @@ bool SystemDialogs::ask(const QString& question)
     return box.clickedButton() == yes;
 }
 
-std::optional<QString> SystemDialogs::chooseFolder(const QString& folder)
+std::optional<QString> SystemDialogs::chooseFile(const QString& title, const QString& folder, const QString& filter)
 {
-    return chosen(QFileDialog::getExistingDirectory(owner(), {}, folder));
-}
-
-std::optional<QString> SystemDialogs::chooseFile(const QString& folder, const QString& filter)
-{
-    return chosen(QFileDialog::getOpenFileName(owner(), {}, folder, filter));
+    const QString path = QFileDialog::getOpenFileName(owner(), title, folder, filter);
+    return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 
 } // namespace ovisto

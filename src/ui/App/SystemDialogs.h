@@ -9,8 +9,7 @@ class SystemDialogs : public Dialogs {
 public:
     void show(const QString& message) override;
     bool ask(const QString& question) override;
-    std::optional<QString> chooseFolder(const QString& folder) override;
-    std::optional<QString> chooseFile(const QString& folder, const QString& filter) override;
+    std::optional<QString> chooseFile(const QString& title, const QString& folder, const QString& filter) override;
 };
 
 } // namespace ovisto

@@ -82,9 +82,6 @@ ControlForm::ControlForm(TagDictionary dictionary, const Surroundings& surroundi
     ui.FilesFoundList->setModel(&m_found);
     for (QLabel* caption : {ui.FileCommentsL, ui.FileKeywordsL})
         caption->setContentsMargins(0, kFirstLine, 0, 0);
-    // Of another part of the program that is to come.
-    ui.BatchShower->setEnabled(false);
-    ui.menuGenerate->setEnabled(false);
     connectControls();
     connectMenus();
     clearShownFile();
@@ -120,6 +117,7 @@ void ControlForm::connectControls()
     connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, pickPrevious);
     connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, pickNext);
     connect(ui.SlideShower, &QPushButton::clicked, this, &ControlForm::showSlideShowOptions);
+    connect(ui.BatchShower, &QPushButton::clicked, this, &ControlForm::showBatch);
     connect(ui.KeywordLoader, &QPushButton::clicked, this, &ControlForm::chooseKeywords);
     connect(ui.KeywordList, &QListWidget::itemClicked, this, &ControlForm::insertKeyword);
     connect(ui.Image1, &PictureBox::clicked, this,
@@ -158,6 +156,7 @@ void ControlForm::connectMenus()
         moveFocusTo(*ui.FileReset);
         reset();
     });
+    connect(ui.menuGenerate, &QAction::triggered, this, &ControlForm::generateReport);
     connect(ui.menuFileExit, &QAction::triggered, this, &ControlForm::close);
     connect(ui.menuImageOpen, &QAction::triggered, this, [this] { runVerb(Verb::Open); });
     connect(ui.menuImageProps, &QAction::triggered, this, [this] { runVerb(Verb::Properties); });
@@ -218,7 +217,8 @@ void ControlForm::closeEvent(QCloseEvent* event)
 
 void ControlForm::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!event->mimeData()->hasUrls())
+    const bool isBusy = QApplication::activeModalWidget() != nullptr;
+    if (!event->mimeData()->hasUrls() || isBusy)
         return;
     event->setDropAction(Qt::CopyAction); // whoever lets them be moved would delete them
     event->accept();
@@ -276,64 +276,6 @@ void ControlForm::moveFocusTo(QWidget& control)
     // In a window that is not in front, the focus moves without an event that says so.
     if (!isActiveWindow() && left != focusWidget())
         leaveBox(left);
-}
-
-/// Lets a folder be chosen, and lists the files in it. Returns false when the person cancels.
-bool ControlForm::findFiles()
-{
-    const auto folder = m_surroundings.dialogs.chooseFolder(m_scan.FolderNameSelected);
-    if (!folder)
-        return false;
-    m_scan.FolderNameSelected = *folder;
-    show();
-    findFilesIn(toPath(*folder));
-    return true;
-}
-
-void ControlForm::findFilesIn(const std::string& folder)
-{
-    OfferSave(true);
-    clearShownFile();
-    std::vector<std::string> found;
-    ErrorTrap trap;
-    setCursor(Qt::WaitCursor);
-    trap.run([&] { found = listFolder(folder, subFolders()); });
-    unsetCursor();
-    if (trap.pending())
-        return m_surroundings.dialogs.show(tr("Folder not found"));
-    listFiles(std::move(found));
-}
-
-/// Lists the files named, and those in the folders named.
-void ControlForm::findFilesAmong(const std::vector<std::string>& paths)
-{
-    OfferSave(true);
-    clearShownFile();
-    setCursor(Qt::WaitCursor);
-    std::vector<std::string> found = listPaths(paths, subFolders());
-    unsetCursor();
-    listFiles(std::move(found));
-}
-
-SubFolders ControlForm::subFolders() const
-{
-    return m_scan.SubFolderScan ? SubFolders::Yes : SubFolders::No;
-}
-
-void ControlForm::listFiles(std::vector<std::string> found)
-{
-    {
-        const QScopedValueRollback updating(ControlsUpdating, true);
-        if (!m_scan.ListAppend)
-            m_found.clear();
-        m_found.append(std::move(found));
-    }
-    if (m_found.rowCount() > 0)
-        selectFile(0); // which leaves none when none of them is there any more
-    if (m_found.rowCount() == 0)
-        m_surroundings.dialogs.show(
-            tr("No files found with search criteria specified.  Click 'Find Files' button to try again."));
-    ui.FilesFoundList->setToolTip(tr("List of files found (%1)").arg(m_found.rowCount()));
 }
 
 int ControlForm::selectedFile() const

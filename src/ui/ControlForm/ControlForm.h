@@ -8,7 +8,6 @@
 #include "ui/App/Dialogs.h"
 #include "ui/App/MessageReporter.h"
 #include "ui/App/Settings.h"
-#include "ui/ControlForm/FileListing.h"
 #include "ui/ControlForm/FoundFiles.h"
 #include "ui/ControlForm/NodeInspection.h"
 #include "ui/ControlForm/OsProperties.h"
@@ -16,6 +15,7 @@
 #include "ui_ControlForm.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QString>
 #include <QTimer>
 
@@ -26,7 +26,9 @@
 
 namespace ovisto {
 
+class BatchForm;
 struct Leaf;
+struct NodeChange;
 
 /// What the window needs of the world around it. All of it must outlive the window.
 struct Surroundings {
@@ -72,18 +74,24 @@ private:
 
     // The list of files
     bool findFiles();
-    void findFilesIn(const std::string& folder);
-    void findFilesAmong(const std::vector<std::string>& paths);
-    SubFolders subFolders() const;
+    void scanFolder();
+    void findFilesAmong(const std::vector<std::string>& names);
+    void clearList();
     void listFiles(std::vector<std::string> found);
     int selectedFile() const;
     void selectFile(int row);
     void selectShownFile();
     void pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const);
 
+    // What is done with all of its files
     void showSlideShowOptions();
+    template <class Loop> void runWatched(Loop loop);
+    void showBatch();
+    void runBatch(const NodeChange& change);
+    void generateReport();
 
     // The file shown
+    bool leaveShownFile();
     void OpenSelectedFile();
     bool findSelectedFile();
     void keepShownFile();
@@ -137,7 +145,8 @@ private:
     TagDictionary Merovel;
     ScanSettings m_scan;
     FoundFiles m_found;
-    QTimer m_selection; ///< fires when a selection in the list has settled
+    QPointer<BatchForm> m_batch; ///< while it is open
+    QTimer m_selection;          ///< fires when a selection in the list has settled
 
     XmlDocument JpegDoc;           ///< of the file shown
     std::string CurrentFileName;   ///< full path of the file shown; empty when there is none

@@ -15,10 +15,7 @@ namespace ovisto {
 void ControlForm::OpenSelectedFile()
 {
     m_selection.stop();
-    if (OfferSave(true) == SaveResult::Failed)
-        return keepShownFile();
-    clearShownFile();
-    if (!findSelectedFile())
+    if (!leaveShownFile() || !findSelectedFile())
         return;
     clearChanged();
     const QScopedValueRollback updating(ControlsUpdating, true);
@@ -77,6 +74,18 @@ void ControlForm::readDocument()
 void ControlForm::showPicture()
 {
     ui.Image1->showFile(CurrentFileName, m_reporter);
+}
+
+/// Shows no file any more, its changes saved if the person wants that. Returns false when they could not be saved: the
+/// file is still shown then.
+bool ControlForm::leaveShownFile()
+{
+    if (OfferSave(true) == SaveResult::Failed) {
+        keepShownFile();
+        return false;
+    }
+    clearShownFile();
+    return true;
 }
 
 /// No file is shown from now on, and none can be edited.

@@ -2,6 +2,7 @@
 
 #include "ui/ControlForm/ControlForm.h"
 
+#include "collection/KeywordFile.h"
 #include "collection/NodeChange.h"
 #include "collection/PropertyTree.h"
 #include "common/DataType.h"
@@ -9,7 +10,6 @@
 #include "common/NodePath.h"
 #include "ui/App/PictureFit.h"
 #include "ui/App/Text.h"
-#include "ui/ControlForm/KeywordFile.h"
 #include "ui/ControlForm/LeafTree.h"
 #include "ui/NodeAddForm/NodeAddForm.h"
 
@@ -277,18 +277,18 @@ void ControlForm::ditto()
 
 void ControlForm::loadKeywords(const std::string& path)
 {
-    QStringList keywords;
-    ErrorTrap trap;
-    trap.run([&] { keywords = keywordsIn(path); });
-    if (trap.pending())
-        return ErrorReport(m_reporter, "Open File " + path, trap.take());
+    std::vector<std::string> keywords;
+    ovisto::loadKeywords(path, keywords, m_reporter);
+    if (keywords.empty()) // not even an empty one: there is no such file, and the list stays as it is
+        return;
     ui.KeywordList->clear();
-    ui.KeywordList->addItems(keywords);
+    for (const std::string& keyword : keywords)
+        ui.KeywordList->addItem(toQString(keyword));
 }
 
 void ControlForm::chooseKeywords()
 {
-    const auto path = m_surroundings.dialogs.chooseFile(pathText(m_surroundings.folders.data),
+    const auto path = m_surroundings.dialogs.chooseFile({}, pathText(m_surroundings.folders.data),
                                                         tr("*.TXT (*.TXT *.txt);;All Files (*)"));
     if (!path)
         return;
@@ -304,8 +304,10 @@ void ControlForm::insertKeyword()
         return;
     ui.FileKeywords->setFocus();
     QTextCursor caret = ui.FileKeywords->textCursor();
-    caret.insertText(keywordInsertion(ui.FileKeywords->toPlainText(), caret.selectionStart(),
-                                      caret.selectionEnd() - caret.selectionStart(), keyword->text()));
+    const auto start = static_cast<std::size_t>(caret.selectionStart());
+    const auto end = static_cast<std::size_t>(caret.selectionEnd());
+    const auto length = static_cast<std::size_t>(ui.FileKeywords->toPlainText().size());
+    caret.insertText(toQString(keywordInsertion(keyword->text().toStdString(), length, start, end - start)));
 }
 
 } // namespace ovisto

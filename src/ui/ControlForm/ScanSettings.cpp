@@ -1,5 +1,7 @@
 #include "ui/ControlForm/ScanSettings.h"
 
+#include "ui/App/Text.h"
+
 namespace ovisto {
 
 ScanSettings loadScanSettings(const Settings& settings, const QString& folder)
@@ -25,6 +27,18 @@ void saveScanSettings(const ScanSettings& scan, Settings& settings)
     settings.saveChoice(QStringLiteral("SearchAllWords"), scan.SearchAllWords);
     settings.saveChoice(QStringLiteral("SearchAllWords"), scan.SearchAllWords);
     settings.saveChoice(QStringLiteral("SearchRegExp"), scan.SearchRegExp);
+}
+
+ScanOptions scanOptions(const ScanSettings& scan)
+{
+    return {.folder = toPath(scan.FolderNameSelected),
+            .patterns = scan.FilePattern.toStdString(),
+            .subFolders = scan.SubFolderScan,
+            .append = scan.ListAppend,
+            .content = {.words = scan.SearchWords.toStdString(),
+                        .allWords = scan.SearchAllWords,
+                        .wholeWords = scan.SearchWordsWhole,
+                        .regExp = scan.SearchRegExp}};
 }
 
 } // namespace ovisto

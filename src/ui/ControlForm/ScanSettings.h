@@ -1,5 +1,6 @@
 #pragma once
 
+#include "collection/FolderScan.h"
 #include "ui/App/Settings.h"
 
 #include <QString>
@@ -22,5 +23,8 @@ struct ScanSettings {
 ScanSettings loadScanSettings(const Settings& settings, const QString& folder);
 
 void saveScanSettings(const ScanSettings& scan, Settings& settings);
+
+/// The scan that finds these files.
+ScanOptions scanOptions(const ScanSettings& scan);
 
 } // namespace ovisto

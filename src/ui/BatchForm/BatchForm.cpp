@@ -1,0 +1,39 @@
+#include "ui/BatchForm/BatchForm.h"
+
+#include "common/NodePath.h"
+#include "ui/App/Text.h"
+#include "ui/NodeAddForm/NodePicker.h"
+
+namespace ovisto {
+
+BatchForm::BatchForm(const TagDictionary& Merovel, bool technical, Dialogs& dialogs, QWidget* owner)
+    : QDialog(owner), m_dialogs(dialogs), m_entries(pickableEntries(Merovel, technical))
+{
+    ui.setupUi(this);
+    for (const XmlNode& entry : m_entries)
+        ui.NodeList->addItem(toQString(AttributeGet(entry, "label")));
+    connect(ui.NodeList, &QListWidget::currentRowChanged, this,
+            [this](int row) { ui.BatchStarter->setEnabled(row >= 0); });
+    connect(ui.ActionSetOpt, &QRadioButton::toggled, ui.NodeValue, &QLineEdit::setEnabled);
+    connect(ui.BatchStarter, &QPushButton::clicked, this, &BatchForm::start);
+    connect(ui.FormCanceller, &QPushButton::clicked, this, &BatchForm::reject);
+}
+
+NodeChange BatchForm::change() const
+{
+    return {.action = ui.ActionSetOpt->isChecked() ? NodeAction::Set : NodeAction::Delete,
+            .entry = m_entries[static_cast<std::size_t>(ui.NodeList->currentRow())],
+            .value = ui.NodeValue->text().toStdString()};
+}
+
+void BatchForm::start()
+{
+    const NodeChange chosen = change();
+    const std::string reason = objection(chosen);
+    if (reason.empty())
+        Q_EMIT started(chosen);
+    else
+        m_dialogs.show(toQString(reason));
+}
+
+} // namespace ovisto

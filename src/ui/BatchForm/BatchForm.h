@@ -1,0 +1,35 @@
+#pragma once
+
+#include "collection/NodeChange.h"
+#include "common/TagDictionary.h"
+#include "ui/App/Dialogs.h"
+#include "ui_BatchForm.h"
+
+#include <QDialog>
+
+#include <vector>
+
+namespace ovisto {
+
+/// Lets a change to one node be chosen that is made to all files listed.
+class BatchForm : public QDialog {
+    Q_OBJECT
+
+public:
+    /// With `technical`, technical nodes are offered too. `dialogs` and the dictionary must outlive the form.
+    BatchForm(const TagDictionary& Merovel, bool technical, Dialogs& dialogs, QWidget* owner);
+
+Q_SIGNALS:
+    /// The person wants this change made.
+    void started(const ovisto::NodeChange& change);
+
+private:
+    NodeChange change() const;
+    void start();
+
+    Ui::BatchForm ui;
+    Dialogs& m_dialogs;
+    std::vector<XmlNode> m_entries; ///< those in NodeList, row by row
+};
+
+} // namespace ovisto

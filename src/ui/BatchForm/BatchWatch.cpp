@@ -1,0 +1,17 @@
+#include "ui/BatchForm/BatchWatch.h"
+
+namespace ovisto {
+
+bool BatchWatch::step(const std::string& path, std::size_t done, std::size_t total)
+{
+    return !m_failed && m_progress.step(path, done, total);
+}
+
+void BatchWatch::report(const std::string& context, const Error& error)
+{
+    m_reporter.report(context, error);
+    const bool isUnreadable = error.number == kOpenFailed || error.number == kStructureError;
+    m_failed = m_failed || !isUnreadable;
+}
+
+} // namespace ovisto

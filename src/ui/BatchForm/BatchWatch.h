@@ -1,0 +1,24 @@
+#pragma once
+
+#include "common/ErrorReport.h"
+#include "common/Progress.h"
+
+namespace ovisto {
+
+/// Watches over a batch for a person in front: hands on what it is told, and ends the batch when a file cannot be
+/// changed, as the others would hardly fare better. One that cannot be read, or is there no more, ends nothing.
+class BatchWatch : public Progress, public ErrorReporter {
+public:
+    /// Both must outlive the object.
+    BatchWatch(Progress& progress, ErrorReporter& reporter) : m_progress(progress), m_reporter(reporter) {}
+
+    bool step(const std::string& path, std::size_t done, std::size_t total) override;
+    void report(const std::string& context, const Error& error) override;
+
+private:
+    Progress& m_progress;
+    ErrorReporter& m_reporter;
+    bool m_failed = false;
+};
+
+} // namespace ovisto

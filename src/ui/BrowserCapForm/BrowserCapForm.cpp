@@ -1,0 +1,65 @@
+#include "ui/BrowserCapForm/BrowserCapForm.h"
+
+#include <QDir>
+#include <QScopedValueRollback>
+#include <QStyle>
+
+namespace ovisto {
+
+BrowserCapForm::BrowserCapForm(const ScanSettings& scan, QWidget* owner) : QDialog(owner)
+{
+    ui.setupUi(this);
+    ui.FolderUp->setIcon(style()->standardIcon(QStyle::SP_FileDialogToParent));
+    ui.FolderHome->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
+    connect(ui.FolderTree, &FolderTree::SelectionChanged, this, &BrowserCapForm::selectionChanged);
+    connect(ui.FolderPath, &QLineEdit::textEdited, this, &BrowserCapForm::folderTyped);
+    connect(ui.FolderUp, &QToolButton::clicked, this,
+            [this] { ui.FolderTree->select(QFileInfo(m_selectedFolder).path()); });
+    connect(ui.FolderHome, &QToolButton::clicked, this, [this] { ui.FolderTree->select(QDir::homePath()); });
+    connect(ui.FolderSelector, &QPushButton::clicked, this, &BrowserCapForm::accept);
+    connect(ui.FormCanceller, &QPushButton::clicked, this, &BrowserCapForm::reject);
+    setSettings(scan);
+    ui.FolderTree->setFocus();
+}
+
+void BrowserCapForm::setSettings(const ScanSettings& scan)
+{
+    ui.FolderTree->select(QDir::cleanPath(scan.FolderNameSelected));
+    ui.FilePattern->setText(scan.FilePattern);
+    ui.SearchWords->setText(scan.SearchWords);
+    ui.SubFolderScanOpt->setChecked(scan.SubFolderScan);
+    ui.ListAppendOpt->setChecked(scan.ListAppend);
+    ui.SearchAllWordsOpt->setChecked(scan.SearchAllWords);
+    ui.SearchWordsWholeOpt->setChecked(scan.SearchWordsWhole);
+    ui.SearchRegExpOpt->setChecked(scan.SearchRegExp);
+}
+
+ScanSettings BrowserCapForm::settings() const
+{
+    return {.FolderNameSelected = SelectedFolder(),
+            .SubFolderScan = ui.SubFolderScanOpt->isChecked(),
+            .ListAppend = ui.ListAppendOpt->isChecked(),
+            .FilePattern = ui.FilePattern->text(),
+            .SearchWords = ui.SearchWords->text(),
+            .SearchAllWords = ui.SearchAllWordsOpt->isChecked(),
+            .SearchWordsWhole = ui.SearchWordsWholeOpt->isChecked(),
+            .SearchRegExp = ui.SearchRegExpOpt->isChecked()};
+}
+
+void BrowserCapForm::selectionChanged(const QString& folder)
+{
+    ui.FolderUp->setEnabled(!QDir(folder).isRoot());
+    if (m_typing)
+        return;
+    m_selectedFolder = folder;
+    ui.FolderPath->setText(QDir::toNativeSeparators(folder));
+}
+
+void BrowserCapForm::folderTyped(const QString& text)
+{
+    const QScopedValueRollback typing(m_typing, true);
+    m_selectedFolder = typedFolder(text);
+    ui.FolderTree->select(m_selectedFolder);
+}
+
+} // namespace ovisto

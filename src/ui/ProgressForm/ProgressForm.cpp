@@ -1,0 +1,37 @@
+#include "ui/ProgressForm/ProgressForm.h"
+
+#include "ui/App/Text.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace ovisto {
+
+ProgressForm::ProgressForm(QWidget* owner) : QDialog(owner)
+{
+    ui.setupUi(this);
+    // Not the owner alone: a dialog beside this one must not change what the loop works on either.
+    setWindowModality(Qt::ApplicationModal);
+    connect(ui.ProcessCanceler, &QPushButton::clicked, this, &ProgressForm::reject);
+}
+
+bool ProgressForm::step(const std::string& path, std::size_t done, std::size_t total)
+{
+    if (!isVisible())
+        show();
+    ui.Label1->setText(pathText(path));
+    ui.ProgressBar->setRange(0, static_cast<int>(std::max<std::size_t>(total, 1)) - 1);
+    ui.ProgressBar->setValue(static_cast<int>(done));
+    QCoreApplication::processEvents();
+    return !Canceled;
+}
+
+/// The dialog stays until the loop has come to its end, also when a person closes it.
+void ProgressForm::reject()
+{
+    Canceled = true;
+    ui.ProcessCanceler->setEnabled(false);
+}
+
+} // namespace ovisto

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "common/Progress.h"
+#include "ui_ProgressForm.h"
+
+#include <QDialog>
+
+#include <string>
+
+namespace ovisto {
+
+/// Shows how far a long loop over files is, and lets a person cancel it. While it is there, no other window of the
+/// program takes input.
+class ProgressForm : public QDialog, public Progress {
+    Q_OBJECT
+
+public:
+    explicit ProgressForm(QWidget* owner);
+
+    bool Canceled = false; ///< the loop is to stop before its next file
+
+    /// Shows the file and its place, and lets what a person does meanwhile happen. False once that was to cancel.
+    bool step(const std::string& path, std::size_t done, std::size_t total) override;
+
+    void reject() override;
+
+private:
+    Ui::ProgressForm ui;
+};
+
+} // namespace ovisto

@@ -1,0 +1,55 @@
+#include "collection/KeywordFile.h"
+#include "common/File.h"
+#include "support/RecordingReporter.h"
+
+#include <gtest/gtest.h>
+
+namespace ovisto::test {
+
+TEST(KeywordFile, HasOneKeywordALine)
+{
+    const struct {
+        const char* name;
+        const char* content;
+        std::vector<std::string> keywords;
+    } cases[] = {
+        {"an empty file", "", {""}},
+        {"empty lines, and one behind the last line break", "\r\nbeach\r\n\r\nsea\r\n", {"", "beach", "", "sea", ""}},
+        {"line feeds by themselves", "beach\nsea", {"beach\nsea"}},
+        {"Windows-1252", "caf\xE9\r\nsea", {"caf\xC3\xA9", "sea"}},
+        {"UTF-8", "caf\xC3\xA9", {"caf\xC3\xA9"}}};
+    for (const auto& row : cases) {
+        const TemporaryFile file;
+        writeTextFile(file.path(), row.content);
+        std::vector<std::string> keywords{"old"};
+        RecordingReporter reporter;
+        loadKeywords(file.path(), keywords, reporter);
+        EXPECT_EQ(keywords, row.keywords) << row.name;
+        EXPECT_TRUE(reporter.contexts.empty()) << row.name;
+    }
+}
+
+TEST(KeywordFile, LeavesTheListWhenItCannotBeOpened)
+{
+    std::vector<std::string> keywords{"old"};
+    RecordingReporter reporter;
+    loadKeywords("/nowhere/keywords.txt", keywords, reporter);
+    EXPECT_EQ(keywords, std::vector<std::string>{"old"});
+    EXPECT_EQ(reporter.contexts, std::vector<std::string>{"Open File /nowhere/keywords.txt"});
+}
+
+TEST(KeywordFile, SetsBlanksWhereTextStands)
+{
+    const struct {
+        const char* name;
+        const char* keyword;
+        std::size_t length, start, selected;
+        const char* insertion;
+    } cases[] = {{"no text", "beach", 0, 0, 0, "beach"},      {"the end", "beach", 6, 6, 0, " beach"},
+                 {"the start", "beach", 6, 0, 0, "beach "},   {"within", "beach", 6, 3, 0, "beach "},
+                 {"all selected", "beach", 6, 0, 6, "beach"}, {"an empty keyword", "", 6, 6, 0, " "}};
+    for (const auto& row : cases)
+        EXPECT_EQ(keywordInsertion(row.keyword, row.length, row.start, row.selected), row.insertion) << row.name;
+}
+
+} // namespace ovisto::test
