@@ -85,6 +85,8 @@ public:
     void takeAttributesFrom(const InputFile& old);
 
 private:
+    void writeAll(std::string_view rest);
+
     FileHandle m_handle;
     std::string m_buffer;
 };

@@ -210,7 +210,13 @@ OutputFile::OutputFile(const std::string& path, NewFileAccess newFileAccess)
 
 void OutputFile::write(std::span<const std::uint8_t> bytes)
 {
-    m_buffer.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (text.size() >= kBufferSize) {
+        flush();
+        writeAll(text);
+        return;
+    }
+    m_buffer.append(text);
     if (m_buffer.size() >= kBufferSize)
         flush();
 }
@@ -219,7 +225,11 @@ void OutputFile::flush()
 {
     // What could not be written is not tried again: the file is spoilt, and the error says so once.
     const std::string buffer = std::exchange(m_buffer, {});
-    std::string_view rest = buffer;
+    writeAll(buffer);
+}
+
+void OutputFile::writeAll(std::string_view rest)
+{
     while (!rest.empty()) {
         const auto count = checked(uninterrupted([&] { return ::write(m_handle.get(), rest.data(), rest.size()); }));
         // A full disk may first show as a short count, then as an error, or as nothing written at all.

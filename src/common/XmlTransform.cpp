@@ -73,7 +73,7 @@ __attribute__((format(printf, 2, 3))) void appendMessage(void* messages, const c
     std::array<char, 1024> text{};
     va_list arguments;
     va_start(arguments, format);
-    std::vsnprintf(text.data(), text.size(), format, arguments);
+    std::vsnprintf(text.data(), text.size(), format, arguments); // NOLINT(clang-analyzer-valist.Uninitialized)
     va_end(arguments);
     static_cast<std::string*>(messages)->append(text.data());
 }
