@@ -20,8 +20,8 @@ public:
     /// Loads the dictionary file. Raises what XMLLoad() raises.
     explicit TagDictionary(const std::string& path);
 
-    /// The entry for a node path, as NodeXPath() writes it or any other that selects it; or no node. Raises kInvalidCall
-    /// for what is no path.
+    /// The entry for a node path, as NodeXPath() writes it or any other that selects it; or no node. Raises
+    /// kInvalidCall for what is no path.
     XmlNode entry(const std::string& nodePath) const;
 
     const XmlDocument& document() const { return m_document; }
