@@ -45,7 +45,7 @@ export DISPLAY
 
 # start PLACEMENT [ARGUMENT...]: starts the program in a window at a place given in twips, 15 a pixel
 start() {
-    printf '[Lumetra]\nControlForm="%s"\nFolder=%s\nSearchWords=%s\n' "$1" "$photographs" "${words:-}" \
+    printf '[Lumetra]\nControlForm="%s"\nFolder="%s"\nSearchWords="%s"\n' "$1" "${folder:-$photographs}" "${words:-}" \
         >"$XDG_CONFIG_HOME/Castelmar.conf"
     shift
     "$build/bin/ovisto" "$@" 2>/dev/null &
@@ -139,14 +139,16 @@ shoot about
 stop
 
 # The choice of a folder, before there is any window, and before one.
-words="lake, mountain" start $large
+mkdir "$photographs"/{1985..2025}
+folder=$photographs/2005 words="lake, mountain" start $large
 shoot choose-first
 stop
-words="no photograph has this" start $large "$photographs"
+folder=$photographs/2005 words="no photograph has this" start $large "$photographs"
 click 150 42
 sleep 0.5
 shoot choose
 # A scan of many photographs, which takes its time.
+rmdir "$photographs"/{1985..2025}
 mkdir "$photographs/Archive"
 for ((i = 10000; i < 40000; ++i)); do ln "$photographs/night.jpg" "$photographs/Archive/night $i.jpg"; done
 xdotool windowfocus "$(front)"; key shift+Tab shift+Tab shift+Tab

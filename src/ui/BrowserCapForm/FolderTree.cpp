@@ -8,7 +8,6 @@ namespace ovisto {
 
 FolderTree::FolderTree(QWidget* parent) : QTreeView(parent)
 {
-    m_folders.setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
     m_folders.setFilter(QDir::Dirs | QDir::Drives | QDir::NoDotAndDotDot);
     m_folders.setRootPath(QDir::rootPath());
     setModel(&m_folders);
