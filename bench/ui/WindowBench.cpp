@@ -1,13 +1,13 @@
 // Prints how long a person waits: for the window, and for the picture and the properties of a
 // large photograph.
 
+#include "LargePhotograph.h"
+
 #include "ui/App/SystemDialogs.h"
 #include "ui/ControlForm/ControlForm.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QImage>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -16,22 +16,6 @@
 namespace {
 
 using namespace ovisto;
-
-/// A photograph of 24 megapixels, with some grain for the decoder to work on.
-std::string largePhotograph(const QTemporaryDir& folder)
-{
-    QImage image(6000, 4000, QImage::Format_RGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const int grain = static_cast<int>(QRandomGenerator::global()->generate() & 15U);
-            line[x] = qRgb(x / 26 + grain, y / 17 + grain, 96 + grain);
-        }
-    }
-    const QString path = folder.filePath(QStringLiteral("large.jpg"));
-    image.save(path, "JPG", 90);
-    return path.toStdString();
-}
 
 void print(const char* what, const QElapsedTimer& timer)
 {
@@ -56,7 +40,7 @@ int main(int argc, char** argv)
     QApplication::processEvents();
     print("start to a window with a file", timer);
 
-    const std::string photograph = largePhotograph(folder);
+    const std::string photograph = bench::largePhotograph(folder, "large.jpg");
     for (int i = 0; i < 3; ++i) {
         auto another = ControlForm(TagDictionary(data + "Merovel.xml"),
                                    {dialogs, desktop, settings, {data, folder.path().toStdString() + "/"}});

@@ -85,15 +85,6 @@ NodeChange changeOf(const CommandLine& line, const TagDictionary& dictionary)
     return change;
 }
 
-/// How many files a thread takes at a time: a whole group, but not so many that some threads have none, or that the
-/// files which are open at the same time are more than a process may have.
-std::size_t stretchOf(std::size_t files, unsigned jobs)
-{
-    constexpr std::size_t kMostAtOnce = 256;
-    const std::size_t fair = (files + jobs - 1) / jobs;
-    return std::clamp<std::size_t>(std::min(fair, kMostAtOnce / jobs), 1, BatchAction::kGroupSize);
-}
-
 } // namespace
 
 int runChange(const CommandLine& line, const std::vector<std::string>& files, const TagDictionary& dictionary)
@@ -107,8 +98,10 @@ int runChange(const CommandLine& line, const std::vector<std::string>& files, co
             output.fail(errorLine(path, trap.error().description));
         return output.finish();
     }
-    const BatchAction batch(files, change);
-    const std::size_t stretch = stretchOf(files.size(), line.jobs);
+    const BatchAction batch(files, change, line.jobs);
+    // A thread takes a whole group at a time, unless others would have nothing to do.
+    const std::size_t fair = (files.size() + line.jobs - 1) / line.jobs;
+    const std::size_t stretch = std::clamp<std::size_t>(fair, 1, batch.groupSize());
     std::vector<std::string> firstFiles;
     for (std::size_t i = 0; i < files.size(); i += stretch)
         firstFiles.push_back(files[i]);

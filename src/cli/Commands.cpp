@@ -9,14 +9,18 @@
 #include "collection/BatchAction.h"
 #include "collection/MetadataDocument.h"
 #include "collection/XmlExport.h"
+#include "common/File.h"
 #include "common/NodePath.h"
 #include "common/ProgramFolder.h"
 #include "common/XmlLoad.h"
 #include "writer/JpegDocument.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <iterator>
 #include <memory>
+#include <unordered_set>
 
 namespace ovisto {
 
@@ -136,24 +140,23 @@ bool rewritesFiles(Command command)
     return changesNodes(command) || command == Command::Write;
 }
 
-/// `work`, but not for a file that would destroy another one of the list while it is written.
-FileWork sparingOthers(const FileWork& work, const std::vector<std::string>& files)
-{
-    return [work, overwriting = overwritingOthers(files)](const std::string& path) {
-        if (!overwriting.contains(path))
-            return work(path);
-        return resultOf(path, [](FileResult&, TerminalReporter&) {
-            throw Error{kPathAccessError, "Another file of the list has the name of its temporary file"};
-        });
-    };
-}
-
-/// Does `work` for each of the files.
+/// Does `work` for each of the files, but not for one that would destroy another one while it is written.
 int runEach(const CommandLine& line, const std::vector<std::string>& files, const FileWork& work)
 {
+    std::unordered_set<std::size_t> overwriting;
+    if (line.command == Command::Write) {
+        std::vector<std::string> realPaths;
+        std::ranges::transform(files, std::back_inserter(realPaths), realPath);
+        overwriting = overwritingOthers(realPaths);
+    }
     CommandOutput output;
     forEachFile(
-        files, line.jobs, [&](std::size_t index) { return work(files[index]); },
+        files, line.jobs,
+        [&](std::size_t index) {
+            if (!overwriting.contains(index))
+                return work(files[index]);
+            return resultOf(files[index], [](FileResult&, TerminalReporter&) { throw Error(overwritingError()); });
+        },
         [&](const FileResult& result) { output.write(result); }, output.progress());
     return output.finish();
 }
@@ -167,8 +170,7 @@ int runOnFiles(const CommandLine& line)
         return runChange(line, files, loadDictionary(line));
     if (line.command == Command::Report)
         return runReport(line, files);
-    const FileWork work = workFor(line);
-    return runEach(line, files, line.command == Command::Write ? sparingOthers(work, files) : work);
+    return runEach(line, files, workFor(line));
 }
 
 } // namespace

@@ -7,15 +7,19 @@
 #include "writer/JpegDocument.h"
 
 #include <algorithm>
+#include <iterator>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
+#include <string_view>
 #include <utility>
 
 namespace ovisto {
 
 namespace {
 
+constexpr std::size_t kGroupFiles = 512;
 constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< as much is on its way to the disk at most
 
 /// Keeps the first report about a file: those after it say what could not be done because of it.
@@ -51,8 +55,8 @@ class Group {
 public:
     explicit Group(ErrorReporter& reporter) : m_reporter(reporter) {}
 
-    bool isFull() const { return m_members.size() >= BatchAction::kGroupSize || m_bytes >= kGroupBytes; }
-    bool holds(const std::string& path) const { return m_realPaths.contains(realPath(path)); }
+    std::size_t size() const { return m_members.size(); }
+    std::int64_t bytes() const { return m_bytes; }
 
     /// Writes the new version of the file that `change` needs, if it needs one.
     void add(const std::string& path, const NodeChange& change)
@@ -66,13 +70,13 @@ public:
         if (!member->version)
             return;
         m_bytes += member->version->oldFile.size();
-        m_realPaths.insert(realPath(path));
         m_members.push_back(std::move(member));
     }
 
     /// Puts all of them in place that the disk has.
     void finish()
     {
+        syncTogether();
         for (const auto& member : m_members)
             step(*member, [&] { JpegDocument(member->report).finishTemporary(*member->version); });
         std::set<std::string> folders;
@@ -85,7 +89,6 @@ public:
         for (const std::string& folder : folders)
             syncFolder(folder);
         m_members.clear();
-        m_realPaths.clear();
         m_bytes = 0;
     }
 
@@ -99,6 +102,23 @@ private:
         bool failed = false;
     };
 
+    /// Brings all to disk at once. Where that fails, each has to find out by itself how it fares.
+    void syncTogether()
+    {
+        constexpr std::size_t kWorthIt = 8; // others may be writing to the disk, and would be waited for as well
+        if (m_members.size() < kWorthIt)
+            return;
+        std::map<std::uint64_t, bool> onDisk; // by file system
+        for (const auto& member : m_members) {
+            JpegDocument::NewVersion& version = *member->version;
+            // The first file of a file system is its oldest: it hears of what failed to any of the others.
+            const auto [place, isFirst] = onDisk.try_emplace(version.newFile.device(), false);
+            if (isFirst)
+                place->second = version.newFile.syncFileSystem();
+            version.onDisk = place->second;
+        }
+    }
+
     /// Runs a step for a file and reports what it raises.
     template <class Step> void step(Member& member, Step work)
     {
@@ -111,15 +131,31 @@ private:
 
     ErrorReporter& m_reporter;
     std::vector<std::unique_ptr<Member>> m_members;
-    std::unordered_set<std::string> m_realPaths;
     std::int64_t m_bytes = 0;
 };
 
+/// A file of a group keeps its old and its new version open. The rest of the process needs files too.
+std::size_t groupSizeFor(unsigned jobs)
+{
+    constexpr std::size_t kOpenFiles = 2;
+    const std::size_t allowed = openFilesAllowed(2 * kOpenFiles * kGroupFiles * jobs);
+    return std::clamp<std::size_t>(allowed / (2 * kOpenFiles * jobs), 1, kGroupFiles);
+}
+
 } // namespace
 
-BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange change)
-    : m_files(files), m_change(std::move(change)), m_overwriting(overwritingOthers(files))
+BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange change, unsigned jobs)
+    : m_files(files), m_change(std::move(change)), m_groupSize(groupSizeFor(jobs))
 {
+    std::vector<std::string> realPaths;
+    realPaths.reserve(files.size());
+    std::ranges::transform(files, std::back_inserter(realPaths), realPath);
+    m_overwriting = overwritingOthers(realPaths);
+    std::unordered_set<std::string_view> seen;
+    for (std::size_t i = 0; i < realPaths.size(); ++i) {
+        if (!seen.insert(realPaths[i]).second)
+            m_repeated.insert(i);
+    }
 }
 
 void BatchAction::run(std::size_t first, std::size_t last, Progress& progress, ErrorReporter& reporter) const
@@ -129,30 +165,32 @@ void BatchAction::run(std::size_t first, std::size_t last, Progress& progress, E
         const std::string& path = m_files[i];
         if (!progress.step(path, i, m_files.size()))
             break;
-        if (m_overwriting.contains(path)) {
-            ErrorReport(reporter, path,
-                        {kPathAccessError, "Another file of the list has the name of its temporary file"});
+        if (m_overwriting.contains(i)) {
+            ErrorReport(reporter, path, overwritingError());
             continue;
         }
         // The second time a file comes along, what the first time made of it has to be there.
-        if (group.isFull() || group.holds(path))
+        if (group.size() >= m_groupSize || group.bytes() >= kGroupBytes || m_repeated.contains(i))
             group.finish();
         group.add(path, m_change);
     }
     group.finish();
 }
 
-std::unordered_set<std::string> overwritingOthers(const std::vector<std::string>& files)
+std::unordered_set<std::size_t> overwritingOthers(const std::vector<std::string>& realPaths)
 {
-    std::unordered_set<std::string> all;
-    for (const std::string& file : files)
-        all.insert(realPath(file));
-    std::unordered_set<std::string> overwriting;
-    for (const std::string& file : files) {
-        if (all.contains(temporaryNameOf(realPath(file))))
-            overwriting.insert(file);
+    const std::unordered_set<std::string_view> all(realPaths.begin(), realPaths.end());
+    std::unordered_set<std::size_t> overwriting;
+    for (std::size_t i = 0; i < realPaths.size(); ++i) {
+        if (all.contains(temporaryNameOf(realPaths[i])))
+            overwriting.insert(i);
     }
     return overwriting;
+}
+
+Error overwritingError()
+{
+    return {kPathAccessError, "Another file of the list has the name of its temporary file"};
 }
 
 } // namespace ovisto

@@ -16,10 +16,12 @@ namespace ovisto {
 /// file is safe at every moment as if it were written alone; it is the disk that has less to wait for.
 class BatchAction {
 public:
-    static constexpr std::size_t kGroupSize = 64; ///< files that are written before the first one is put in place
+    /// `files` must outlive the object. A path may occur in it more than once. `jobs`: how many stretches of them are
+    /// to run at the same time.
+    BatchAction(const std::vector<std::string>& files, NodeChange change, unsigned jobs = 1);
 
-    /// `files` must outlive the object. A path may occur in it more than once.
-    BatchAction(const std::vector<std::string>& files, NodeChange change);
+    /// How many files are written before the first one is put in place.
+    std::size_t groupSize() const { return m_groupSize; }
 
     /// Changes all files. `progress` is told before each; when it stops, the files before are still put in place.
     /// `reporter` is told of each file that failed once, in the context of its path, which is as it was then. A file
@@ -35,10 +37,14 @@ public:
 private:
     const std::vector<std::string>& m_files;
     NodeChange m_change;
-    std::unordered_set<std::string> m_overwriting;
+    std::size_t m_groupSize;
+    std::unordered_set<std::size_t> m_overwriting; ///< those with the temporary name of another one
+    std::unordered_set<std::size_t> m_repeated;    ///< those that were there before, by this or another name
 };
 
-/// Those of `files` whose temporary name while they are written is the name of another of them.
-std::unordered_set<std::string> overwritingOthers(const std::vector<std::string>& files);
+/// The indexes of those of `realPaths` whose temporary name while they are written is another of them.
+std::unordered_set<std::size_t> overwritingOthers(const std::vector<std::string>& realPaths);
+/// What is said of such a file.
+Error overwritingError();
 
 } // namespace ovisto

@@ -25,9 +25,10 @@ public:
     /// have their meaning in words too.
     explicit ContentFilter(const ContentSearch& search);
 
-    /// Whether the document of the JPEG file at `path` contains it, markup included. A file that the reader cannot
-    /// translate does not; where anything will do, no file is read. Raises what RegularExpression::matches() raises,
-    /// with the file's name.
+    /// Whether the text of the document of the JPEG file at `path` contains it as it stands: markup counts, and most
+    /// characters beyond ASCII are there as references ("&#233;"), which are what to search for. A file that the reader
+    /// cannot translate does not; where anything will do, no file is read. Raises what RegularExpression::matches()
+    /// raises, with the file's name.
     bool keeps(const std::string& path) const;
 
 private:

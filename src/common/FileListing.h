@@ -3,16 +3,13 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace ovisto {
 
 /// What tells a folder from all others, by whatever name it was reached.
-struct FolderIdentity {
-    std::uint64_t device = 0;
-    std::uint64_t number = 0;
-    auto operator<=>(const FolderIdentity&) const = default;
-};
+using FolderIdentity = std::pair<std::uint64_t, std::uint64_t>;
 
 /// What is in one folder: names without the folder's path, sorted as people sort names. Hidden things, and those that
 /// are neither file nor folder, are left out. What a symbolic link leads to decides what it is.

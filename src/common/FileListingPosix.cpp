@@ -6,13 +6,12 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cwctype>
 #include <memory>
-#include <tuple>
 
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <wctype.h>
 
 namespace ovisto {
 

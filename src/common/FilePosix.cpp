@@ -2,6 +2,7 @@
 
 #include "common/PathText.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
@@ -12,6 +13,7 @@
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -103,6 +105,8 @@ bool names(const std::string& path, int descriptor)
 void deleteLeftover(const std::string& path)
 {
     const FileHandle leftover(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    if (leftover.get() < 0 && errno == ENOENT)
+        return;
     if (leftover.get() < 0 || (lock(leftover.get()) && names(path, leftover.get())))
         unlink(path.c_str());
 }
@@ -206,7 +210,13 @@ OutputFile::OutputFile(const std::string& path, NewFileAccess newFileAccess)
 
 void OutputFile::write(std::span<const std::uint8_t> bytes)
 {
-    m_buffer.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (text.size() >= kBufferSize) {
+        flush();
+        writeAll(text);
+        return;
+    }
+    m_buffer.append(text);
     if (m_buffer.size() >= kBufferSize)
         flush();
 }
@@ -215,7 +225,11 @@ void OutputFile::flush()
 {
     // What could not be written is not tried again: the file is spoilt, and the error says so once.
     const std::string buffer = std::exchange(m_buffer, {});
-    std::string_view rest = buffer;
+    writeAll(buffer);
+}
+
+void OutputFile::writeAll(std::string_view rest)
+{
     while (!rest.empty()) {
         const auto count = checked(uninterrupted([&] { return ::write(m_handle.get(), rest.data(), rest.size()); }));
         // A full disk may first show as a short count, then as an error, or as nothing written at all.
@@ -238,6 +252,22 @@ void OutputFile::sync()
 {
     flush();
     checked(uninterrupted([&] { return fsync(m_handle.get()); }));
+}
+
+std::uint64_t OutputFile::device() const
+{
+    return statusOf(m_handle.get()).st_dev;
+}
+
+bool OutputFile::syncFileSystem()
+{
+    flush();
+#ifdef __linux__
+    // It tells of all that failed since the file was opened.
+    return syncfs(m_handle.get()) == 0;
+#else
+    return false;
+#endif
 }
 
 void OutputFile::takeAttributesFrom(const InputFile& old)
@@ -320,6 +350,18 @@ std::string readTextFile(const std::string& path)
     std::string content(static_cast<std::size_t>(file.size()), '\0');
     content.resize(file.readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
     return content;
+}
+
+std::size_t openFilesAllowed(std::size_t wanted)
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
+        return wanted;
+    rlimit raised = limit;
+    raised.rlim_cur = std::min<rlim_t>(wanted, limit.rlim_max);
+    if (raised.rlim_cur > limit.rlim_cur && setrlimit(RLIMIT_NOFILE, &raised) == 0)
+        return raised.rlim_cur;
+    return limit.rlim_cur;
 }
 
 bool fileExists(const std::string& path)

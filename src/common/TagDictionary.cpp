@@ -8,6 +8,14 @@ namespace ovisto {
 TagDictionary::TagDictionary(const std::string& path)
 {
     XMLLoad(m_document, path);
+    for (const XmlNode& entry : m_document.selectNodes("//*"))
+        m_entries.emplace(NodeXPath(entry), entry);
+}
+
+XmlNode TagDictionary::entry(const std::string& nodePath) const
+{
+    const auto found = m_entries.find(nodePath);
+    return found != m_entries.end() ? found->second : m_document.selectSingleNode(nodePath);
 }
 
 Visibility visibility(const XmlNode& entry)

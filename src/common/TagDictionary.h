@@ -3,6 +3,7 @@
 #include "common/XmlDocument.h"
 
 #include <string>
+#include <unordered_map>
 
 namespace ovisto {
 
@@ -19,13 +20,15 @@ public:
     /// Loads the dictionary file. Raises what XMLLoad() raises.
     explicit TagDictionary(const std::string& path);
 
-    /// The entry for a node path, or no node. Raises kInvalidCall for what is no path.
-    XmlNode entry(const std::string& nodePath) const { return m_document.selectSingleNode(nodePath); }
+    /// The entry for a node path, as NodeXPath() writes it or any other that selects it; or no node. Raises kInvalidCall
+    /// for what is no path.
+    XmlNode entry(const std::string& nodePath) const;
 
     const XmlDocument& document() const { return m_document; }
 
 private:
     XmlDocument m_document;
+    std::unordered_map<std::string, XmlNode> m_entries; // by the path that NodeXPath() writes
 };
 
 // No entry is shown, and free.

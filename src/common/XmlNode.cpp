@@ -38,6 +38,17 @@ xmlNode* attach(xmlNode* node)
 
 void ignoreError(void* /*context*/, xmlError* /*error*/) {}
 
+/// One for all expressions of a thread: making it, with all the functions there are, would take longer than most
+/// expressions do.
+xmlXPathContext& threadContext()
+{
+    thread_local const XmlPtr<xmlXPathContext> context(xmlXPathNewContext(nullptr));
+    if (!context)
+        throw systemError(kOutOfMemory);
+    context->error = ignoreError;
+    return *context;
+}
+
 } // namespace
 
 std::string XmlNode::name() const
@@ -139,10 +150,10 @@ std::vector<XmlNode> XmlNode::selectNodes(const std::string& xpath) const
 {
     if (m_node == nullptr)
         return {};
-    const XmlPtr<xmlXPathContext> context(xmlXPathNewContext(m_node->doc));
-    context->node = m_node;
-    context->error = ignoreError;
-    const XmlPtr<xmlXPathObject> found(xmlXPathEval(xmlText(xpath.c_str()), context.get()));
+    xmlXPathContext& context = threadContext();
+    context.doc = m_node->doc;
+    context.node = m_node;
+    const XmlPtr<xmlXPathObject> found(xmlXPathEval(xmlText(xpath.c_str()), &context));
     if (!found || found->type != XPATH_NODESET)
         throw Error{kInvalidCall, "Not a valid path: " + xpath};
     std::vector<XmlNode> nodes;

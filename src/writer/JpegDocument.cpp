@@ -5,6 +5,7 @@
 #include "common/NumberText.h"
 #include "common/PathText.h"
 #include "writer/ExifSegment.h"
+#include "writer/ImagePlace.h"
 #include "writer/SegmentWriter.h"
 
 #include <algorithm>
@@ -74,7 +75,8 @@ constexpr ElementWriter kElementWriters[] = {
 
 /// Copies the image data: from the byte `offset` on (the first is 1), `length` + 1 bytes, which is up to the
 /// end-of-image marker. What would lie past the end of the file is not made up. Both numbers are as the document says
-/// them, with 7 digits, so that in a file of 10,000,000 bytes or more they may be off by some bytes.
+/// them, with 7 digits, so that in a file of 10,000,000 bytes or more they may be off by some bytes; but they must be
+/// what a reader says of the file as it is now.
 void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& to)
 {
     constexpr std::int64_t kChunk = std::int64_t{1} << 20;
@@ -84,6 +86,10 @@ void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& t
     if (images.size() > 1)
         throw Error{kInvalidCall, "The document has more than one IMG element"};
     const XmlNode& image = images.front();
+    const auto place = imagePlace(from);
+    if (!place || AttributeGet(image, "offset") != numberText(place->offset) ||
+        AttributeGet(image, "length") != numberText(place->length))
+        throw Error{kInvalidCall, "The file was changed after it was read"};
     std::int64_t offset = std::int64_t{attributeToLong(AttributeGet(image, "offset"))} - 1;
     std::int64_t left = std::int64_t{attributeToLong(AttributeGet(image, "length"))} + 1;
     if (offset < 0)
@@ -128,12 +134,14 @@ JpegDocument::NewVersion JpegDocument::writeTemporary(XmlDocument& document, con
         newFile->takeAttributesFrom(*oldFile);
         newFile->startSync();
     });
-    return {target, temporaryName, std::move(*oldFile), std::move(*newFile)};
+    return {target, temporaryName, std::move(*oldFile), std::move(*newFile), false};
 }
 
 void JpegDocument::finishTemporary(NewVersion& version)
 {
-    reported(m_reporter, version.temporaryName + " write failed", [&] { version.newFile.sync(); });
+    if (!version.onDisk)
+        reported(m_reporter, version.temporaryName + " write failed", [&] { version.newFile.sync(); });
+    version.onDisk = true;
     // Here both files are whole: the place for checks that may refuse to go on.
 }
 
@@ -146,8 +154,8 @@ void JpegDocument::writeSegments(XmlDocument& document, OutputFile& file)
         if (row == std::end(kElementWriters))
             continue;
         row->write(writer, element);
-        file.flush();
     }
+    file.flush();
 }
 
 void JpegDocument::replaceOld(const NewVersion& version)

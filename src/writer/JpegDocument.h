@@ -16,11 +16,11 @@ public:
     explicit JpegDocument(ErrorReporter& reporter) : m_reporter(reporter) {}
 
     /// Writes the file anew from `document`, whose IMG element must describe the image data of the file as it is on
-    /// disk. The segments come from the document, the image data is copied. The new file is complete, under the name of
-    /// the file with "~" in front, before it takes the place of the old one; a file that has this name is deleted. A
-    /// segment that would not have the length that it says is a failure, as nothing behind it could be read. On
-    /// failure, which is reported and raised, the old file is as it was, and the "~" file may stay behind. The Exif
-    /// elements of `document` are laid out in the course of it.
+    /// disk: a file that was changed after the document was read is refused. The segments come from the document, the
+    /// image data is copied. The new file is complete, under the name of the file with "~" in front, before it takes
+    /// the place of the old one; a file that has this name is deleted. A segment that would not have the length that it
+    /// says is a failure, as nothing behind it could be read. On failure, which is reported and raised, the old file is
+    /// as it was, and the "~" file may stay behind. The Exif elements of `document` are laid out in the course of it.
     void WriteJpeg(XmlDocument& document, const std::string& fileName);
 
     /// A file's new version, complete under its temporary name beside the old one. No other save can take that name as
@@ -30,6 +30,7 @@ public:
         std::string temporaryName;
         InputFile oldFile;
         OutputFile newFile;
+        bool onDisk = false; ///< whether it is known that the disk has it
     };
 
     // WriteJpeg in three steps, for who has many files to write: a disk takes them faster in one go. They fail as it
@@ -37,7 +38,7 @@ public:
 
     /// Writes the new version, and has the disk begin with it.
     NewVersion writeTemporary(XmlDocument& document, const std::string& fileName);
-    /// Waits until the disk has it.
+    /// Waits until the disk has it, where that is not known.
     void finishTemporary(NewVersion& version);
     /// Puts it, finished, in the place of the old one.
     void replaceOld(const NewVersion& version);

@@ -207,6 +207,52 @@ TEST(CommandLine, KeepsOutputInInputOrderWithManyJobs)
     EXPECT_EQ(run.output, expected);
 }
 
+TEST(CommandLine, FindsFilesInScanOrder)
+{
+    const TemporaryFolder folder;
+    std::filesystem::create_directories(folder.path("sub"));
+    const std::string second = folder.file("sub/line\nbreak.JPG", fullPhotograph(false));
+    const std::string first = folder.file("b.jpg", fullPhotograph(true));
+    folder.file("a.jpg", JpegBytes().app0().end());
+    const std::string root = folder.path("");
+    EXPECT_EQ(ovisto({"find", root, "--words", "acme,nothing", "-0"}).output, first + '\0' + second + '\0');
+    EXPECT_EQ(ovisto({"find", root, "--words", "acme,nothing", "--all-words"}).output, "");
+    EXPECT_EQ(
+        ovisto({"find", root, "--pattern", "?.jpg", "--no-subfolders", "--words", "^<IFD.*>ACME<", "--regexp"}).output,
+        first + "\n");
+    EXPECT_EQ(ovisto({"find", root, "--words", "acm", "--whole-words"}).status, 0) << "to find nothing is no failure";
+    EXPECT_EQ(ovisto({"find", root, "--words", "(", "--regexp"}).status, 2);
+    EXPECT_EQ(ovisto({"find"}).status, 2);
+    expectOneLine(ovisto({"find", folder.path("none")}), "none", "Folder not found");
+    const CommandRun found = ovisto({"find", root, "-0", "--jobs", "1"});
+    EXPECT_EQ(ovisto({"set", kTitle, "Found", "--files-from", "-", "-0"}, found.output).errors, "");
+    EXPECT_EQ(titleOf(second), "Found");
+}
+
+TEST(CommandLine, ReportsOnManyFilesAtOnce)
+{
+    const TemporaryFolder folder;
+    const std::string good = folder.file("a.jpg", fullPhotograph(true));
+    const std::string style = folder.file("style.xsl", "<t xsl:version='1.0' xmlns:xsl='http://www.w3.org/1999/XSL/"
+                                                       "Transform'><xsl:value-of select='//IFD[@id=\"9C9B\"]'/></t>");
+    EXPECT_EQ(ovisto({"report", "--style", style, good}).output,
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<t>Héllo</t>\n");
+    const std::string output = folder.path("out.xml");
+    const std::string broken = folder.file("broken.jpg", "no photograph");
+    expectOneLine(ovisto({"report", "--style", style, "--output", output, broken, good}), broken, "Not a JPEG file");
+    XmlDocument written;
+    EXPECT_FALSE(written.loadFile(output, Validation::Off, WhiteSpace::Preserve));
+    EXPECT_EQ(written.documentElement().text(), "Héllo");
+
+    const Bytes before = contentOf(output);
+    const std::string failing = folder.file("failing.xsl", "<xsl:stylesheet/>");
+    expectOneLine(ovisto({"report", "--style", failing, "--output", output, good}), failing, "");
+    expectOneLine(ovisto({"report", "--style", folder.path("none.xsl"), good}), "none.xsl", "File not found");
+    EXPECT_EQ(contentOf(output), before);
+    expectOneLine(ovisto({"report", "--style", style, "--output", folder.path("none/out"), good}), "none/out", "");
+    EXPECT_EQ(ovisto({"report", good}).status, 2);
+}
+
 TEST(CommandLine, TellsUsageFromFailure)
 {
     const TemporaryFolder folder;

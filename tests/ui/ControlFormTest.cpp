@@ -145,7 +145,7 @@ private Q_SLOTS:
         QVERIFY(window.dialogs.messages.isEmpty());
     }
 
-    void savesTheBoxBeingEditedByKeyAndMenu()
+    void savesTheBoxBeingEditedByKeyMenuAndLetter()
     {
         Window window;
         const std::string path = window.copy("night.jpg");
@@ -158,9 +158,48 @@ private Q_SLOTS:
         window.type("NodeText", QStringLiteral("By menu"));
         window.trigger("menuFileSave");
         QCOMPARE(inFile(path, kDescription).value(), std::string("By menu"));
+        window.type("NodeText", QStringLiteral("By letter"));
+        window.form().activateWindow();
+        QTest::keyClick(&window.control<QWidget>("NodeText"), Qt::Key_S, Qt::AltModifier);
+        QTRY_COMPARE(inFile(path, kDescription).value(), std::string("By letter"));
         // The metadata have changed their length: had the file not been opened again, the image would be cut now.
         QVERIFY(imageData(path) == image);
         QVERIFY(window.dialogs.messages.isEmpty());
+    }
+
+    void staysWithTheFileShownWhenItsRowIsTakenBack()
+    {
+        Window window;
+        const std::string path = window.copy("night.jpg");
+        const std::string image = imageData(path);
+        window.open({path});
+        for (const QString& text : {QString(400, QLatin1Char('x')), QStringLiteral("short")}) {
+            window.control<QListView>("FilesFoundList").clearSelection();
+            window.select(kDescription);
+            window.type("NodeText", text);
+            window.click("FilePickerPrev");
+            QCOMPARE(inFile(path, kDescription).value(), text.toStdString());
+            QVERIFY(imageData(path) == image);
+        }
+        QVERIFY(window.dialogs.messages.isEmpty());
+    }
+
+    void keepsWhatCouldNotBeSaved()
+    {
+        Window window;
+        const std::string path = window.copy("night.jpg");
+        window.open({path});
+        window.select(kDescription);
+        window.type("NodeText", QStringLiteral("Mine"));
+        const std::filesystem::path file = path;
+        std::filesystem::remove(file);
+        std::filesystem::create_directory(file);
+        window.dialogs.answers = {true};
+        QVERIFY(!window.form().close());
+        QVERIFY(window.isChanged());
+        QCOMPARE(window.text("NodeText"), QStringLiteral("Mine"));
+        window.dialogs.answers = {false};
+        QVERIFY(window.form().close());
     }
 
     void changesSeveralLinesByLeavingThem()
@@ -567,10 +606,10 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         } while (QApplication::focusWidget()->objectName() != QStringLiteral("FileFinder") && order.size() < 99);
         QCOMPARE(order.join(QLatin1Char(' ')),
-                 QStringLiteral(
-                     "FileFinder FilesFoundList FilePickerPrev FilePickerNext BatchShower KeywordList KeywordLoader "
-                     "FileTitle FileComments FileSubject FileKeywords FilePropPaster FileSaver FileReset "
-                     "NodeTree ViewHexOpt NodeText NodeHelp NodeAdder NodeDeleter"));
+                 QStringLiteral("FileFinder FilesFoundList FilePickerPrev FilePickerNext SlideShower BatchShower "
+                                "KeywordList KeywordLoader "
+                                "FileTitle FileComments FileSubject FileKeywords FilePropPaster FileSaver FileReset "
+                                "NodeTree ViewHexOpt NodeText NodeHelp NodeAdder NodeDeleter"));
         QVERIFY(!window.isChanged());
     }
 

@@ -17,7 +17,7 @@ namespace {
 std::string exifDocument(const std::string& content)
 {
     return "<JPEG d=\"1\"><Exif id=\"FFE1\" byteSeq=\"MM\" d=\"7\">" + content +
-           "</Exif><SOS d=\"1\">0102</SOS><IMG offset=\"5\" length=\"2\" d=\"1\"></IMG></JPEG>";
+           "</Exif><SOS d=\"1\">0102</SOS><IMG offset=\"9\" length=\"2\" d=\"1\"></IMG></JPEG>";
 }
 
 std::string ifd(const std::string& id, int d, const std::string& text)
@@ -25,7 +25,7 @@ std::string ifd(const std::string& id, int d, const std::string& text)
     return "<IFD id=\"" + id + "\" d=\"" + std::to_string(d) + "\">" + text + "</IFD>";
 }
 
-const Bytes kOldFile = {0xFF, 0xD8, 'o', 'l', 1, 2, 3, 0xFF, 0xD9};
+const Bytes kOldFile = {0xFF, 0xD8, 0xFF, 0xDA, 0, 4, 'o', 'l', 1, 2, 3, 0xFF, 0xD9};
 
 struct Written {
     int error = 0;
@@ -70,7 +70,7 @@ TEST(WriteJpeg, WritesSegmentsInOrderAndCopiesTheImage)
 {
     const Written written =
         writing("<JPEG>\r\n<APP0>4A46</APP0>\r\n<APP1 id='FFDB'>00ABCD5</APP1><Exif1 id='FFE1' ns='n'>\r\n<![CDATA[t]]>"
-                "</Exif1><SOS>0102</SOS><IMG offset='5' length='2'/></JPEG>");
+                "</Exif1><SOS>0102</SOS><IMG offset='9' length='2'/></JPEG>");
     EXPECT_EQ(written.error, 0);
     EXPECT_EQ(written.file,
               (Bytes{0xFF, 0xD8, 0xFF, 0xE0, 0,   4, 0x4A, 0x46, 0xFF, 0xDB, 0, 6, 0x00, 0xAB, 0xCD, 0x55, 0xFF, 0xE1,
@@ -84,10 +84,10 @@ TEST(WriteJpeg, WritesOtherApp1SegmentsWithTheLengthThatTheySay)
         for (const std::string& text : {std::string(), std::string("\x80"), std::string(1000, 't')}) {
             const bool euro = text == "\x80";
             const Written written = writing("<JPEG><Exif1 ns='" + ns + "'>" + (euro ? "<![CDATA[€]]>" : text) +
-                                            "</Exif1><IMG offset='5' length='0'/></JPEG>");
+                                            "</Exif1><IMG offset='9' length='2'/></JPEG>");
             const std::size_t length = 256 * written.file[4] + written.file[5];
             EXPECT_EQ(length, ns.size() + text.size() + 4);
-            EXPECT_EQ(written.file.size(), 2 + 2 + length + 1 + 2) << "nothing more, or the next marker is lost";
+            EXPECT_EQ(written.file.size(), 2 + 2 + length + 3 + 2) << "nothing more, or the next marker is lost";
         }
     }
 }
@@ -206,12 +206,12 @@ TEST(WriteJpeg, LeavesTheOldFileAloneWhenAValueCannotBeWritten)
         {exifDocument(ifd("0001", 1, "010203045")), kInvalidCall, exifFailed},
         {exifDocument(ifd("0112", 3, "1") + ifd("0001", 12, "")), kInvalidCall, exifFailed},
         {"<JPEG><APP1 id='FFFE'>Hello</APP1></JPEG>", kInvalidCall, {"~a.jpg write failed"}},
-        {"<JPEG><IMG offset='5' length='2'/><IMG offset='1' length='1'/></JPEG>",
+        {"<JPEG><IMG offset='9' length='2'/><IMG offset='1' length='1'/></JPEG>",
          kInvalidCall,
          {"~a.jpg transfer of image from existing file failed"}},
         {"<JPEG><SOS>00</SOS></JPEG>", kObjectNotSet, {"~a.jpg transfer of image from existing file failed"}},
-        {"<JPEG><IMG offset='5' length='-3'/></JPEG>",
-         kTypeMismatch,
+        {"<JPEG><IMG offset='9' length='-3'/></JPEG>",
+         kInvalidCall,
          {"~a.jpg transfer of image from existing file failed"}},
     };
     for (const auto& c : cases) {
@@ -261,7 +261,7 @@ TEST(WriteJpeg, EitherRefusesAValueOrWritesAFileThatCanBeRead)
 
 TEST(WriteJpeg, SaysWhichStepOfReplacingFailed)
 {
-    XmlDocument document = documentOf("<JPEG><IMG offset='5' length='2'/></JPEG>");
+    XmlDocument document = documentOf("<JPEG><IMG offset='9' length='2'/></JPEG>");
     const TemporaryFolder folder;
     const std::string path = folder.path("a.jpg");
     const auto contexts = [&] {
@@ -294,6 +294,20 @@ TEST(WriteJpeg, OverwritesAStaleTemporaryFileAndFollowsALink)
     EXPECT_EQ(folder.names(), (std::vector<std::string>{"a.jpg", "link.jpg"}));
     EXPECT_TRUE(std::filesystem::is_symlink(folder.path("link.jpg")));
     EXPECT_EQ(imageData(contentOf(path)), imageData(fullPhotograph(false)));
+}
+
+TEST(WriteJpeg, RefusesAFileThatWasChangedAfterItWasRead)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", fullPhotograph(true));
+    XmlDocument document = loadDocument(path);
+    for (const Bytes& changed :
+         {JpegBytes().app0().end(), fullPhotograph(true) + Bytes{0}, bytes("no picture any more")}) {
+        folder.file("a.jpg", changed);
+        RecordingReporter reporter;
+        EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); }), kInvalidCall);
+        EXPECT_EQ(contentOf(path), changed);
+    }
 }
 
 TEST(WriteJpeg, ReadsBackWhatItWrote)

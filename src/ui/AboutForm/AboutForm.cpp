@@ -61,6 +61,7 @@ void AboutForm::showSystemInfo()
     }
     ui.SystemInfo->setPlainText(lines.join(QLatin1Char('\n')));
     ui.SystemInfo->show();
+    adjustSize();
     ui.SystemInfo->setFocus();
 }
 

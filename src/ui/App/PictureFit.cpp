@@ -35,7 +35,12 @@ QImage fittedPicture(const std::string& fileName, QSize maximum)
     const std::string content = readTextFile(fileName);
     QByteArray bytes = QByteArray::fromRawData(content.data(), static_cast<qsizetype>(content.size()));
     QBuffer buffer(&bytes);
-    QImageReader reader(&buffer);
+    return fittedPicture(buffer, maximum);
+}
+
+QImage fittedPicture(QIODevice& file, QSize maximum)
+{
+    QImageReader reader(&file);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
     if (size.isEmpty())

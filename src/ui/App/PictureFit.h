@@ -7,6 +7,8 @@
 
 #include <string>
 
+class QIODevice;
+
 namespace ovisto {
 
 inline constexpr int kInvalidPicture = 481; ///< what should be a picture cannot be shown as one
@@ -18,6 +20,7 @@ QImage PictureFit(const std::string& fileName, QSize maximum, ErrorReporter& rep
 
 /// The same, raising kInvalidPicture, or what the system says, instead of telling it.
 QImage fittedPicture(const std::string& fileName, QSize maximum);
+QImage fittedPicture(QIODevice& file, QSize maximum);
 
 /// `picture` turned and mirrored as an Exif orientation (1 to 8) says; as it is for any other number.
 QImage turned(const QImage& picture, int orientation);

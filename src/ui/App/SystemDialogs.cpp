@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace ovisto {
 
@@ -20,25 +21,40 @@ QWidget* owner()
     return nullptr;
 }
 
-QMessageBox::StandardButton run(QMessageBox::Icon icon, const QString& text, QMessageBox::StandardButtons buttons)
+/// Gives `box` its text. One that would not fit on the screen (it may quote a whole file) begins there, and can be read
+/// to its end below.
+void setText(QMessageBox& box, const QString& text)
 {
+    constexpr int kMostCharacters = 1000;
     QString lines = text;
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    QMessageBox box(icon, QApplication::applicationDisplayName(), lines, buttons, owner());
+    box.setWindowTitle(QApplication::applicationDisplayName());
     box.setTextFormat(Qt::PlainText); // a text may quote what a file holds
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+    box.setText(lines.size() > kMostCharacters ? lines.left(kMostCharacters) + QStringLiteral("...") : lines);
+    if (lines.size() > kMostCharacters)
+        box.setDetailedText(lines);
 }
 
 } // namespace
 
 void SystemDialogs::show(const QString& message)
 {
-    run(QMessageBox::Warning, message, QMessageBox::Ok);
+    QMessageBox box(owner());
+    box.setIcon(QMessageBox::Warning);
+    setText(box, message);
+    box.exec();
 }
 
 bool SystemDialogs::ask(const QString& question)
 {
-    return run(QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    QMessageBox box(owner());
+    box.setIcon(QMessageBox::Question);
+    setText(box, question);
+    // Of the same role, so that neither is taken for the answer of the Escape key: the question has to be answered.
+    const QPushButton* yes = box.addButton(QApplication::translate("QPlatformTheme", "&Yes"), QMessageBox::AcceptRole);
+    box.addButton(QApplication::translate("QPlatformTheme", "&No"), QMessageBox::AcceptRole);
+    box.exec();
+    return box.clickedButton() == yes;
 }
 
 std::optional<QString> SystemDialogs::chooseFile(const QString& title, const QString& folder, const QString& filter)

@@ -4,7 +4,9 @@
 #include "ui/AboutForm/AboutForm.h"
 #include "ui/App/Placement.h"
 #include "ui/App/Text.h"
+#include "ui/SlideShowOptionForm/SlideShowOptionForm.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -80,8 +82,6 @@ ControlForm::ControlForm(TagDictionary dictionary, const Surroundings& surroundi
     ui.FilesFoundList->setModel(&m_found);
     for (QLabel* caption : {ui.FileCommentsL, ui.FileKeywordsL})
         caption->setContentsMargins(0, kFirstLine, 0, 0);
-    // Of another part of the program that is to come.
-    ui.SlideShower->setEnabled(false);
     connectControls();
     connectMenus();
     clearShownFile();
@@ -94,8 +94,12 @@ void ControlForm::connectControls()
     connect(&m_selection, &QTimer::timeout, this, &ControlForm::OpenSelectedFile);
     // A list that is still busy with the mouse must not change, so the file is opened a moment later.
     connect(ui.FilesFoundList->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (!ControlsUpdating && selectedFile() >= 0)
+        if (ControlsUpdating)
+            return;
+        if (selectedFile() >= 0)
             m_selection.start();
+        else if (!CurrentFileName.empty())
+            QTimer::singleShot(0, this, &ControlForm::selectShownFile);
     });
     connect(ui.FilesFoundList, &QListView::clicked, this, [this] {
         if (CurrentFileName.empty())
@@ -103,11 +107,16 @@ void ControlForm::connectControls()
     });
     const auto pickPrevious = [this] { pickFile(*ui.FilePickerPrev, &FoundFiles::previous); };
     const auto pickNext = [this] { pickFile(*ui.FilePickerNext, &FoundFiles::next); };
+    // A button pressed by its underlined letter does not take the focus by itself, but the box being edited must be
+    // left before anything happens.
+    for (QAbstractButton* button : findChildren<QAbstractButton*>())
+        connect(button, &QAbstractButton::pressed, button, [button] { button->setFocus(); });
     connect(ui.FileFinder, &QPushButton::clicked, this, &ControlForm::findFiles);
     connect(ui.FilePickerPrev, &QToolButton::clicked, this, pickPrevious);
     connect(ui.FilePickerNext, &QToolButton::clicked, this, pickNext);
     connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, pickPrevious);
     connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, pickNext);
+    connect(ui.SlideShower, &QPushButton::clicked, this, &ControlForm::showSlideShowOptions);
     connect(ui.BatchShower, &QPushButton::clicked, this, &ControlForm::showBatch);
     connect(ui.KeywordLoader, &QPushButton::clicked, this, &ControlForm::chooseKeywords);
     connect(ui.KeywordList, &QListWidget::itemClicked, this, &ControlForm::insertKeyword);
@@ -161,11 +170,12 @@ void ControlForm::loadSettings()
 {
     const Settings& settings = m_surroundings.settings;
     const QString folder = pathText(m_surroundings.folders.data);
+    const QString folderWithoutSeparator = folder.chopped(1);
     PlacementLoad(*this, settings, objectName(), QStringLiteral("0,0,11655,8505"));
     for (const SplitterSetting& setting : kSplitterSettings)
         splitterLoad(*(ui.*setting.splitter), settings, QLatin1String(setting.whenMissing));
     loadKeywords(toPath(settings.GetSetting(QStringLiteral("Keywords"), folder + QStringLiteral("keywords.txt"))));
-    m_scan = loadScanSettings(settings, folder);
+    m_scan = loadScanSettings(settings, folderWithoutSeparator);
     for (const OptionSetting& option : kOptionSettings)
         (ui.*option.item)->setChecked(settings.choice(QLatin1String(option.key), option.whenMissing));
 }
@@ -192,8 +202,15 @@ bool ControlForm::start(const std::vector<std::string>& paths)
 
 void ControlForm::closeEvent(QCloseEvent* event)
 {
+    if (auto* show = findChild<SlideForm*>())
+        show->close();
     moveFocusTo(*ui.FileFinder);
-    OfferSave(true);
+    if (OfferSave(true) == SaveResult::Failed) {
+        // What could not be saved is not thrown away by closing. Whoever wants that answers No.
+        MarkChanged();
+        event->ignore();
+        return;
+    }
     saveSettings();
     event->accept();
 }
@@ -201,8 +218,10 @@ void ControlForm::closeEvent(QCloseEvent* event)
 void ControlForm::dragEnterEvent(QDragEnterEvent* event)
 {
     const bool isBusy = QApplication::activeModalWidget() != nullptr;
-    if (event->mimeData()->hasUrls() && !isBusy)
-        event->acceptProposedAction();
+    if (!event->mimeData()->hasUrls() || isBusy)
+        return;
+    event->setDropAction(Qt::CopyAction); // whoever lets them be moved would delete them
+    event->accept();
 }
 
 void ControlForm::dropEvent(QDropEvent* event)
@@ -214,7 +233,8 @@ void ControlForm::dropEvent(QDropEvent* event)
     }
     if (paths.empty())
         return;
-    event->acceptProposedAction();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
     // Later, as a question now would keep the program waiting that the files came from.
     QTimer::singleShot(0, this, [this, paths] {
         moveFocusTo(*ui.FileFinder);
@@ -274,13 +294,36 @@ void ControlForm::selectFile(int row)
     OpenSelectedFile();
 }
 
+/// Selects the file shown again, where the selection was taken back: there is always one while a file is shown.
+void ControlForm::selectShownFile()
+{
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    const QModelIndex shown = ui.FilesFoundList->currentIndex();
+    if (selectedFile() < 0 && shown.isValid())
+        ui.FilesFoundList->selectionModel()->select(shown, QItemSelectionModel::ClearAndSelect);
+}
+
 void ControlForm::pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const)
 {
     moveFocusTo(button);
-    if (OfferSave(false) == SaveResult::Failed)
+    selectShownFile();
+    const SaveResult saved = OfferSave(false);
+    if (saved == SaveResult::Failed)
         return;
     if (const auto row = (m_found.*neighbour)(selectedFile()))
         selectFile(*row);
+    else if (saved == SaveResult::Saved)
+        OpenSelectedFile();
+}
+
+void ControlForm::showSlideShowOptions()
+{
+    auto* form = findChild<SlideShowOptionForm*>();
+    if (form == nullptr)
+        form = new SlideShowOptionForm(
+            {m_found, *ui.FilesFoundList->selectionModel(), m_surroundings.dialogs, m_surroundings.settings}, this);
+    form->show();
+    form->activateWindow();
 }
 
 void ControlForm::runVerb(Verb verb)

@@ -80,18 +80,21 @@ private:
     void listFiles(std::vector<std::string> found);
     int selectedFile() const;
     void selectFile(int row);
+    void selectShownFile();
     void pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const);
 
     // What is done with all of its files
+    void showSlideShowOptions();
     template <class Loop> void runWatched(Loop loop);
     void showBatch();
     void runBatch(const NodeChange& change);
     void generateReport();
 
     // The file shown
-    void leaveShownFile();
+    bool leaveShownFile();
     void OpenSelectedFile();
     bool findSelectedFile();
+    void keepShownFile();
     void readDocument();
     void showPicture();
     void clearShownFile();
@@ -128,6 +131,7 @@ private:
     void deleteNode();
 
     // The properties of the operating system
+    void leaveFocusedBox() { leaveBox(focusWidget()); }
     void leaveOsBox(const OsBox& osBox);
     void ditto();
     void loadKeywords(const std::string& path);

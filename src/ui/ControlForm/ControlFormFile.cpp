@@ -15,9 +15,7 @@ namespace ovisto {
 void ControlForm::OpenSelectedFile()
 {
     m_selection.stop();
-    OfferSave(true);
-    clearShownFile();
-    if (!findSelectedFile())
+    if (!leaveShownFile() || !findSelectedFile())
         return;
     clearChanged();
     const QScopedValueRollback updating(ControlsUpdating, true);
@@ -26,6 +24,15 @@ void ControlForm::OpenSelectedFile()
     showPicture();
     enableEditing(true);
     ui.NodeTree->setFocus();
+}
+
+/// What could not be saved stays in the window, as changed as it was. The list shows again whose it is.
+void ControlForm::keepShownFile()
+{
+    MarkChanged();
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    if (const auto row = m_found.rowOf(CurrentFileName))
+        ui.FilesFoundList->setCurrentIndex(m_found.index(*row));
 }
 
 /// Makes the file selected in the list the file shown. Files that are not there any more leave the list, and the one
@@ -69,11 +76,16 @@ void ControlForm::showPicture()
     ui.Image1->showFile(CurrentFileName, m_reporter);
 }
 
-/// Shows no file any more, its changes saved if the person wants that.
-void ControlForm::leaveShownFile()
+/// Shows no file any more, its changes saved if the person wants that. Returns false when they could not be saved: the
+/// file is still shown then.
+bool ControlForm::leaveShownFile()
 {
-    OfferSave(true);
+    if (OfferSave(true) == SaveResult::Failed) {
+        keepShownFile();
+        return false;
+    }
     clearShownFile();
+    return true;
 }
 
 /// No file is shown from now on, and none can be edited.
@@ -148,6 +160,7 @@ void ControlForm::clearChanged()
 /// Saves the file shown if it was changed; with `ask`, if the person wants that.
 ControlForm::SaveResult ControlForm::OfferSave(bool ask)
 {
+    leaveFocusedBox();
     for (const OsBox& osBox : m_osBoxes)
         *osBox.dittoText = boxText(*osBox.box);
     if (!ChangesMade)
@@ -175,6 +188,8 @@ ControlForm::SaveResult ControlForm::SaveDocument()
 /// Saves the file shown, changed or not. It is opened again then, as its image data may have moved.
 void ControlForm::saveAndReopen()
 {
+    leaveFocusedBox();
+    selectShownFile();
     if (SaveDocument() == SaveResult::Saved)
         OpenSelectedFile();
 }
@@ -193,6 +208,8 @@ void ControlForm::saveXml()
 /// Opens the file anew, without its changes.
 void ControlForm::reset()
 {
+    leaveFocusedBox();
+    selectShownFile();
     clearChanged();
     OpenSelectedFile();
     if (ChangesMade)

@@ -47,7 +47,8 @@ bool ControlForm::findFiles()
 
 void ControlForm::scanFolder()
 {
-    leaveShownFile();
+    if (!leaveShownFile())
+        return;
     std::optional<FolderScan> scan;
     ErrorTrap trap;
     trap.run([&] { scan.emplace(scanOptions(m_scan)); });
@@ -65,7 +66,8 @@ void ControlForm::scanFolder()
 /// Lists the files named, and those in the folders named, whatever they contain.
 void ControlForm::findFilesAmong(const std::vector<std::string>& names)
 {
-    leaveShownFile();
+    if (!leaveShownFile())
+        return;
     ScanOptions options = scanOptions(m_scan);
     options.content = {};
     std::vector<std::string> found;
@@ -88,10 +90,10 @@ void ControlForm::listFiles(std::vector<std::string> found)
         const QScopedValueRollback updating(ControlsUpdating, true);
         m_found.append(std::move(found));
     }
+    if (m_found.rowCount() > 0)
+        selectFile(0); // which leaves none when none of them is there any more
     if (m_found.rowCount() == 0)
         m_surroundings.dialogs.show(tr(kNoFilesFound));
-    else
-        selectFile(0);
     ui.FilesFoundList->setToolTip(toQString(foundFilesToolTip(m_found.paths().size())));
 }
 
@@ -103,7 +105,8 @@ void ControlForm::showBatch()
         connect(m_batch, &BatchForm::started, this, &ControlForm::runBatch);
     }
     moveFocusTo(*ui.BatchShower);
-    leaveShownFile();
+    if (!leaveShownFile())
+        return;
     m_batch->show();
     m_batch->activateWindow();
 }
@@ -113,7 +116,8 @@ void ControlForm::runBatch(const NodeChange& change)
 {
     // A file that was opened since must not be saved over what the batch makes of it.
     moveFocusTo(*ui.BatchShower);
-    leaveShownFile();
+    if (!leaveShownFile())
+        return;
     runWatched([&](ProgressForm& progress) {
         progress.show();
         BatchWatch watch(progress, m_reporter);

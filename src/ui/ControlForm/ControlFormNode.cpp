@@ -206,6 +206,7 @@ void ControlForm::leaveNodeText()
 
 void ControlForm::addNode()
 {
+    leaveFocusedBox();
     NodeAddForm form(JpegDoc, Merovel, ui.menuShowTechnical->isChecked(), m_reporter, this);
     form.exec();
     if (form.NodeAddedXpath.empty())
@@ -218,6 +219,7 @@ void ControlForm::addNode()
 
 void ControlForm::deleteNode()
 {
+    leaveFocusedBox();
     if (!CurrentNode || selectedItem() == nullptr)
         return;
     {
@@ -263,6 +265,7 @@ void ControlForm::leaveOsBox(const OsBox& osBox)
 /// Repeats the properties of the file shown before.
 void ControlForm::ditto()
 {
+    leaveFocusedBox();
     for (const OsBox& osBox : m_osBoxes) {
         if (!osBox.box->isEnabled())
             continue;

@@ -1,5 +1,7 @@
 #include "ui/ControlForm/FoundFiles.h"
 
+#include <algorithm>
+
 #include "common/File.h"
 #include "ui/App/Text.h"
 
@@ -18,6 +20,12 @@ QVariant FoundFiles::data(const QModelIndex& index, int role) const
     if (!index.isValid() || role != Qt::DisplayRole)
         return {};
     return pathText(path(index.row()));
+}
+
+std::optional<int> FoundFiles::rowOf(const std::string& path) const
+{
+    const auto found = std::ranges::find(m_paths, path);
+    return found != m_paths.end() ? std::optional(static_cast<int>(found - m_paths.begin())) : std::nullopt;
 }
 
 void FoundFiles::clear()

@@ -22,6 +22,9 @@ public:
     const std::vector<std::string>& paths() const { return m_paths; }
     const std::string& path(int row) const { return m_paths[static_cast<std::size_t>(row)]; }
 
+    /// The row of the first file of that path; nothing when it is not in the list.
+    std::optional<int> rowOf(const std::string& path) const;
+
     void clear();
     void append(std::vector<std::string> found);
 

@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace ovisto {
 
 PictureBox::PictureBox(QWidget* parent) : QFrame(parent)
@@ -68,8 +70,14 @@ void PictureBox::resizeEvent(QResizeEvent* /*event*/)
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (rect().contains(event->position().toPoint()))
+    if (!std::exchange(m_doubleClicked, false) && rect().contains(event->position().toPoint()))
         Q_EMIT clicked(event->button());
+}
+
+/// The first click of two has opened the file already.
+void PictureBox::mouseDoubleClickEvent(QMouseEvent* /*event*/)
+{
+    m_doubleClicked = true;
 }
 
 /// In pixels of the screen, which may be finer than those of the layout.

@@ -36,6 +36,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
     QSize paneSize() const;
@@ -44,7 +45,8 @@ private:
     std::string m_path; ///< empty when nothing is shown, or what is shown comes from no file
     QImage m_picture;
     QString m_placeholder;
-    QString m_message; ///< why the file is not shown
+    QString m_message;            ///< why the file is not shown
+    bool m_doubleClicked = false; // the release to come belongs to a double click
     QTimer m_resized;
 };
 

@@ -12,8 +12,9 @@ NodeAddForm::NodeAddForm(XmlDocument& document, const TagDictionary& Merovel, bo
     ui.setupUi(this);
     for (const XmlNode& entry : m_entries)
         ui.NodeList->addItem(toQString(AttributeGet(entry, "label")));
-    connect(ui.NodeList, &QListWidget::currentRowChanged, this,
-            [this](int row) { ui.NodeAdder->setEnabled(row >= 0); });
+    ui.NodeAdder->setEnabled(false);
+    connect(ui.NodeList, &QListWidget::itemSelectionChanged, this,
+            [this] { ui.NodeAdder->setEnabled(!ui.NodeList->selectedItems().isEmpty()); });
     connect(ui.NodeList, &QListWidget::itemDoubleClicked, this, &NodeAddForm::addNode);
     connect(ui.NodeAdder, &QPushButton::clicked, this, &NodeAddForm::addNode);
     connect(ui.FormCanceller, &QPushButton::clicked, this, &NodeAddForm::reject);
@@ -21,7 +22,7 @@ NodeAddForm::NodeAddForm(XmlDocument& document, const TagDictionary& Merovel, bo
 
 void NodeAddForm::addNode()
 {
-    const int row = ui.NodeList->currentRow();
+    const int row = ui.NodeList->row(ui.NodeList->selectedItems().first());
     NodeAddedXpath = addEntry(JpegDoc, m_entries[static_cast<std::size_t>(row)], m_reporter);
     accept();
 }

@@ -1,0 +1,52 @@
+<?xml version="1.0" encoding="UTF-8"?>
+<!-- A line for each shot, fields between commas, for a spreadsheet. Numbers stand without their units. -->
+<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform"
+                xmlns:str="http://exslt.org/strings" exclude-result-prefixes="str">
+  <xsl:import href="parts/shot.xsl"/>
+  <xsl:output method="text"/>
+
+  <xsl:template match="/JPEGs">
+    <xsl:text>Folder,File,Title,Date,Camera,Lens,Exposure time,Aperture,ISO,Focal length,Keywords&#13;&#10;</xsl:text>
+    <xsl:apply-templates select="JPEG"/>
+  </xsl:template>
+
+  <xsl:template match="JPEG">
+    <xsl:variable name="date"><xsl:apply-templates select="." mode="date"/></xsl:variable>
+    <xsl:variable name="title"><xsl:apply-templates select="." mode="title"/></xsl:variable>
+    <xsl:variable name="camera"><xsl:apply-templates select="." mode="camera"/></xsl:variable>
+    <xsl:variable name="lens"><xsl:apply-templates select="." mode="lens"/></xsl:variable>
+    <xsl:variable name="time"><xsl:apply-templates select="." mode="time"/></xsl:variable>
+    <xsl:variable name="aperture"><xsl:apply-templates select="." mode="aperture"/></xsl:variable>
+    <xsl:variable name="focal"><xsl:apply-templates select="." mode="focal"/></xsl:variable>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="@folder"/></xsl:call-template>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="@fileName"/></xsl:call-template>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="$title"/></xsl:call-template>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="$date"/></xsl:call-template>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="$camera"/></xsl:call-template>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="$lens"/></xsl:call-template>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="substring-before($time, ' ')"/></xsl:call-template>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="substring-after($aperture, '/')"/></xsl:call-template>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="Exif/IFDE/IFD[@id='8827']"/></xsl:call-template>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="substring-before($focal, ' ')"/></xsl:call-template>
+    <xsl:call-template name="quoted"><xsl:with-param name="text" select="Exif/IFD[@id='9C9E']"/></xsl:call-template>
+    <xsl:text>&#13;&#10;</xsl:text>
+  </xsl:template>
+
+  <xsl:template name="field">
+    <xsl:param name="text"/>
+    <xsl:call-template name="quoted"><xsl:with-param name="text" select="$text"/></xsl:call-template>
+    <xsl:text>,</xsl:text>
+  </xsl:template>
+
+  <!-- Quotes are needed around commas, quotes and line breaks only. -->
+  <xsl:template name="quoted">
+    <xsl:param name="text"/>
+    <xsl:choose>
+      <xsl:when test="$text != translate($text, ',&quot;&#13;&#10;', '')">
+        <xsl:value-of select="concat('&quot;', str:replace($text, '&quot;', '&quot;&quot;'), '&quot;')"/>
+      </xsl:when>
+      <xsl:otherwise><xsl:value-of select="$text"/></xsl:otherwise>
+    </xsl:choose>
+  </xsl:template>
+
+</xsl:stylesheet>

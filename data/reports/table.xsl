@@ -1,0 +1,57 @@
+<?xml version="1.0" encoding="UTF-8"?>
+<!-- A web page with a row for each shot: when, with what and how it was taken. The text has to begin with <html, as
+     that makes the extension of the report; hence no document type. -->
+<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
+  <xsl:import href="parts/shot.xsl"/>
+  <xsl:output method="html" indent="no"/>
+
+  <xsl:template match="/JPEGs">
+    <html lang="en">
+      <head>
+        <title>Shots</title>
+        <style>
+          body { margin: 2em auto; max-width: 76em; padding: 0 1.5em; background: #fbfaf8; color: #26292c;
+                 font: 15px/1.45 "Segoe UI", "Noto Sans", "DejaVu Sans", sans-serif; }
+          h1 { margin: 0; font-size: 26px; font-weight: 600; }
+          p { margin: 4px 0 22px; color: #6b7176; }
+          table { width: 100%; border-collapse: collapse; font-size: 14px; }
+          th { padding: 8px 10px; border-bottom: 2px solid #c9662b; text-align: left; font-weight: 600; white-space: nowrap; }
+          td { padding: 8px 10px; border-bottom: 1px solid #e4e0da; vertical-align: top; }
+          tr:hover td { background: #f4efe8; }
+          td.number { text-align: right; white-space: nowrap; }
+          th.number { text-align: right; }
+          td.date { white-space: nowrap; }
+          small { display: block; color: #6b7176; font-size: 12px; }
+          @media print { body { margin: 0; max-width: none; background: none; } tr { page-break-inside: avoid; } }
+        </style>
+      </head>
+      <body>
+        <h1>Shots</h1>
+        <p><xsl:value-of select="count(JPEG)"/> photographs</p>
+        <table>
+          <thead>
+            <tr>
+              <th>Photograph</th><th>Date</th><th>Camera</th><th>Lens</th>
+              <th class="number">Time</th><th class="number">Aperture</th><th class="number">ISO</th><th class="number">Focal length</th>
+            </tr>
+          </thead>
+          <tbody><xsl:apply-templates select="JPEG"/></tbody>
+        </table>
+      </body>
+    </html>
+  </xsl:template>
+
+  <xsl:template match="JPEG">
+    <tr>
+      <td><xsl:value-of select="@fileName"/><small><xsl:apply-templates select="." mode="title"/></small></td>
+      <td class="date"><xsl:apply-templates select="." mode="date"/></td>
+      <td><xsl:apply-templates select="." mode="camera"/></td>
+      <td><xsl:apply-templates select="." mode="lens"/></td>
+      <td class="number"><xsl:apply-templates select="." mode="time"/></td>
+      <td class="number"><xsl:apply-templates select="." mode="aperture"/></td>
+      <td class="number"><xsl:value-of select="Exif/IFDE/IFD[@id='8827']"/></td>
+      <td class="number"><xsl:apply-templates select="." mode="focal"/></td>
+    </tr>
+  </xsl:template>
+
+</xsl:stylesheet>

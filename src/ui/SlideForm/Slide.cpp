@@ -1,0 +1,92 @@
+#include "ui/SlideForm/Slide.h"
+
+#include "common/Error.h"
+#include "common/File.h"
+#include "common/PathText.h"
+#include "reader/JpegXml.h"
+#include "ui/App/PictureFit.h"
+#include "ui/App/Text.h"
+#include "ui/SlideForm/SlideDetails.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+#include <system_error>
+
+namespace ovisto {
+
+namespace {
+
+/// The content of a file, which seems to end when nobody waits for it any more: the picture decoder knows no other way
+/// to be stopped.
+class AbandonableFile : public QBuffer {
+public:
+    AbandonableFile(const std::string& content, const std::atomic<bool>& abandoned)
+        : m_content(QByteArray::fromRawData(content.data(), static_cast<qsizetype>(content.size()))),
+          m_abandoned(abandoned)
+    {
+        setBuffer(&m_content);
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+
+protected:
+    qint64 readData(char* data, qint64 most) override { return m_abandoned ? -1 : QBuffer::readData(data, most); }
+
+private:
+    QByteArray m_content;
+    const std::atomic<bool>& m_abandoned;
+};
+
+std::int64_t bytesInMemory(QSize size)
+{
+    constexpr std::int64_t kBytesPerPixel = 4;
+    return kBytesPerPixel * size.width() * size.height();
+}
+
+QString readDetails(const std::string& path, const QLocale& locale)
+{
+    if (!fileExists(path))
+        return {};
+    // The size of the thumbnail stands in the directory that is kept for its sake.
+    const KeepOptions keep{.pCodifyMakerNote = false, .pCodifyThumb = true, .pCodifyExif1 = false};
+    XmlDocument JpegDoc;
+    JpegDoc.loadText(JpegXml().XMLtranslate(path, keep).text);
+    return detailsLine(JpegDoc, locale);
+}
+
+/// The picture of the request, or none when it would take more memory than allowed.
+QImage readPicture(const SlideRequest& request, const DecodeLimits& limits)
+{
+    const std::string content = readTextFile(request.path);
+    AbandonableFile file(content, limits.abandoned);
+    const QSize size = fittedSize(QImageReader(&file).size(), request.maximum);
+    if (bytesInMemory(size) > limits.mostBytes)
+        return {};
+    file.seek(0);
+    return fittedPicture(file, request.maximum);
+}
+
+} // namespace
+
+SlideRequest slideRequest(const std::string& path, QSize maximum)
+{
+    std::error_code missing;
+    return {path, maximum, std::filesystem::last_write_time(path, missing)};
+}
+
+std::optional<Slide> decodeSlide(const SlideRequest& request, const QLocale& locale, const DecodeLimits& limits)
+{
+    Slide slide;
+    ErrorTrap trap;
+    trap.run([&] { slide.details = readDetails(request.path, locale); });
+    trap.clear(); // then there are none to show
+    trap.run([&] { slide.picture = readPicture(request, limits); });
+    const bool isTooLarge = slide.picture.isNull() && !trap.pending();
+    if (limits.abandoned || isTooLarge)
+        return std::nullopt;
+    if (trap.pending())
+        slide.failure = pathText(splitPath(request.path).name) + QLatin1Char('\n') + toQString(trap.take().description);
+    return slide;
+}
+
+} // namespace ovisto

@@ -1,0 +1,102 @@
+#include "ui/SlideForm/SlideDetails.h"
+
+#include "ui/App/Text.h"
+
+#include <QDate>
+#include <QRegularExpression>
+#include <QStringList>
+#include <QTime>
+
+#include <algorithm>
+#include <optional>
+
+namespace ovisto {
+
+namespace {
+
+constexpr const char* kTitle = "/JPEG/Exif/IFD[@id='9C9B']";
+constexpr const char* kDates[] = {"/JPEG/Exif/IFDE/IFD[@id='9003']",  // taken
+                                  "/JPEG/Exif/IFDE/IFD[@id='9004']"}; // digitised
+constexpr const char* kThumbnailSize[] = {"/JPEG/Exif/IFD1/IFD[@id='0100']", "/JPEG/Exif/IFD1/IFD[@id='0101']"};
+constexpr const char* kPictureSize[] = {"/JPEG/Exif/IFDE/IFD[@id='A002']", "/JPEG/Exif/IFDE/IFD[@id='A003']"};
+constexpr const char* kCamera = "/JPEG/Exif/IFD[@id='0110']";
+
+constexpr int kDateLength = 10; // of "2004:05:06"
+
+std::optional<QString> textOf(const XmlDocument& JpegDoc, const char* path)
+{
+    const XmlNode node = JpegDoc.selectSingleNode(path);
+    return node ? std::optional(toQString(node.text())) : std::nullopt;
+}
+
+std::optional<QString> title(const XmlDocument& JpegDoc)
+{
+    const auto text = textOf(JpegDoc, kTitle);
+    return text ? std::optional(QStringLiteral("\"%1\"").arg(text->trimmed())) : std::nullopt;
+}
+
+/// A camera whose clock was never set writes a date of colons and blanks.
+bool isUnset(const QString& date)
+{
+    return std::ranges::all_of(date, [](QChar character) { return character == u':' || character == u' '; });
+}
+
+QTime timeFrom(const QString& text)
+{
+    if (text.isEmpty())
+        return {0, 0};
+    const QTime time = QTime::fromString(text, QStringLiteral("H:m:s"));
+    return time.isValid() ? time : QTime::fromString(text, QStringLiteral("H:m"));
+}
+
+/// The locale's long format of a time without the time zone, which Exif does not tell.
+QString timeFormat(const QLocale& locale)
+{
+    static const QRegularExpression zone(QStringLiteral(R"([\s,]*[(\[]?\bt\b[)\]]?)"),
+                                         QRegularExpression::UseUnicodePropertiesOption);
+    return locale.timeFormat(QLocale::LongFormat).remove(zone).trimmed();
+}
+
+/// The date as people of the locale write it; as the file has it when it is none.
+QString dateText(const QString& text, const QLocale& locale)
+{
+    const QDate date = QDate::fromString(text.left(kDateLength), QStringLiteral("yyyy:M:d"));
+    const QTime time = timeFrom(text.mid(kDateLength).trimmed());
+    if (!date.isValid() || !time.isValid())
+        return text;
+    return QStringList{locale.dayName(date.dayOfWeek(), QLocale::ShortFormat),
+                       locale.toString(date, QLocale::LongFormat), locale.toString(time, timeFormat(locale))}
+        .join(QLatin1Char(' '));
+}
+
+std::optional<QString> dateTaken(const XmlDocument& JpegDoc, const QLocale& locale)
+{
+    for (const char* path : kDates) {
+        const auto text = textOf(JpegDoc, path);
+        if (text && !isUnset(*text))
+            return dateText(*text, locale);
+    }
+    return std::nullopt;
+}
+
+std::optional<QString> size(const XmlDocument& JpegDoc, const char* const (&paths)[2])
+{
+    const auto width = textOf(JpegDoc, paths[0]);
+    const auto height = textOf(JpegDoc, paths[1]);
+    return width && height ? std::optional(*width + QLatin1Char('X') + *height) : std::nullopt;
+}
+
+} // namespace
+
+QString detailsLine(const XmlDocument& JpegDoc, const QLocale& locale)
+{
+    QStringList parts;
+    for (const auto& part : {title(JpegDoc), dateTaken(JpegDoc, locale), size(JpegDoc, kThumbnailSize),
+                             size(JpegDoc, kPictureSize), textOf(JpegDoc, kCamera)}) {
+        if (part)
+            parts.append(*part);
+    }
+    return parts.join(QStringLiteral(" -- ")).trimmed();
+}
+
+} // namespace ovisto

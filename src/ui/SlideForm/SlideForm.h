@@ -1,0 +1,83 @@
+#pragma once
+
+#include "ui/App/Dialogs.h"
+#include "ui/App/Settings.h"
+#include "ui/ControlForm/FoundFiles.h"
+#include "ui/SlideForm/SlideCache.h"
+#include "ui/SlideForm/SlideClockwork.h"
+#include "ui/SlideForm/SlideTimer.h"
+#include "ui_SlideForm.h"
+
+#include <QPoint>
+#include <QTimer>
+#include <QWidget>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+class QItemSelectionModel;
+
+namespace ovisto {
+
+/// What a show needs of the world around it. All of it must outlive the show.
+struct SlideSurroundings {
+    const FoundFiles& files;        ///< the list that is shown; it may change meanwhile
+    QItemSelectionModel& selection; ///< in that list
+    Dialogs& dialogs;
+    Settings& settings;
+};
+
+/// The window of a slide show. It is deleted when it closes.
+class SlideForm : public QWidget {
+    Q_OBJECT
+
+public:
+    SlideForm(const SlideSurroundings& surroundings, SlideTimers timers, QWidget* owner);
+
+    /// Shows the files of the list one after another, from the one selected there on. `resize`: pictures larger than
+    /// the window are scaled down, else they can be scrolled. `details`: a line tells about each file. With 0 seconds,
+    /// only keys move the show; so they do with more than 32, which raises kOverflow, the show having begun.
+    void SlideShow(bool fullscreen, bool resize, bool details, std::int16_t seconds);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void openWindow();
+    void tick();
+    void showNext();
+    void showPrevious();
+    void showCurrent();
+    void showWhenReady();
+    void showSlide(const Slide& slide);
+    void showCaption();
+    void pause();
+    void endShow();
+    void scroll(int key);
+    void hidePointer();
+
+    bool hasCurrent() const;
+    std::vector<SlideRequest> wantedSlides() const;
+    QSize largestPicture() const;
+
+    Ui::SlideForm ui;
+    SlideSurroundings m_surroundings;
+    SlideTimers m_timers;
+    SlideClockwork m_clockwork;
+    SlideCache m_cache;
+
+    bool m_fullscreen = false;
+    bool m_resize = false;
+    bool m_details = false;
+    bool m_isWaiting = false;           ///< the slide that is due is not on the screen yet
+    std::vector<SlideRequest> m_wanted; ///< the one that is due first
+    QString m_detailsLine;
+    QTimer m_resized;
+    QPoint m_pointer; ///< where the pointer was last
+};
+
+} // namespace ovisto

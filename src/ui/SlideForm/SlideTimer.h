@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class QTimer;
+
+namespace ovisto {
+
+/// What lets time pass in a show: the clock of the computer, or a test.
+class SlideTimer : public QObject {
+    Q_OBJECT
+
+public:
+    /// Fires every `milliseconds` from now on, until stopped or started anew.
+    virtual void start(int milliseconds) = 0;
+    virtual void stop() = 0;
+
+Q_SIGNALS:
+    void fired();
+};
+
+class ClockTimer : public SlideTimer {
+    Q_OBJECT
+
+public:
+    explicit ClockTimer(const QString& name);
+
+    void start(int milliseconds) override;
+    void stop() override;
+
+private:
+    QTimer* m_timer;
+};
+
+struct SlideTimers {
+    std::unique_ptr<SlideTimer> slide;   ///< until the next slide
+    std::unique_ptr<SlideTimer> pointer; ///< until a pointer that does not move is hidden
+};
+
+SlideTimers clockTimers();
+
+} // namespace ovisto

@@ -1,0 +1,228 @@
+#include "collection/FolderScan.h"
+#include "support/CountingProgress.h"
+#include "support/JpegBytes.h"
+#include "support/RecordingReporter.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+
+#include <unistd.h>
+
+namespace ovisto::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A folder with photographs in it and below it.
+class ScanFolder : public TemporaryFolder {
+public:
+    explicit ScanFolder(const std::vector<std::string>& names)
+    {
+        for (const std::string& name : names) {
+            fs::create_directories(fs::path(path(name)).parent_path());
+            file(name, fullPhotograph(true));
+        }
+    }
+};
+
+struct Found {
+    std::vector<std::string> files;
+    RecordingReporter reporter;
+    CountingProgress progress;
+
+    explicit Found(std::size_t steps = 1'000'000) : progress(steps) {}
+
+    /// The paths without that of `folder`, joined by blanks.
+    std::string scan(const TemporaryFolder& folder, ScanOptions options = {})
+    {
+        options.folder = folder.path("");
+        FolderScan(options).run(files, progress, reporter);
+        std::string names;
+        for (const std::string& file : files)
+            names += (names.empty() ? "" : " ") + file.substr(options.folder.size());
+        return names;
+    }
+};
+
+ScanOptions withContent(const ContentSearch& content)
+{
+    ScanOptions options;
+    options.content = content;
+    return options;
+}
+
+} // namespace
+
+TEST(FilePattern, ReadsWildcardsInAnyLetterCase)
+{
+    const struct {
+        const char* patterns;
+        const char* name;
+        bool matches;
+    } cases[] = {
+        {"*.jpg;*.jpeg", "A.JPG", true},
+        {"*.jpg;*.jpeg", "a.Jpeg", true},
+        {"*.jpg;*.jpeg", "a.jpg.bak", false},
+        {"*.jpg", ".jpg", true},
+        {"*.jpg", "jpg", false},
+        {"a?c*e", "abcdcde", true},
+        {"a?c", "ac", false},
+        {"?.jpg", "ä.jpg", true},
+        {"GRÜN*", "grün 1", true},
+        {"*a*b*a*", "xxabxbx", false},
+        {"**", "", true},
+        {"", "a.jpg", false},
+        {" *.png ; *.jpg", "a.jpg", true},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(FilePattern(c.patterns).matches(c.name), c.matches) << c.patterns << " " << c.name;
+    const std::string manyStars = "*a*a*a*a*a*a*a*a*a*a*a*a*b";
+    EXPECT_FALSE(FilePattern(manyStars).matches(std::string(250, 'a'))) << "and at once";
+}
+
+TEST(FolderScan, ListsFilesByNameAndThenTheSubFolders)
+{
+    const ScanFolder folder({"b.jpg", "A.JPG", "c.png", ".hidden.jpg", "sub/x.jpg", "sub/Zwei/é 1.jpeg", ".trash/d.jpg",
+                             "name.jpg/inner.jpg"});
+    Found all;
+    EXPECT_EQ(all.scan(folder), "A.JPG b.jpg name.jpg/inner.jpg sub/x.jpg sub/Zwei/é 1.jpeg");
+    EXPECT_EQ(all.progress.places, (std::vector<std::string>{"0/2", "1/2", "0/1", "0/1", "0/1"}));
+    ScanOptions flat;
+    flat.subFolders = false;
+    flat.patterns = "?.*";
+    EXPECT_EQ(Found().scan(folder, flat), "A.JPG b.jpg c.png");
+}
+
+TEST(FolderScan, AppendsWithoutLookingForRepeats)
+{
+    const ScanFolder folder({"a.jpg"});
+    Found found;
+    found.scan(folder);
+    ScanOptions append;
+    append.append = true;
+    EXPECT_EQ(found.scan(folder, append), "a.jpg a.jpg");
+    EXPECT_EQ(foundFilesToolTip(found.files.size()), "List of files found (2)");
+    EXPECT_EQ(found.scan(folder), "a.jpg");
+}
+
+TEST(FolderScan, KeepsTheListWhenTheFolderIsGone)
+{
+    const TemporaryFolder folder;
+    ScanOptions options;
+    options.folder = folder.path("gone");
+    ErrorTrap trap;
+    trap.run([&] { FolderScan scan(options); });
+    ASSERT_TRUE(trap.pending());
+    EXPECT_EQ(trap.error().description, "Folder not found");
+}
+
+TEST(FolderScan, KeepsWhatWasFoundWhenItIsStopped)
+{
+    const ScanFolder folder({"a.jpg", "b.jpg", "c.jpg", "sub/d.jpg"});
+    Found found(2);
+    EXPECT_EQ(found.scan(folder), "a.jpg b.jpg");
+    EXPECT_EQ(found.progress.paths.size(), 3U) << "and no folder is looked into afterwards";
+}
+
+TEST(FolderScan, EndsLinksInACircle)
+{
+    const ScanFolder folder({"one/a.jpg", "two/b.jpg"});
+    fs::create_directory_symlink("..", folder.path("one/up"));
+    fs::create_directory_symlink("../two", folder.path("one/other"));
+    fs::create_directory_symlink("../one", folder.path("two/other"));
+    fs::create_symlink("nowhere", folder.path("dangling.jpg"));
+    fs::create_symlink("one/a.jpg", folder.path("link.jpg"));
+    EXPECT_EQ(Found().scan(folder), "link.jpg one/a.jpg one/other/b.jpg");
+}
+
+TEST(FolderScan, ReportsASubFolderThatCannotBeReadAndGoesOn)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root may read everything";
+    const ScanFolder folder({"a.jpg", "locked/b.jpg", "open/c.jpg"});
+    fs::permissions(folder.path("locked"), fs::perms::none);
+    Found found;
+    EXPECT_EQ(found.scan(folder), "a.jpg open/c.jpg");
+    EXPECT_EQ(found.reporter.contexts, std::vector<std::string>{folder.path("locked")});
+    fs::permissions(folder.path("locked"), fs::perms::owner_all);
+}
+
+TEST(ContentFilter, ReadsWordsAndExpressionsAsPeopleTypeThem)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.jpg", fullPhotograph(true)); // Acme, Héllo
+    const struct {
+        ContentSearch search;
+        bool keeps;
+    } cases[] = {
+        {{"acme"}, true},
+        {{"xyzzy"}, false},
+        {{"xyzzy, ACME "}, true},
+        {{"xyzzy,"}, true}, // an empty word behind another one: every file
+        {{",xyzzy"}, false},
+        {{" "}, true},
+        {{"Héllo"}, false},
+        {{"H&#233;LLO"}, true}, // as it stands in the document
+        {{"IFDE"}, true},       // markup counts
+        {{"acme,llo", true}, true},
+        {{"acme,xyzzy", true}, false},
+        {{"acme,", true}, true},
+        {{"cme", false, true}, false},
+        {{"Acme", false, true}, true},
+        {{"a.me|xyzzy"}, true}, // their characters keep their meaning in words
+        {{"^<IFD id=\"010F\".*>Acme</IFD>$", false, true, true}, true},
+        {{"acme,", false, false, true}, false},
+        {{"Acme.*Exif1", false, false, true}, false}, // a dot is no line break
+        {{"[^]*</JPEG>$", false, false, true}, true},
+        {{"[]", false, false, true}, false},
+        {{"[[]JPEG|<JPEG[[a-z]* ", false, false, true}, true},
+        {{"\\QAcme\\E", false, false, true}, false}, // in ECMAScript the letters Q and E
+        {{"\\u0041cme", false, false, true}, true},
+        {{"(A)cme|\\1never", false, false, true}, true},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(ContentFilter(c.search).keeps(path), c.keeps) << c.search.words;
+    EXPECT_FALSE(ContentFilter({"JPEG"}).keeps(folder.file("broken.jpg", "text")));
+    EXPECT_TRUE(ContentFilter({}).keeps(folder.path("none.jpg"))) << "not even opened";
+}
+
+TEST(FolderScan, FiltersByContentAndDropsWhatTheReaderCannotRead)
+{
+    const ScanFolder folder({"a.jpg", "sub/b.jpg"});
+    folder.file("broken.jpg", "no photograph");
+    folder.file("plain.jpg", JpegBytes().app0().end());
+    EXPECT_EQ(Found().scan(folder), "a.jpg broken.jpg plain.jpg sub/b.jpg");
+    Found filtered;
+    EXPECT_EQ(filtered.scan(folder, withContent({"acme"})), "a.jpg sub/b.jpg");
+    EXPECT_TRUE(filtered.reporter.contexts.empty());
+}
+
+TEST(FolderScan, ReportsABrokenPatternOnce)
+{
+    const ScanFolder folder({"a.jpg", "b.jpg"});
+    for (const char* pattern : {"(", "a**", "(*FAIL)", "(*LIMIT_MATCH=1)a", "[b-a]"}) {
+        Found found;
+        EXPECT_EQ(found.scan(folder, withContent({pattern, false, false, true})), "") << pattern;
+        EXPECT_EQ(found.reporter.contexts, std::vector<std::string>{"Checking file contents"}) << pattern;
+    }
+}
+
+TEST(FolderScan, EndsRunawayExpressionsWithOneReport)
+{
+    const TemporaryFolder folder;
+    ExifBytes exif;
+    exif.ifd0({exif.ascii(0x010E, std::string(200, 'a'))});
+    for (const char* name : {"a.jpg", "b.jpg"})
+        folder.file(name, JpegBytes().exif(exif).end());
+    folder.file("c.jpg", JpegBytes().app0().end());
+    const auto start = std::chrono::steady_clock::now();
+    Found found;
+    EXPECT_EQ(found.scan(folder, withContent({"(a+)+x|APP0", false, false, true})), "c.jpg");
+    EXPECT_EQ(found.reporter.numbers, std::vector<int>{kOutOfMemory});
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+}
+
+} // namespace ovisto::test

@@ -1,0 +1,263 @@
+#include "collection/Report.h"
+#include "collection/KeywordFile.h"
+#include "common/CodePage.h"
+#include "common/XmlTransform.h"
+#include "support/CountingProgress.h"
+#include "support/JpegBytes.h"
+#include "support/RecordingReporter.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include <filesystem>
+
+namespace ovisto::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string styleSheet(const std::string& content)
+{
+    return "<xsl:stylesheet version='1.0' xmlns:xsl='http://www.w3.org/1999/XSL/Transform' "
+           "xmlns:exsl='http://exslt.org/common' xmlns:msxsl='urn:schemas-microsoft-com:xslt' "
+           "extension-element-prefixes='exsl' exclude-result-prefixes='msxsl'>" +
+           content + "</xsl:stylesheet>";
+}
+
+std::string textStyle(const std::string& content)
+{
+    return styleSheet("<xsl:output method='text'/><xsl:template match='/'>" + content + "</xsl:template>");
+}
+
+Bytes utf16File(const std::string& text)
+{
+    return Bytes{0xFF, 0xFE} + bytes(utf16Bytes(text));
+}
+
+class ReportTest : public testing::Test {
+protected:
+    ReportResult report(const std::string& style, const std::vector<std::string>& files)
+    {
+        return makeReport(files, {folder.file("style.xsl", style), folder.path(""), {}}, progress, reporter);
+    }
+
+    TemporaryFolder folder;
+    RecordingReporter reporter;
+    CountingProgress progress;
+};
+
+} // namespace
+
+TEST_F(ReportTest, CombinesTheDocumentsExactlyAsTheyAre)
+{
+    const std::vector<std::string> files = {folder.file("é.jpg", fullPhotograph(true)),
+                                            folder.file("text.jpg", "no photograph"),
+                                            folder.file("b.jpg", JpegBytes().app0().end())};
+    const ReportResult result = report(textStyle("<xsl:value-of select='count(//JPEG)'/>"), files);
+    EXPECT_EQ(result.path, folder.path("Report.txt"));
+    EXPECT_EQ(contentOf(result.path), utf16File("2"));
+    ASSERT_EQ(result.leftOut.size(), 1U);
+    EXPECT_EQ(result.leftOut.front().path, files[1]);
+    EXPECT_EQ(contentOf(folder.path("Report.xml")), utf16File("<JPEGs>" + JpegXml().XMLtranslate(files[0]).text +
+                                                              JpegXml().XMLtranslate(files[2]).text + "</JPEGs>"));
+    EXPECT_TRUE(reporter.contexts.empty());
+
+    report(textStyle(""), {});
+    EXPECT_EQ(contentOf(folder.path("Report.xml")), utf16File("<JPEGs></JPEGs>"));
+}
+
+TEST_F(ReportTest, CoversTheFilesBeforeItWasStopped)
+{
+    const std::string file = folder.file("a.jpg", JpegBytes().app0().end());
+    CountingProgress stopping(2);
+    const std::string style = folder.file("style.xsl", textStyle("<xsl:value-of select='count(//JPEG)'/>"));
+    makeReport({file, file, file}, {style, folder.path(""), {}}, stopping, reporter);
+    EXPECT_EQ(contentOf(folder.path("Report.txt")), utf16File("2"));
+}
+
+TEST_F(ReportTest, TakesTheExtensionFromTheText)
+{
+    const struct {
+        const char* report;
+        const char* extension;
+    } cases[] = {{"", "txt"}, {"plain", "txt"}, {"<html>", "htm"}, {"<HTML>", "HTM"}, {"<?xml", "?xm"}, {"<a", "a"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(reportExtension("\xFF\xFE" + utf16Bytes(c.report)), c.extension) << c.report;
+    EXPECT_EQ(
+        fs::path(
+            report(styleSheet("<xsl:output method='html'/><xsl:template match='/'><html>é</html></xsl:template>"), {})
+                .path)
+            .filename(),
+        "Report.htm");
+    EXPECT_EQ(contentOf(folder.path("Report.htm")), utf16File("<html>é</html>\n"));
+    // An XML declaration makes an extension that not every system has file names for.
+    EXPECT_EQ(report(styleSheet("<xsl:template match='/'><a/></xsl:template>"), {}).path, "");
+    EXPECT_EQ(report(textStyle("&lt;/a/"), {}).path, "");
+    EXPECT_EQ(reporter.contexts, (std::vector<std::string>{"Create file " + folder.path("Report.?xm"),
+                                                           "Create file " + folder.path("Report./a/")}));
+}
+
+TEST_F(ReportTest, NamesWhatFailed)
+{
+    report("<xsl:stylesheet>", {});
+    EXPECT_EQ(reporter.contexts.back(), folder.path("style.xsl"));
+    EXPECT_FALSE(fs::exists(folder.path("Report.xml")));
+
+    report(textStyle("begun<xsl:message terminate='yes'>no more</xsl:message>"), {});
+    EXPECT_EQ(reporter.contexts.back(), "Transform XML");
+    report(textStyle("<xsl:value-of select='no-such-function()'/>"), {});
+    EXPECT_EQ(reporter.contexts.back(), "Transform XML");
+    report("<xsl:stylesheet version='1.0' xmlns:xsl='http://www.w3.org/1999/XSL/Transform'><xsl:template "
+           "match='['/></xsl:stylesheet>",
+           {});
+    EXPECT_EQ(reporter.contexts.back(), "Transform XML");
+    EXPECT_EQ(reporter.contexts.size(), 4U);
+
+    fs::remove(folder.path("Report.txt"));
+    fs::create_directory(folder.path("Report.txt"));
+    EXPECT_EQ(report(textStyle("text"), {}).path, "");
+    EXPECT_EQ(reporter.contexts.back(), "Create file " + folder.path("Report.txt"));
+    fs::remove(folder.path("Report.xml"));
+    fs::create_directory(folder.path("Report.xml"));
+    report(textStyle("text"), {});
+    EXPECT_EQ(reporter.contexts.back(), folder.path("Report.xml"));
+    EXPECT_EQ(reporter.contexts.size(), 6U);
+}
+
+TEST(XmlTransform, EndsStyleSheetsThatWouldNot)
+{
+    const TemporaryFolder folder;
+    const std::string call = "<xsl:call-template name='again'/>";
+    for (const std::string& again : {call, call + call}) { // too deep; and too long before it is too deep
+        const std::string style =
+            folder.file("a.xsl", styleSheet("<xsl:template match='/' name='again'>" + again + "</xsl:template>"));
+        XmlDocument data;
+        ASSERT_FALSE(data.loadText("<a/>"));
+        EXPECT_TRUE(transformNode(data, style, TextEncoding::Utf8).error) << again;
+    }
+    const std::string doubling = folder.file(
+        "b.xsl",
+        styleSheet("<xsl:template match='/' name='again'><xsl:param name='n' select='40'/><xsl:if test='$n &gt; 0'>"
+                   "<xsl:call-template name='again'><xsl:with-param name='n' select='$n - 1'/>"
+                   "</xsl:call-template><xsl:call-template name='again'><xsl:with-param name='n' select='$n - "
+                   "1'/></xsl:call-template></xsl:if></xsl:template>"));
+    XmlDocument data;
+    ASSERT_FALSE(data.loadText("<a/>"));
+    EXPECT_TRUE(transformNode(data, doubling, TextEncoding::Utf8).error);
+}
+
+TEST(XmlTransform, WritesNoFilesAndReachesNoNetwork)
+{
+    const TemporaryFolder folder;
+    const std::string target = folder.path("written.txt");
+    folder.file("other.xml", "<other>local</other>");
+    const struct {
+        std::string content;
+        const char* text;
+    } cases[] = {
+        {"<exsl:document href='" + target + "'>x</exsl:document>", ""},
+        {"<xsl:document href='" + target + "' xmlns:xsl='http://www.w3.org/1999/XSL/Transform'>x</xsl:document>", ""},
+        {"<xsl:value-of select=\"document('http://127.0.0.1:9/a.xml')\"/>", ""},
+        {"<xsl:value-of select=\"document('other.xml')\"/>", "local"},
+        {"<xsl:variable name='v'><i/><i/></xsl:variable><xsl:value-of select='count(msxsl:node-set($v)/i)'/>", "2"},
+        {"<xsl:variable name='v'><i/></xsl:variable><xsl:value-of select='count(exsl:node-set($v)/i)'/>", "1"},
+        {"<![CDATA[<&>]]>", "<&>"},
+    };
+    for (const auto& c : cases) {
+        XmlDocument data;
+        ASSERT_FALSE(data.loadText("<a/>"));
+        EXPECT_EQ(transformNode(data, folder.file("a.xsl", textStyle(c.content)), TextEncoding::Utf8).bytes, c.text)
+            << c.content;
+    }
+    EXPECT_FALSE(fs::exists(target));
+}
+
+TEST(XmlLoad, TakesADocumentTypeThatOnlyNamesCharacters)
+{
+    const TemporaryFolder folder;
+    const std::string style = folder.file("a.xsl", "<!DOCTYPE x [<!ENTITY sz '&#223;'>]>" + textStyle("Gru&sz;"));
+    RecordingReporter reporter;
+    CountingProgress progress;
+    const ReportResult result = makeReport({}, {style, folder.path(""), {}}, progress, reporter);
+    EXPECT_EQ(contentOf(result.path), utf16File("Gruß"));
+    EXPECT_TRUE(reporter.contexts.empty());
+}
+
+TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
+{
+    const TemporaryFolder folder;
+    const std::vector<std::string> files = {OVISTO_OWN_SAMPLES "little-endian.jpg", OVISTO_OWN_SAMPLES "no-exif.jpg",
+                                            OVISTO_OWN_SAMPLES "night.jpg"};
+    const struct {
+        const char* style;
+        const char* name;
+        std::vector<const char*> texts;
+    } cases[] = {
+        {"table.xsl", "Report.htm", {"<td>Castelmar Lumetra 35</td>", ">1/125 s<", ">f/8<", ">2023-05-14 06:42<"}},
+        {"csv.xsl",
+         "Report.txt",
+         {"little-endian.jpg,Mountain lake,2023-05-14 06:42,Castelmar Lumetra 35,Castelmar Zoom 24-70mm "
+          "F2.8-4,1/125,8,100,24,lake;mountains;morning;reflection\r\n",
+          "no-exif.jpg,,,,,,,,,\r\n", "\"Le quai éclairé, huit secondes de pose\""}},
+        {"list.xsl", "Report.txt", {"\r\n  1/125 s f/8 ISO 100 24 mm\r\n"}},
+        {"statistics.xsl",
+         "Report.htm",
+         {"Castelmar Lumetra 35</text><rect x=\"230\" y=\"3\" width=\"540\"", ">not known</text>", ">2023-12</text>"}},
+    };
+    for (const auto& c : cases) {
+        RecordingReporter reporter;
+        CountingProgress progress;
+        const ReportResult result = makeReport(
+            files, {OVISTO_DATA_FOLDER + std::string("reports/") + c.style, folder.path(""), {}}, progress, reporter);
+        EXPECT_EQ(result.path, folder.path(c.name));
+        EXPECT_TRUE(reporter.contexts.empty());
+        const Bytes report = contentOf(result.path);
+        for (const char* text : c.texts) {
+            const Bytes part = bytes(utf16Bytes(text));
+            EXPECT_FALSE(std::ranges::search(report, part).empty()) << c.style << " " << text;
+        }
+    }
+}
+
+TEST(KeywordFile, PartsLinesAtCarriageReturnAndLineFeedOnly)
+{
+    const TemporaryFolder folder;
+    const struct {
+        const char* content;
+        std::vector<std::string> keywords;
+    } cases[] = {
+        {"", {""}},
+        {"a\r\n\r\nb c\r\n", {"a", "", "b c", ""}},
+        {"a\nb\n", {"a\nb\n"}},
+        {"B\xE4r\r\nE\x80", {"Bär", "E€"}},
+        {"Bär", {"Bär"}},
+    };
+    RecordingReporter reporter;
+    std::vector<std::string> keywords;
+    for (const auto& c : cases) {
+        loadKeywords(folder.file("keywords.txt", c.content), keywords, reporter);
+        EXPECT_EQ(keywords, c.keywords) << c.content;
+    }
+    EXPECT_TRUE(reporter.contexts.empty());
+    loadKeywords(folder.path("none.txt"), keywords, reporter);
+    EXPECT_EQ(reporter.contexts, std::vector<std::string>{"Open File " + folder.path("none.txt")});
+    EXPECT_EQ(keywords, std::vector<std::string>{"Bär"}) << "the list stays";
+}
+
+TEST(KeywordFile, PutsABlankBetweenAKeywordAndItsNeighbours)
+{
+    const struct {
+        const char* name;
+        std::size_t length, start, selected;
+        const char* inserted;
+    } cases[] = {
+        {"empty field", 0, 0, 0, "beach"},    {"at the end", 6, 6, 0, " beach"},  {"at the start", 6, 0, 0, "beach "},
+        {"in the middle", 6, 3, 0, "beach "}, {"all selected", 6, 0, 6, "beach"}, {"end selected", 6, 3, 3, "beach"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(keywordInsertion("beach", c.length, c.start, c.selected), c.inserted) << c.name;
+}
+
+} // namespace ovisto::test
