@@ -11,6 +11,7 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 build=${1:-$root/build/release}
 output=${2:-$root/docs/images}
 photographs=/tmp/Photographs # the pictures show this name
+portable=/tmp/Ovisto         # and, where the program's own files are chosen from, this one
 work=$(mktemp -d)
 mkdir -p "$output"
 
@@ -19,9 +20,12 @@ fail() { echo "screenshots.sh: $1" >&2; exit 1; }
 cleanup() {
     [ -z "${program:-}" ] || kill "$program" 2>/dev/null || true
     [ -z "${screen:-}" ] || kill "$screen" 2>/dev/null || true
-    rm -rf "$work" "$photographs"
+    rm -rf "$work" "$photographs" "$portable"
 }
-[ ! -e "$photographs" ] || fail "$photographs is in the way"
+for folder in "$photographs" "$portable"; do
+    [ ! -e "$folder" ] || fail "$folder is in the way"
+done
+unset folder
 trap cleanup EXIT
 
 [ -x "$build/bin/ovisto" ] || fail "no $build/bin/ovisto; build it first"
@@ -31,6 +35,8 @@ done
 
 mkdir -p "$work/home/.config" "$work/runtime" "$photographs"
 chmod 700 "$work/runtime"
+mkdir "$portable"
+cp -r "$root/data/." "$build/bin/ovisto" "$portable"
 cp "$root"/samples/{little-endian,night,portrait,xmp}.jpg "$photographs"
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_RUNTIME_DIR=$work/runtime
 export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
@@ -45,10 +51,10 @@ export DISPLAY
 
 # start PLACEMENT [ARGUMENT...]: starts the program in a window at a place given in twips, 15 a pixel
 start() {
-    printf '[Lumetra]\nControlForm="%s"\nFolder=%s\nSearchWords=%s\n' "$1" "$photographs" "${words:-}" \
+    printf '[Lumetra]\nControlForm="%s"\nFolder="%s"\nSearchWords="%s"\n' "$1" "${folder:-$photographs}" "${words:-}" \
         >"$XDG_CONFIG_HOME/Castelmar.conf"
     shift
-    "$build/bin/ovisto" "$@" 2>/dev/null &
+    "$portable/ovisto" "$@" 2>/dev/null &
     program=$!
     sleep 2
     window=$(windows | tail -1)
@@ -139,14 +145,16 @@ shoot about
 stop
 
 # The choice of a folder, before there is any window, and before one.
-words="lake, mountain" start $large
+mkdir "$photographs"/{1985..2025}
+folder=$photographs/2005 words="lake, mountain" start $large
 shoot choose-first
 stop
-words="no photograph has this" start $large "$photographs"
+folder=$photographs/2005 words="no photograph has this" start $large "$photographs"
 click 150 42
 sleep 0.5
 shoot choose
 # A scan of many photographs, which takes its time.
+rmdir "$photographs"/{1985..2025}
 mkdir "$photographs/Archive"
 for ((i = 10000; i < 40000; ++i)); do ln "$photographs/night.jpg" "$photographs/Archive/night $i.jpg"; done
 xdotool windowfocus "$(front)"; key shift+Tab shift+Tab shift+Tab

@@ -8,7 +8,8 @@ namespace ovisto {
 
 FolderTree::FolderTree(QWidget* parent) : QTreeView(parent)
 {
-    m_folders.setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
+    m_icons.setOptions(QFileIconProvider::DontUseCustomDirectoryIcons);
+    m_folders.setIconProvider(&m_icons);
     m_folders.setFilter(QDir::Dirs | QDir::Drives | QDir::NoDotAndDotDot);
     m_folders.setRootPath(QDir::rootPath());
     setModel(&m_folders);

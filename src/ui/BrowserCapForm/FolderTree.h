@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFileIconProvider>
 #include <QFileSystemModel>
 #include <QString>
 #include <QTreeView>
@@ -31,6 +32,7 @@ protected:
 private:
     void keepInView();
 
+    QFileIconProvider m_icons; // before the model, which asks it from a thread of its own
     QFileSystemModel m_folders;
     bool m_settling = false; ///< nobody has scrolled or clicked since select()
 };

@@ -99,14 +99,14 @@ void ControlForm::listFiles(std::vector<std::string> found)
 
 void ControlForm::showBatch()
 {
+    moveFocusTo(*ui.BatchShower);
+    if (!leaveShownFile())
+        return;
     if (m_batch == nullptr || !m_batch->isVisible()) { // one that was closed may not be gone yet
         m_batch = new BatchForm(Merovel, ui.menuShowTechnical->isChecked(), m_surroundings.dialogs, this);
         m_batch->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_batch, &BatchForm::started, this, &ControlForm::runBatch);
     }
-    moveFocusTo(*ui.BatchShower);
-    if (!leaveShownFile())
-        return;
     m_batch->show();
     m_batch->activateWindow();
 }
