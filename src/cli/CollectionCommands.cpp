@@ -12,6 +12,7 @@
 #include "common/XmlTransform.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <optional>
 
@@ -83,6 +84,16 @@ NodeChange changeOf(const CommandLine& line, const TagDictionary& dictionary)
     if (const std::string reason = objection(change); !reason.empty())
         throw Error{kInvalidCall, line.nodePath + ": " + reason};
     return change;
+}
+
+/// Whether a JPEG file is there: the name of the output was forgotten, and the first of the files taken for it.
+bool isPhotograph(const std::string& path)
+{
+    std::array<std::uint8_t, 2> start{};
+    ErrorTrap trap;
+    if (!path.empty())
+        trap.run([&] { InputFile(path).readAt(0, start); });
+    return start == std::array<std::uint8_t, 2>{0xFF, 0xD8};
 }
 
 } // namespace
@@ -162,6 +173,10 @@ int runFind(const CommandLine& line)
 int runReport(const CommandLine& line, const std::vector<std::string>& files)
 {
     CommandOutput output;
+    if (isPhotograph(line.output)) {
+        output.fail(errorLine(line.output, "A photograph is not replaced by a report"));
+        return output.finish();
+    }
     Transformation report;
     ErrorTrap trap;
     trap.run([&] {

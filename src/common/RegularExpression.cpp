@@ -23,7 +23,10 @@ template <class T> using PatternPtr = std::unique_ptr<T, PatternFree>;
 
 constexpr std::uint32_t kCompileOptions =
     PCRE2_UTF | PCRE2_CASELESS | PCRE2_MULTILINE | PCRE2_ALT_BSUX | PCRE2_ALLOW_EMPTY_CLASS | PCRE2_MATCH_UNSET_BACKREF;
-constexpr std::uint32_t kMatchLimit = 5'000'000; ///< steps of a match; some tenths of a second
+// The compiled expression counts a step only now and then, and so is stopped early; what it did not decide by then is
+// left to the interpreter, which counts each.
+constexpr std::uint32_t kCompiledLimit = 1'000;
+constexpr std::uint32_t kInterpretedLimit = 5'000'000; ///< some tenths of a second
 constexpr std::size_t kJitStackStart = std::size_t{32} * 1024;
 constexpr std::size_t kJitStackMost = std::size_t{8} * 1024 * 1024;
 
@@ -77,7 +80,8 @@ std::string engineSpelling(std::string_view pattern)
 
 struct RegularExpression::Compiled {
     PatternPtr<pcre2_code> code;
-    PatternPtr<pcre2_match_context> context;
+    PatternPtr<pcre2_match_context> compiled;
+    PatternPtr<pcre2_match_context> interpreted;
 };
 
 RegularExpression::RegularExpression(const std::string& pattern) : m_compiled(std::make_unique<Compiled>())
@@ -96,9 +100,11 @@ RegularExpression::RegularExpression(const std::string& pattern) : m_compiled(st
     }
     // Where the processor has no such compiler, the expression is interpreted, as it would be without this.
     pcre2_jit_compile(m_compiled->code.get(), PCRE2_JIT_COMPLETE);
-    m_compiled->context.reset(pcre2_match_context_create(nullptr));
-    pcre2_set_match_limit(m_compiled->context.get(), kMatchLimit);
-    pcre2_jit_stack_assign(m_compiled->context.get(), threadStack, nullptr);
+    m_compiled->compiled.reset(pcre2_match_context_create(nullptr));
+    pcre2_set_match_limit(m_compiled->compiled.get(), kCompiledLimit);
+    pcre2_jit_stack_assign(m_compiled->compiled.get(), threadStack, nullptr);
+    m_compiled->interpreted.reset(pcre2_match_context_create(nullptr));
+    pcre2_set_match_limit(m_compiled->interpreted.get(), kInterpretedLimit);
 }
 
 RegularExpression::RegularExpression(RegularExpression&& other) noexcept = default;
@@ -108,8 +114,13 @@ RegularExpression::~RegularExpression() = default;
 bool RegularExpression::matches(std::string_view text) const
 {
     const PatternPtr<pcre2_match_data> data(pcre2_match_data_create(1, nullptr));
-    const int result = pcre2_match(m_compiled->code.get(), reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(), 0, 0,
-                                   data.get(), m_compiled->context.get());
+    const auto match = [&](std::uint32_t options, const PatternPtr<pcre2_match_context>& context) {
+        return pcre2_match(m_compiled->code.get(), reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(), 0, options,
+                           data.get(), context.get());
+    };
+    int result = match(0, m_compiled->compiled);
+    if (result == PCRE2_ERROR_MATCHLIMIT)
+        result = match(PCRE2_NO_JIT, m_compiled->interpreted);
     if (result == PCRE2_ERROR_NOMATCH)
         return false;
     if (result < 0)

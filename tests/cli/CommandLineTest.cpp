@@ -272,6 +272,16 @@ TEST(CommandLine, TellsUsageFromFailure)
     EXPECT_EQ(ovisto({"xml", "--files-from", "-"}).status, 0) << "an empty list is done at once";
 }
 
+TEST(CommandLine, DoesNotWriteAReportOverAPhotograph)
+{
+    const TemporaryFolder folder;
+    const std::string first = folder.file("a.jpg", fullPhotograph(true));
+    const std::string second = folder.file("b.jpg", fullPhotograph(true));
+    const std::string styleSheet = OVISTO_DATA_FOLDER "reports/list.xsl";
+    expectOneLine(ovisto({"report", "--style", styleSheet, "--output", first, second}), first, "not replaced");
+    EXPECT_EQ(contentOf(first), fullPhotograph(true));
+}
+
 TEST(CommandLine, NoticesThatItsOutputIsLost)
 {
     const TemporaryFolder folder;

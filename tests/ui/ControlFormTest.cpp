@@ -184,6 +184,18 @@ private Q_SLOTS:
         QVERIFY(window.dialogs.messages.isEmpty());
     }
 
+    void showsTheNodeAnewWhenItsItemIsClickedAgain()
+    {
+        Window window;
+        window.open({window.copy("night.jpg")});
+        window.select(kComment);
+        auto& hexadecimal = window.control<QCheckBox>("ViewHexOpt");
+        hexadecimal.setChecked(false);
+        QApplication::processEvents();
+        window.select(kComment);
+        QVERIFY(hexadecimal.isChecked());
+    }
+
     void keepsWhatCouldNotBeSaved()
     {
         Window window;

@@ -127,8 +127,15 @@ void ControlForm::connectControls()
     connect(ui.FilePropPaster, &QPushButton::clicked, this, &ControlForm::ditto);
     // Not the current item, which is there as soon as the tree has the focus.
     connect(ui.NodeTree, &QTreeWidget::itemSelectionChanged, this, [this] {
-        if (!ControlsUpdating)
-            nodeClicked(selectedItem());
+        if (ControlsUpdating)
+            return;
+        m_selectedByClick = true;
+        nodeClicked(selectedItem());
+    });
+    // A click on the item that was selected already shows its node anew.
+    connect(ui.NodeTree, &QTreeWidget::itemPressed, this, [this](const QTreeWidgetItem* item) {
+        if (!std::exchange(m_selectedByClick, false))
+            nodeClicked(item);
     });
     connect(ui.ViewHexOpt, &QCheckBox::toggled, this, &ControlForm::setValueFont);
     connect(ui.ViewHexOpt, &QCheckBox::toggled, this, [this] {

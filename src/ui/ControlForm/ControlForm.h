@@ -91,6 +91,7 @@ private:
     void generateReport();
 
     // The file shown
+    bool settleChanges();
     bool leaveShownFile();
     void OpenSelectedFile();
     bool findSelectedFile();
@@ -145,8 +146,9 @@ private:
     TagDictionary Merovel;
     ScanSettings m_scan;
     FoundFiles m_found;
-    QPointer<BatchForm> m_batch; ///< while it is open
-    QTimer m_selection;          ///< fires when a selection in the list has settled
+    QPointer<BatchForm> m_batch;    ///< while it is open
+    bool m_selectedByClick = false; // the press to come has selected the item, and its node is shown
+    QTimer m_selection;             ///< fires when a selection in the list has settled
 
     XmlDocument JpegDoc;           ///< of the file shown
     std::string CurrentFileName;   ///< full path of the file shown; empty when there is none

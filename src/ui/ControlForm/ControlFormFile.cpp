@@ -76,6 +76,17 @@ void ControlForm::showPicture()
     ui.Image1->showFile(CurrentFileName, m_reporter);
 }
 
+/// Offers to save the file shown, which stays. Returns false when its changes could not be saved.
+bool ControlForm::settleChanges()
+{
+    const SaveResult saved = OfferSave(true);
+    if (saved == SaveResult::Saved)
+        OpenSelectedFile();
+    else if (saved == SaveResult::Failed)
+        keepShownFile();
+    return saved != SaveResult::Failed;
+}
+
 /// Shows no file any more, its changes saved if the person wants that. Returns false when they could not be saved: the
 /// file is still shown then.
 bool ControlForm::leaveShownFile()
@@ -197,8 +208,8 @@ void ControlForm::saveAndReopen()
 void ControlForm::saveXml()
 {
     moveFocusTo(*ui.FileSaver);
-    if (OfferSave(true) == SaveResult::Saved)
-        OpenSelectedFile();
+    if (!settleChanges())
+        return;
     setCursor(Qt::WaitCursor);
     ErrorTrap trap; // what goes wrong has been reported when it gets here
     trap.run([&] { exportDocument(JpegDoc, CurrentFileName, m_reporter); });

@@ -130,8 +130,8 @@ void ControlForm::runBatch(const NodeChange& change)
 void ControlForm::generateReport()
 {
     moveFocusTo(*ui.FileFinder);
-    if (OfferSave(true) == SaveResult::Saved)
-        OpenSelectedFile();
+    if (!settleChanges())
+        return;
     const auto styleSheet = m_surroundings.dialogs.chooseFile(tr("Open Report"), pathText(m_surroundings.folders.data),
                                                               tr("XSL (*.xsl *.XSL);;All Files (*.*) (*)"));
     if (!styleSheet)
