@@ -244,7 +244,13 @@ void SlideForm::pause()
 /// Ends the show at the file that is shown now, which is opened in the main window.
 void SlideForm::endShow()
 {
-    const QModelIndex shown = m_surroundings.files.index(m_clockwork.row());
+    // The list may have lost files, or have been filled anew, since the picture came up.
+    const FoundFiles& files = m_surroundings.files;
+    int row = m_clockwork.row();
+    const bool isStillThere = hasCurrent() && row < files.rowCount() && files.path(row) == m_wanted.front().path;
+    if (hasCurrent() && !isStillThere)
+        row = files.rowOf(m_wanted.front().path).value_or(row);
+    const QModelIndex shown = files.index(row);
     // Before the file is opened: a question to save another must not stand behind the show.
     close();
     if (shown.isValid())
