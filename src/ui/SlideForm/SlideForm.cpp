@@ -134,6 +134,9 @@ void SlideForm::keyPressEvent(QKeyEvent* event)
         return scroll(event->key());
     if (modifiers != Qt::NoModifier || isModifier(event->key()))
         return QWidget::keyPressEvent(event);
+    // A key held down goes no faster than pictures come, or none of them would be seen.
+    if (event->isAutoRepeat() && m_isWaiting)
+        return;
     switch (event->key()) {
     case Qt::Key_Escape:
         return endShow();
