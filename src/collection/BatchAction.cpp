@@ -19,7 +19,7 @@ namespace ovisto {
 
 namespace {
 
-constexpr std::size_t kGroupFiles = 512;
+constexpr std::size_t kGroupFiles = 2048;
 constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< as much is on its way to the disk at most
 
 /// Keeps the first report about a file: those after it say what could not be done because of it.

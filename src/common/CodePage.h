@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ovisto {
 
@@ -18,6 +19,9 @@ char32_t codePageCharacter(std::uint8_t byte);
 
 /// The byte of `character`; that of "?" when the code page has none.
 std::uint8_t codePageByte(char32_t character);
+
+/// One byte for each character of the UTF-8 text.
+std::vector<std::uint8_t> codePageBytes(std::string_view text);
 
 /// Appends `character` to the UTF-8 text.
 void appendCharacter(std::string& text, char32_t character);

@@ -3,6 +3,7 @@
 #include "common/Error.h"
 
 #include <string>
+#include <type_traits>
 
 namespace ovisto {
 
@@ -21,12 +22,17 @@ public:
 /// Tells `reporter` that `error` happened in `context`.
 void ErrorReport(ErrorReporter& reporter, const std::string& context, const Error& error);
 
-/// Runs `step`. The error that it raises is reported in `context`, and raised again for the caller.
-template <class Step> void reported(ErrorReporter& reporter, const std::string& context, Step&& step)
+/// Runs `step`. The error that it raises is reported in `context`, and raised again for the caller. `context`: a text,
+/// or what makes it, where many steps come along and hardly any fails.
+template <class Context, class Step> void reported(ErrorReporter& reporter, const Context& context, Step&& step)
 {
     ErrorTrap trap;
     trap.run(std::forward<Step>(step));
-    if (trap.pending())
+    if (!trap.pending())
+        return;
+    if constexpr (std::is_invocable_v<Context>)
+        ErrorReport(reporter, context(), trap.error());
+    else
         ErrorReport(reporter, context, trap.error());
     trap.raise();
 }

@@ -221,11 +221,32 @@ void OutputFile::write(std::span<const std::uint8_t> bytes)
         flush();
 }
 
+std::int64_t OutputFile::writeFrom(const InputFile& file, std::int64_t offset, std::int64_t length)
+{
+    std::int64_t done = 0;
+    for (;;) {
+        if (m_buffer.size() >= kBufferSize)
+            flush();
+        const std::size_t start = m_buffer.size();
+        const auto size =
+            static_cast<std::size_t>(std::min(length - done, static_cast<std::int64_t>(kBufferSize - start)));
+        m_buffer.resize(start + size);
+        const std::size_t read =
+            file.readAt(offset + done, {reinterpret_cast<std::uint8_t*>(m_buffer.data()) + start, size});
+        m_buffer.resize(start + read);
+        done += static_cast<std::int64_t>(read);
+        if (read < size || done == length)
+            return done;
+    }
+}
+
 void OutputFile::flush()
 {
     // What could not be written is not tried again: the file is spoilt, and the error says so once.
-    const std::string buffer = std::exchange(m_buffer, {});
+    std::string buffer = std::exchange(m_buffer, {});
     writeAll(buffer);
+    buffer.clear();
+    m_buffer = std::move(buffer);
 }
 
 void OutputFile::writeAll(std::string_view rest)
@@ -242,6 +263,7 @@ void OutputFile::writeAll(std::string_view rest)
 void OutputFile::startSync()
 {
     flush();
+    std::string().swap(m_buffer); // many files may wait for their sync
 #ifdef SYNC_FILE_RANGE_WRITE
     // Only a hint: a file system that cannot do it has all its work left to sync().
     sync_file_range(m_handle.get(), 0, 0, SYNC_FILE_RANGE_WRITE);

@@ -47,6 +47,20 @@ std::int32_t Hex4ToLong(std::string_view text)
     return number;
 }
 
+std::vector<std::uint8_t> hexRunBytes(std::string_view text)
+{
+    std::vector<std::uint8_t> bytes((text.size() + 1) / 2);
+    const std::size_t pairs = text.size() / 2;
+    for (std::size_t i = 0; i < pairs; ++i) {
+        const auto high = static_cast<std::uint8_t>(text[2 * i]);
+        const auto low = static_cast<std::uint8_t>(text[2 * i + 1]);
+        bytes[i] = static_cast<std::uint8_t>(16 * kDigitValues[high] + kDigitValues[low]);
+    }
+    if (pairs < bytes.size())
+        bytes.back() = HexToByte(text.substr(2 * pairs));
+    return bytes;
+}
+
 void appendHexRun(std::string& text, std::span<const std::uint8_t> bytes)
 {
     const std::size_t start = text.size();

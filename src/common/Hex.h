@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ovisto {
 
@@ -16,6 +17,9 @@ std::uint8_t HexToByte(std::string_view text);
 
 /// The number that the first four characters of `text` name in hexadecimal ("9C9B" is 40091). Missing ones count as 0.
 std::int32_t Hex4ToLong(std::string_view text);
+
+/// The bytes that a run of digits names, two each; a digit left over at the end stands for both digits of a byte.
+std::vector<std::uint8_t> hexRunBytes(std::string_view text);
 
 /// Appends two upper-case hexadecimal digits for each byte, nothing between them.
 void appendHexRun(std::string& text, std::span<const std::uint8_t> bytes);

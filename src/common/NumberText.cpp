@@ -58,6 +58,10 @@ std::string numberText(std::int64_t number)
 
 std::int32_t toLong(std::string_view text)
 {
+    std::int32_t number = 0;
+    const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (status == std::errc() && end == text.data() + text.size())
+        return number; // as nearly all are
     const double rounded = std::nearbyint(toDouble(text));
     if (rounded < std::numeric_limits<std::int32_t>::min() || rounded > std::numeric_limits<std::int32_t>::max())
         throw systemError(kOverflow);

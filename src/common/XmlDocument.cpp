@@ -122,12 +122,14 @@ bool declaresElements(const xmlDoc& doc)
            (doc.intSubset != nullptr && (doc.intSubset->elements != nullptr || doc.intSubset->SystemID != nullptr));
 }
 
+constexpr std::size_t kPerTag = 200;
+constexpr std::size_t kPerAttribute = 200;
+constexpr std::size_t kNodeMemoryFree = std::size_t{24} * 1024 * 1024; ///< more must be in proportion to the text
+
 /// About what the nodes of `text` take in memory: an element, its two tags in the text, with its text node; and an
 /// attribute with its value.
 std::size_t nodeMemory(std::string_view text)
 {
-    constexpr std::size_t kPerTag = 200;
-    constexpr std::size_t kPerAttribute = 200;
     std::size_t memory = 0;
     while (!text.empty()) {
         // What is in a CDATA section is no markup.
@@ -141,7 +143,12 @@ std::size_t nodeMemory(std::string_view text)
     return memory;
 }
 
-constexpr std::size_t kNodeMemoryFree = std::size_t{24} * 1024 * 1024; ///< more must be in proportion to the text
+/// Whether the nodes of `text` may take more memory than is in proportion to it. A short text need not be looked at.
+bool takesTooMuchMemory(std::string_view text)
+{
+    const bool isShort = text.size() * std::max(kPerTag, kPerAttribute) <= kNodeMemoryFree;
+    return !isShort && nodeMemory(text) > kNodeMemoryFree + text.size();
+}
 
 /// Holds the document type that `doc` declares, if it does, against its content.
 std::optional<XmlParseError> validate(xmlDoc* doc, std::string_view source)
@@ -179,7 +186,7 @@ std::optional<XmlParseError> XmlDocument::loadText(std::string_view text)
 {
     m_content.reset();
     initialiseParser();
-    if (nodeMemory(text) > kNodeMemoryFree + text.size() || text.size() > std::numeric_limits<int>::max())
+    if (takesTooMuchMemory(text) || text.size() > std::numeric_limits<int>::max())
         return parseError(systemError(kOutOfMemory));
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
     // Only without its limits does the parser take a long run of digits for one text, but also any depth of nesting.

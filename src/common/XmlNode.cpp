@@ -36,6 +36,28 @@ xmlNode* attach(xmlNode* node)
     return released;
 }
 
+/// The content of an element or attribute that has one text below it, as most have, where it stands; else null.
+const xmlChar* onlyText(const xmlNode* first)
+{
+    const bool isOnlyText = first != nullptr && first->next == nullptr && first->type == XML_TEXT_NODE;
+    return isOnlyText ? first->content : nullptr;
+}
+
+bool isNamed(const xmlNode* node, std::string_view name)
+{
+    return node->type == XML_ELEMENT_NODE && node->ns == nullptr && name == reinterpret_cast<const char*>(node->name);
+}
+
+/// The node that follows `node` in document order, below `top`; none at the end.
+xmlNode* nextBelow(xmlNode* node, const xmlNode* top)
+{
+    if (node->type == XML_ELEMENT_NODE && node->children != nullptr)
+        return node->children;
+    while (node != top && node->next == nullptr)
+        node = node->parent;
+    return node != top ? node->next : nullptr;
+}
+
 void ignoreError(void* /*context*/, xmlError* /*error*/) {}
 
 /// One for all expressions of a thread: making it, with all the functions there are, would take longer than most
@@ -89,6 +111,8 @@ bool XmlNode::isCData() const
 
 std::string XmlNode::text() const
 {
+    if (const xmlChar* content = isElement() ? onlyText(m_node->children) : nullptr)
+        return toString(content);
     return toString(XmlPtr<xmlChar>(m_node != nullptr ? xmlNodeGetContent(m_node) : nullptr).get());
 }
 
@@ -106,7 +130,12 @@ void XmlNode::setText(std::string_view text)
 
 std::string XmlNode::attribute(const char* name) const
 {
-    return isElement() ? toString(XmlPtr<xmlChar>(xmlGetProp(m_node, xmlText(name))).get()) : std::string();
+    const xmlAttr* found = isElement() ? xmlHasProp(m_node, xmlText(name)) : nullptr;
+    if (found == nullptr)
+        return {};
+    if (const xmlChar* content = found->type == XML_ATTRIBUTE_NODE ? onlyText(found->children) : nullptr)
+        return toString(content);
+    return toString(XmlPtr<xmlChar>(xmlGetProp(m_node, xmlText(name))).get());
 }
 
 void XmlNode::setAttribute(const char* name, std::string_view value)
@@ -138,6 +167,35 @@ std::vector<XmlNode> XmlNode::childElements() const
 {
     std::vector<XmlNode> elements = children();
     std::erase_if(elements, [](const XmlNode& child) { return !child.isElement(); });
+    return elements;
+}
+
+std::vector<XmlNode> XmlNode::childElements(std::string_view name) const
+{
+    std::vector<XmlNode> elements;
+    for (xmlNode* child = m_node != nullptr ? m_node->children : nullptr; child != nullptr; child = child->next) {
+        if (isNamed(child, name))
+            elements.emplace_back(child);
+    }
+    return elements;
+}
+
+XmlNode XmlNode::childElement(std::string_view name) const
+{
+    xmlNode* child = m_node != nullptr ? m_node->children : nullptr;
+    while (child != nullptr && !isNamed(child, name))
+        child = child->next;
+    return XmlNode(child);
+}
+
+std::vector<XmlNode> XmlNode::descendants(std::string_view name) const
+{
+    std::vector<XmlNode> elements;
+    for (xmlNode* node = m_node != nullptr ? m_node->children : nullptr; node != nullptr;
+         node = nextBelow(node, m_node)) {
+        if (isNamed(node, name))
+            elements.emplace_back(node);
+    }
     return elements;
 }
 

@@ -46,6 +46,12 @@ public:
     /// The nodes below, in order, texts included.
     std::vector<XmlNode> children() const;
     std::vector<XmlNode> childElements() const;
+    /// Those that have this name, without a prefix.
+    std::vector<XmlNode> childElements(std::string_view name) const;
+    /// The first of them.
+    XmlNode childElement(std::string_view name) const;
+    /// All elements of this name, without a prefix, at any depth below, in document order.
+    std::vector<XmlNode> descendants(std::string_view name) const;
     /// The document node that the node belongs to.
     XmlNode document() const;
 

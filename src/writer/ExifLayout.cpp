@@ -48,7 +48,7 @@ std::int64_t wideLength(const std::string& text)
 
 std::int64_t itemCount(const std::string& text)
 {
-    return static_cast<std::int64_t>(split(text, ',').size());
+    return std::ranges::count(text, ',') + 1;
 }
 
 /// How the values of a data type are counted and placed.
@@ -80,6 +80,14 @@ const TypeLayout* typeLayout(int dataType)
     return row != std::end(kTypeLayouts) ? row : nullptr;
 }
 
+/// The entry of `directory` that has this tag, as four hexadecimal digits.
+XmlNode entryOf(const XmlNode& directory, std::string_view tag)
+{
+    const std::vector<XmlNode> entries = directory.childElements("IFD");
+    const auto found = std::ranges::find(entries, tag, [](const XmlNode& entry) { return AttributeGet(entry, "id"); });
+    return found != entries.end() ? *found : XmlNode();
+}
+
 /// Bytes that the hexadecimal text of an element stands for.
 std::int64_t hexLength(const XmlNode& element)
 {
@@ -103,12 +111,12 @@ void advance(std::int64_t& pos, std::int64_t bytes)
 void countComponents(const XmlNode& exif)
 {
     std::string inside = "0"; // an entry of an unknown type takes over that of the one before
-    for (XmlNode entry : exif.selectNodes(".//IFD")) {
+    for (XmlNode entry : exif.descendants("IFD")) {
         const int tag = tagOf(entry);
         const std::string text = entry.text();
         std::int64_t count = 0;
         if (tag == kMakerNote) {
-            count = hexLength(exif.selectSingleNode("IFDE/MAKE"));
+            count = hexLength(exif.childElement("IFDE").childElement("MAKE"));
             inside = "1";
         } else if (isFourByteTag(tag)) {
             count = kFieldSize;
@@ -134,9 +142,10 @@ std::int64_t sizeOutside(const XmlNode& entry)
 }
 
 /// Lays out the directory `name` of `exif`, if it is there, and points `pointer` at it; 0 where it is not.
-void layOutDirectory(std::int64_t& pos, const XmlNode& exif, const char* name, XmlNode pointer, ErrorReporter& reporter)
+void layOutDirectory(std::int64_t& pos, const XmlNode& exif, std::string_view name, XmlNode pointer,
+                     ErrorReporter& reporter)
 {
-    const XmlNode directory = exif.selectSingleNode(name);
+    const XmlNode directory = exif.childElement(name);
     if (!directory) {
         pointer.setText("0");
         return;
@@ -148,8 +157,8 @@ void layOutDirectory(std::int64_t& pos, const XmlNode& exif, const char* name, X
 /// A maker note without an entry that points to it is placed all the same, so that its bytes are not lost.
 void layOutMakerNote(std::int64_t& pos, const XmlNode& exif, ErrorReporter& reporter)
 {
-    XmlNode pointer = exif.selectSingleNode("IFDE/IFD[@id='927C']");
-    const XmlNode makerNote = exif.selectSingleNode("IFDE/MAKE");
+    XmlNode pointer = entryOf(exif.childElement("IFDE"), "927C");
+    const XmlNode makerNote = exif.childElement("IFDE").childElement("MAKE");
     if (!makerNote) {
         pointer.setText("0");
         return;
@@ -164,7 +173,7 @@ void layOutMakerNote(std::int64_t& pos, const XmlNode& exif, ErrorReporter& repo
 
 void layOutThumbnailDirectory(std::int64_t& pos, const XmlNode& exif, ErrorReporter& reporter)
 {
-    const XmlNode directory = exif.selectSingleNode("IFD1");
+    const XmlNode directory = exif.childElement("IFD1");
     if (!directory) {
         AttributeSet(exif, "lo", "0");
         return;
@@ -172,16 +181,16 @@ void layOutThumbnailDirectory(std::int64_t& pos, const XmlNode& exif, ErrorRepor
     AttributeSet(exif, "lo", std::to_string(pos));
     CalcOffsets(pos, directory, reporter);
 
-    const XmlNode thumbnail = directory.selectSingleNode("THUM");
+    const XmlNode thumbnail = directory.childElement("THUM");
     const std::int64_t length = hexLength(thumbnail);
-    XmlNode stripOffsets = directory.selectSingleNode("IFD[@id='0111']");
+    XmlNode stripOffsets = entryOf(directory, "0111");
     if (stripOffsets) {
         // Kept as files have always been written: the step that should set StripByteCounts (0117) never finds that
         // entry, and so the length goes into StripOffsets again, over the offset.
         stripOffsets.setText(std::to_string(thumbnail ? length : pos));
     } else if (thumbnail) {
-        directory.selectSingleNode("IFD[@id='0201']").setText(std::to_string(pos));
-        directory.selectSingleNode("IFD[@id='0202']").setText(std::to_string(length));
+        entryOf(directory, "0201").setText(std::to_string(pos));
+        entryOf(directory, "0202").setText(std::to_string(length));
     }
     advance(pos, length);
 }
@@ -194,8 +203,8 @@ std::int64_t layOutExif(const XmlNode& exif, ErrorReporter& reporter)
 
     std::int64_t pos = kTiffHeaderSize;
     CalcOffsets(pos, exif, reporter);
-    layOutDirectory(pos, exif, "IFDE", exif.selectSingleNode("IFD[@id='8769']"), reporter);
-    layOutDirectory(pos, exif, "IFDI", exif.selectSingleNode("IFDE/IFD[@id='A005']"), reporter);
+    layOutDirectory(pos, exif, "IFDE", entryOf(exif, "8769"), reporter);
+    layOutDirectory(pos, exif, "IFDI", entryOf(exif.childElement("IFDE"), "A005"), reporter);
     layOutMakerNote(pos, exif, reporter);
     layOutThumbnailDirectory(pos, exif, reporter);
     return pos;
@@ -205,9 +214,11 @@ void CalcOffsets(std::int64_t& pos, XmlNode directory, ErrorReporter& reporter)
 {
     reported(reporter, "Exif Offset Calculation failed", [&] {
         AttributeSet(directory, "o", std::to_string(pos));
-        const auto entries = static_cast<std::int64_t>(directory.selectNodes("IFD").size());
-        advance(pos, kEntrySize * entries + kDirectoryFrameSize);
-        for (const XmlNode& entry : directory.selectNodes("IFD[@s='0']")) {
+        const std::vector<XmlNode> entries = directory.childElements("IFD");
+        advance(pos, kEntrySize * static_cast<std::int64_t>(entries.size()) + kDirectoryFrameSize);
+        for (const XmlNode& entry : entries) {
+            if (AttributeGet(entry, "s") != "0")
+                continue;
             AttributeSet(entry, "o", std::to_string(pos));
             advance(pos, sizeOutside(entry));
         }

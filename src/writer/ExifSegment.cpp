@@ -80,8 +80,9 @@ constexpr ValueWriter kValueWriters[] = {
 void writeEntryValue(SegmentWriter& writer, const XmlNode& entry, int dataType)
 {
     const std::string text = entry.text();
-    reported(writer.reporter(), "Data format " + std::to_string(dataType) + " error:" + text,
-             [&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
+    reported(
+        writer.reporter(), [&] { return "Data format " + std::to_string(dataType) + " error:" + text; },
+        [&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
 }
 
 bool standsInside(const XmlNode& entry)
@@ -114,11 +115,11 @@ void WriteExif(SegmentWriter& writer, XmlNode exif)
             trap.run([&] { writer.WriteHex(element.text()); });
     };
     writeDirectory(exif);
-    writeDirectory(exif.selectSingleNode("IFDE"));
-    writeDirectory(exif.selectSingleNode("IFDI"));
-    writeBytes(exif.selectSingleNode("IFDE/MAKE"));
-    writeDirectory(exif.selectSingleNode("IFD1"));
-    writeBytes(exif.selectSingleNode("IFD1/THUM"));
+    writeDirectory(exif.childElement("IFDE"));
+    writeDirectory(exif.childElement("IFDI"));
+    writeBytes(exif.childElement("IFDE").childElement("MAKE"));
+    writeDirectory(exif.childElement("IFD1"));
+    writeBytes(exif.childElement("IFD1").childElement("THUM"));
 
     // A value that does not fill its entry, or is of a type that cannot be written, is shorter than it was laid out.
     if (!trap.pending())
@@ -131,7 +132,7 @@ void WriteExif(SegmentWriter& writer, XmlNode exif)
 
 void WriteIFD(SegmentWriter& writer, const XmlNode& directory)
 {
-    const std::vector<XmlNode> entries = directory.selectNodes("IFD");
+    const std::vector<XmlNode> entries = directory.childElements("IFD");
     writer.WriteInteger(static_cast<std::int64_t>(entries.size()));
     for (const XmlNode& entry : entries) {
         const int dataType = dataTypeOf(entry);

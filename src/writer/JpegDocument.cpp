@@ -79,8 +79,7 @@ constexpr ElementWriter kElementWriters[] = {
 /// what a reader says of the file as it is now.
 void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& to)
 {
-    constexpr std::int64_t kChunk = std::int64_t{1} << 20;
-    const std::vector<XmlNode> images = document.selectNodes("/JPEG/IMG");
+    const std::vector<XmlNode> images = document.node().childElement("JPEG").childElements("IMG");
     if (images.empty())
         throw systemError(kObjectNotSet);
     if (images.size() > 1)
@@ -90,21 +89,11 @@ void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& t
     if (!place || AttributeGet(image, "offset") != numberText(place->offset) ||
         AttributeGet(image, "length") != numberText(place->length))
         throw Error{kInvalidCall, "The file was changed after it was read"};
-    std::int64_t offset = std::int64_t{attributeToLong(AttributeGet(image, "offset"))} - 1;
-    std::int64_t left = std::int64_t{attributeToLong(AttributeGet(image, "length"))} + 1;
-    if (offset < 0)
+    const std::int64_t offset = std::int64_t{attributeToLong(AttributeGet(image, "offset"))} - 1;
+    const std::int64_t length = std::int64_t{attributeToLong(AttributeGet(image, "length"))} + 1;
+    if (offset < 0 || length < 0)
         throw systemError(kInvalidCall);
-    std::vector<std::uint8_t> chunk(static_cast<std::size_t>(std::min(left, kChunk)));
-    while (left > 0) {
-        const auto size = static_cast<std::size_t>(std::min(left, kChunk));
-        const std::size_t read = from.readAt(offset, {chunk.data(), size});
-        to.write({chunk.data(), read});
-        if (read < size)
-            break;
-        offset += static_cast<std::int64_t>(read);
-        left -= static_cast<std::int64_t>(read);
-    }
-    to.flush();
+    to.writeFrom(from, offset, length);
 }
 
 } // namespace
@@ -148,7 +137,7 @@ void JpegDocument::finishTemporary(NewVersion& version)
 void JpegDocument::writeSegments(XmlDocument& document, OutputFile& file)
 {
     SegmentWriter writer(file, m_reporter);
-    for (const XmlNode& element : document.selectNodes("/JPEG/*")) {
+    for (const XmlNode& element : document.node().childElement("JPEG").childElements()) {
         writer.IntelOrder = false;
         const auto* row = std::ranges::find(kElementWriters, element.name(), &ElementWriter::name);
         if (row == std::end(kElementWriters))

@@ -25,21 +25,7 @@ std::string oneByteACharacter(std::string_view text)
 /// The bytes that a text of hexadecimal digits names.
 std::vector<std::uint8_t> bytesOf(std::string_view hex)
 {
-    if (characterCount(hex) != hex.size())
-        return bytesOf(oneByteACharacter(hex));
-    std::vector<std::uint8_t> bytes;
-    bytes.reserve(hex.size() / 2 + 1);
-    for (std::size_t i = 0; i < hex.size(); i += 2)
-        bytes.push_back(HexToByte(hex.substr(i, 2)));
-    return bytes;
-}
-
-std::vector<std::uint8_t> codePageBytes(std::string_view text)
-{
-    std::vector<std::uint8_t> bytes;
-    for (const char32_t character : characters(text))
-        bytes.push_back(codePageByte(character));
-    return bytes;
+    return hexRunBytes(characterCount(hex) == hex.size() ? hex : oneByteACharacter(hex));
 }
 
 } // namespace
@@ -60,21 +46,25 @@ void SegmentWriter::WriteSegmentHex(std::string_view hex)
 
 void SegmentWriter::WriteInteger(std::int64_t number)
 {
-    reported(m_reporter, "Temp file write integer " + std::to_string(number), [&] {
-        writeNumber(number, 2);
-        if (number < 0 || number > std::numeric_limits<std::uint16_t>::max())
-            throw systemError(kOverflow);
-    });
+    reported(
+        m_reporter, [&] { return "Temp file write integer " + std::to_string(number); },
+        [&] {
+            writeNumber(number, 2);
+            if (number < 0 || number > std::numeric_limits<std::uint16_t>::max())
+                throw systemError(kOverflow);
+        });
 }
 
 // Numbers were signed when files of this format were first written: the upper half of the range fails to this day.
 void SegmentWriter::WriteLong(std::int64_t number)
 {
-    reported(m_reporter, "Temp file write long " + std::to_string(number), [&] {
-        writeNumber(number, 4);
-        if (number < 0 || number > std::numeric_limits<std::int32_t>::max())
-            throw systemError(kOverflow);
-    });
+    reported(
+        m_reporter, [&] { return "Temp file write long " + std::to_string(number); },
+        [&] {
+            writeNumber(number, 4);
+            if (number < 0 || number > std::numeric_limits<std::int32_t>::max())
+                throw systemError(kOverflow);
+        });
 }
 
 void SegmentWriter::WriteNarrowString(std::string_view text)
@@ -126,9 +116,11 @@ void SegmentWriter::writeNumber(std::int64_t number, std::size_t size)
     writeBytes({bytes.data(), size});
 }
 
+/// Up to four.
 void SegmentWriter::writeZeros(std::size_t count)
 {
-    writeBytes(std::vector<std::uint8_t>(count));
+    constexpr std::array<std::uint8_t, 4> kZeros{};
+    writeBytes({kZeros.data(), count});
 }
 
 void checkSegmentLength(std::int64_t said, std::int64_t written)

@@ -11,6 +11,8 @@
 
 #include <filesystem>
 
+#include <sys/resource.h>
+
 namespace ovisto::test {
 
 namespace fs = std::filesystem;
@@ -99,9 +101,11 @@ TEST_F(BatchActionTest, SparesAFileThatHasTheTemporaryNameOfAnother)
 
 TEST_F(BatchActionTest, WritesMoreThanAGroupAndNothingThatIsTheSame)
 {
-    const std::vector<std::string> files = photographs(600);
+    const rlimit fewOpenFiles{.rlim_cur = 256, .rlim_max = 256};
+    setrlimit(RLIMIT_NOFILE, &fewOpenFiles);
+    const std::vector<std::string> files = photographs(300);
     const BatchAction batch(files, titled("New"));
-    EXPECT_LT(batch.groupSize(), files.size());
+    ASSERT_LT(batch.groupSize(), files.size());
     batch.run(progress, reporter);
     for (const std::string& file : {files.front(), files[batch.groupSize()], files.back()})
         EXPECT_EQ(titleOf(file), "New");
