@@ -64,8 +64,8 @@ public:
 
     void write(std::span<const std::uint8_t> bytes);
 
-    /// Writes up to `length` bytes of `file` from `offset` (the first byte is 0) on, and returns how many that was: fewer
-    /// only where the file ends.
+    /// Writes up to `length` bytes of `file` from `offset` (the first byte is 0) on, and returns how many that was:
+    /// fewer only where the file ends.
     std::int64_t writeFrom(const InputFile& file, std::int64_t offset, std::int64_t length);
 
     /// Hands to the system what is still in the buffer, so that a full disk shows now.
