@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Prints how the work over many files compares, as ratios of times taken side by side:
-#   bench/collection.sh [FOLDER]     (FOLDER: where to put some 300 MB for the time being; default: a temporary one)
+#   bench/collection.sh [FOLDER]     (FOLDER: where to put some 2 GB for the time being; default: a temporary one)
 # find: the words are looked for in 20,000 small photographs made from the samples, against cat of the same bytes.
 # set: a title for 2,000 photographs, against cp and sync of them, exiv2 and exiftool. Only ours waits for the disk by
-# itself; so the others are also shown with a sync behind them. The best of five rounds counts.
+# itself; so the others are also shown with a sync behind them. The best round counts.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/install.sh
@@ -61,41 +61,42 @@ for number in $(seq 400); do
         cp "$samples/$kind.jpg" "photographs/$kind$number.jpg"
     done
 done
-fresh() {
-    rm -rf copy
-    mkdir copy
-    cp photographs/*.jpg copy
-    sync
-}
+# Each run has a folder of its own, and none is deleted before the end: for minutes after files were deleted or replaced,
+# ext4 looks at each of them again for every file that is created near them. The attribute keeps the folders apart.
+rounds=3
+mkdir runs
+chattr +T runs 2>/dev/null || true
+for round in $(seq "$rounds"); do
+    mkdir "runs/cp$round"
+    for run in set set_one exiv2 exiv2_sync exiftool exiftool_sync; do
+        cp -r photographs "runs/$run$round"
+    done
+done
+sync
 cp_sync() {
-    cp photographs/*.jpg copy
+    cp photographs/*.jpg "$1"
     sync
 }
-set_all() { find copy -name '*.jpg' -print0 | "$cli" set "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']" Title --files-from - -0 "$@"; }
-exiv2_all() { exiv2 -M 'set Exif.Image.XPTitle Byte 84 0 105 0 116 0 108 0 101 0 0 0' copy/*.jpg || true; }
-exiftool_all() { exiftool -q -q -m -overwrite_original -XPTitle=Title copy || true; }
+set_all() {
+    local folder=$1
+    shift
+    find "$folder" -name '*.jpg' -print0 |
+        "$cli" set "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']" Title --files-from - -0 "$@"
+}
+exiv2_all() { exiv2 -M 'set Exif.Image.XPTitle Byte 84 0 105 0 116 0 108 0 101 0 0 0' "$1"/*.jpg || true; }
+exiftool_all() { exiftool -q -q -m -overwrite_original -XPTitle=Title "$1" || true; }
 with_sync() {
     "$@"
     sync
 }
-for round in 1 2 3 4 5; do
-    rm -rf copy
-    mkdir copy
-    sync
-    shortest cp_time cp_sync
-    shortest set_time set_all
-    fresh
-    shortest set_one_time set_all --jobs 1
-    fresh
-    shortest exiv2_time exiv2_all
-    fresh
-    shortest exiv2_sync_time with_sync exiv2_all
-    if [ "$round" -le 2 ]; then
-        fresh
-        shortest exiftool_time exiftool_all
-        fresh
-        shortest exiftool_sync_time with_sync exiftool_all
-    fi
+for round in $(seq "$rounds"); do
+    shortest cp_time cp_sync "runs/cp$round"
+    shortest set_time set_all "runs/set$round"
+    shortest set_one_time set_all "runs/set_one$round" --jobs 1
+    shortest exiv2_time exiv2_all "runs/exiv2$round"
+    shortest exiv2_sync_time with_sync exiv2_all "runs/exiv2_sync$round"
+    shortest exiftool_time exiftool_all "runs/exiftool$round"
+    shortest exiftool_sync_time with_sync exiftool_all "runs/exiftool_sync$round"
 done
 echo "set, a title for 2,000 photographs:"
 row() { printf '  %-28s %6d ms\n' "$@"; }

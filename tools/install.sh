@@ -1,7 +1,7 @@
 # Sourced by the scripts that build and test: what the project needs, as Debian 12 packages, and how to install it.
 
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libxml2-dev libxslt1-dev libpcre2-dev libcli11-dev libutfcpp-dev
-    qt6-base-dev)
+    libmimalloc-dev qt6-base-dev)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libxml2-utils libimage-exiftool-perl)
 LINT_PACKAGES=(clang-format clang-tidy)
 

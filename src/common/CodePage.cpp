@@ -124,8 +124,11 @@ void appendCharacters(std::string& text, std::span<const std::uint8_t> bytes, Co
 
 bool isUtf8(std::string_view text)
 {
-    text.remove_prefix(asciiPrefix(text));
-    return utf8::is_valid(text.begin(), text.end());
+    bool isValid = true;
+    forEachStretch(
+        text, [](std::string_view) {},
+        [&](std::string_view other) { isValid = isValid && utf8::is_valid(other.begin(), other.end()); });
+    return isValid;
 }
 
 void forEachCharacter(std::string_view text, const std::function<void(char32_t)>& use)

@@ -74,11 +74,13 @@ void appendHexRun(std::string& text, std::span<const std::uint8_t> bytes)
 
 std::string hexNumber(std::uint32_t number, std::size_t width)
 {
-    std::string text;
-    do {
-        text.insert(text.begin(), kDigits[number % 16]);
+    while (width < 2 * sizeof(number) && number >> (4 * width) != 0)
+        ++width;
+    std::string text(width, kDigits.front());
+    for (auto digit = text.rbegin(); number != 0; ++digit) {
+        *digit = kDigits[number % 16];
         number /= 16;
-    } while (number != 0 || text.size() < width);
+    }
     return text;
 }
 

@@ -70,7 +70,8 @@ std::int32_t toLong(std::string_view text)
 
 std::int32_t attributeToLong(std::string_view text)
 {
-    return toLong("0" + std::string(text));
+    const bool startsWithDigit = !text.empty() && text.front() >= '0' && text.front() <= '9';
+    return startsWithDigit ? toLong(text) : toLong("0" + std::string(text));
 }
 
 std::vector<std::string_view> split(std::string_view text, char separator)

@@ -113,14 +113,15 @@ RegularExpression::~RegularExpression() = default;
 
 bool RegularExpression::matches(std::string_view text) const
 {
+    const std::uint32_t checkedBefore = isUtf8(text) ? PCRE2_NO_UTF_CHECK : 0; // the engine would take far longer
     const PatternPtr<pcre2_match_data> data(pcre2_match_data_create(1, nullptr));
     const auto match = [&](std::uint32_t options, const PatternPtr<pcre2_match_context>& context) {
         return pcre2_match(m_compiled->code.get(), reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(), 0, options,
                            data.get(), context.get());
     };
-    int result = match(0, m_compiled->compiled);
+    int result = match(checkedBefore, m_compiled->compiled);
     if (result == PCRE2_ERROR_MATCHLIMIT)
-        result = match(PCRE2_NO_JIT, m_compiled->interpreted);
+        result = match(checkedBefore | PCRE2_NO_JIT, m_compiled->interpreted);
     if (result == PCRE2_ERROR_NOMATCH)
         return false;
     if (result < 0)

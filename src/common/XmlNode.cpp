@@ -43,6 +43,15 @@ const xmlChar* onlyText(const xmlNode* first)
     return isOnlyText ? first->content : nullptr;
 }
 
+/// The attribute of this name, without a prefix, that the element itself has.
+const xmlAttr* ownAttribute(const xmlNode* element, std::string_view name)
+{
+    const xmlAttr* attribute = element->properties;
+    while (attribute != nullptr && (attribute->ns != nullptr || name != reinterpret_cast<const char*>(attribute->name)))
+        attribute = attribute->next;
+    return attribute;
+}
+
 bool isNamed(const xmlNode* node, std::string_view name)
 {
     return node->type == XML_ELEMENT_NODE && node->ns == nullptr && name == reinterpret_cast<const char*>(node->name);
@@ -130,12 +139,14 @@ void XmlNode::setText(std::string_view text)
 
 std::string XmlNode::attribute(const char* name) const
 {
-    const xmlAttr* found = isElement() ? xmlHasProp(m_node, xmlText(name)) : nullptr;
-    if (found == nullptr)
+    if (!isElement())
         return {};
-    if (const xmlChar* content = found->type == XML_ATTRIBUTE_NODE ? onlyText(found->children) : nullptr)
+    const xmlAttr* own = ownAttribute(m_node, name);
+    if (own == nullptr && m_node->doc->intSubset == nullptr)
+        return {};
+    if (const xmlChar* content = own != nullptr ? onlyText(own->children) : nullptr)
         return toString(content);
-    return toString(XmlPtr<xmlChar>(xmlGetProp(m_node, xmlText(name))).get());
+    return toString(XmlPtr<xmlChar>(xmlGetProp(m_node, xmlText(name))).get()); // such as a document type's default
 }
 
 void XmlNode::setAttribute(const char* name, std::string_view value)

@@ -4,6 +4,7 @@
 #include "common/NumberText.h"
 
 #include <algorithm>
+#include <array>
 
 namespace ovisto {
 
@@ -12,11 +13,19 @@ namespace {
 constexpr std::uint8_t kFirstKept = 32;
 constexpr std::uint8_t kFirstReferenced = 129; // not 128, the euro sign: documents in use have it as it is
 
-constexpr bool isPlain(char character)
+/// Which bytes stand for themselves, as nearly all do.
+constexpr auto kPlain = [] {
+    std::array<bool, 256> plain{};
+    for (std::size_t code = kFirstKept; code < 128; ++code)
+        plain[code] = true;
+    for (const char markup : {'"', '\'', '<', '>', '&'})
+        plain[static_cast<std::uint8_t>(markup)] = false;
+    return plain;
+}();
+
+bool isPlain(char character)
 {
-    constexpr std::string_view kMarkup = "\"'<>&";
-    const auto code = static_cast<std::uint8_t>(character);
-    return code >= kFirstKept && code < 128 && kMarkup.find(character) == std::string_view::npos;
+    return kPlain[static_cast<std::uint8_t>(character)];
 }
 
 void appendSanitized(std::string& text, char32_t character)

@@ -144,7 +144,6 @@ void JpegDocument::writeSegments(XmlDocument& document, OutputFile& file)
             continue;
         row->write(writer, element);
     }
-    file.flush();
 }
 
 void JpegDocument::replaceOld(const NewVersion& version)
