@@ -71,7 +71,7 @@ public:
     /// Hands to the system what is still in the buffer, so that a full disk shows now.
     void flush();
 
-    /// Flushes, and has the disk begin with what was written, without waiting for it: a sync() to come is then short.
+    /// Flushes, and has the disk begin with a large file, without waiting for it: a sync() to come is then short.
     /// To be called behind the last write: it gives the buffer away.
     void startSync();
 
@@ -94,6 +94,7 @@ private:
 
     FileHandle m_handle;
     std::string m_buffer;
+    std::int64_t m_written = 0; // bytes that the system has
 };
 
 enum class ReplaceStep { Delete, Rename };

@@ -257,6 +257,7 @@ void OutputFile::writeAll(std::string_view rest)
         if (count == 0)
             throw systemError(kDiskFull);
         rest.remove_prefix(static_cast<std::size_t>(count));
+        m_written += count;
     }
 }
 
@@ -265,8 +266,11 @@ void OutputFile::startSync()
     flush();
     std::string().swap(m_buffer); // many files may wait for their sync
 #ifdef SYNC_FILE_RANGE_WRITE
-    // Only a hint: a file system that cannot do it has all its work left to sync().
-    sync_file_range(m_handle.get(), 0, 0, SYNC_FILE_RANGE_WRITE);
+    // Only a hint: a file system that cannot do it has all its work left to sync(). For small files it is dearer to
+    // bother the disk with each than to hand it many at once.
+    constexpr std::int64_t kWorthIt = std::int64_t{1} << 20;
+    if (m_written >= kWorthIt)
+        sync_file_range(m_handle.get(), 0, 0, SYNC_FILE_RANGE_WRITE);
 #endif
 }
 
