@@ -1,9 +1,7 @@
 #include "ui/App/PictureFit.h"
 
-#include "common/File.h"
+#include "ui/App/PictureFile.h"
 
-#include <QBuffer>
-#include <QByteArray>
 #include <QImageReader>
 #include <QTransform>
 
@@ -31,11 +29,8 @@ QImage turned(const QImage& picture, int orientation)
 
 QImage fittedPicture(const std::string& fileName, QSize maximum)
 {
-    // Read by the engine, as only it opens names that are no UTF-8.
-    const std::string content = readTextFile(fileName);
-    QByteArray bytes = QByteArray::fromRawData(content.data(), static_cast<qsizetype>(content.size()));
-    QBuffer buffer(&bytes);
-    return fittedPicture(buffer, maximum);
+    PictureFile file(fileName);
+    return fittedPicture(file, maximum);
 }
 
 QImage fittedPicture(QIODevice& file, QSize maximum)

@@ -59,11 +59,8 @@ std::string translatedText(const std::string& hexadecimal)
 
 std::vector<std::uint8_t> bytesOf(const std::string& hexadecimal)
 {
-    std::vector<std::uint8_t> bytes;
-    bytes.reserve(hexadecimal.size() / 2);
-    for (std::size_t at = 0; at + 1 < hexadecimal.size(); at += 2)
-        bytes.push_back(HexToByte(std::string_view(hexadecimal).substr(at, 2)));
-    return bytes;
+    const std::size_t wholeBytes = hexadecimal.size() / 2;
+    return hexRunBytes(std::string_view(hexadecimal).substr(0, 2 * wholeBytes));
 }
 
 bool isThumbnail(const XmlNode& node)

@@ -4,11 +4,11 @@
 #include "common/File.h"
 #include "common/PathText.h"
 #include "reader/JpegXml.h"
+#include "ui/App/PictureFile.h"
 #include "ui/App/PictureFit.h"
 #include "ui/App/Text.h"
 #include "ui/SlideForm/SlideDetails.h"
 
-#include <QIODevice>
 #include <QImageReader>
 
 #include <system_error>
@@ -16,37 +16,6 @@
 namespace ovisto {
 
 namespace {
-
-/// The content of a file, which seems to end when nobody waits for it any more: the picture decoder knows no other way
-/// to be stopped.
-class AbandonableFile : public QIODevice {
-public:
-    AbandonableFile(const std::string& path, const std::atomic<bool>& abandoned) : m_file(path), m_abandoned(abandoned)
-    {
-        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    }
-
-    qint64 size() const override { return m_file.size(); }
-
-protected:
-    qint64 readData(char* data, qint64 most) override
-    {
-        qint64 count = -1;
-        ErrorTrap trap; // the reader of the picture only wants to know that there is no more
-        trap.run([&] {
-            if (!m_abandoned)
-                count = static_cast<qint64>(
-                    m_file.readAt(pos(), {reinterpret_cast<std::uint8_t*>(data), static_cast<std::size_t>(most)}));
-        });
-        return count;
-    }
-
-    qint64 writeData(const char* /*data*/, qint64 /*size*/) override { return -1; }
-
-private:
-    InputFile m_file;
-    const std::atomic<bool>& m_abandoned;
-};
 
 std::int64_t bytesInMemory(QSize size)
 {
@@ -68,7 +37,7 @@ QString readDetails(const std::string& path, const QLocale& locale)
 /// The picture of the request, or none when it would take more memory than allowed.
 QImage readPicture(const SlideRequest& request, const DecodeLimits& limits)
 {
-    AbandonableFile file(request.path, limits.abandoned);
+    PictureFile file(request.path, &limits.abandoned);
     const QSize size = fittedSize(QImageReader(&file).size(), request.maximum);
     if (bytesInMemory(size) > limits.mostBytes)
         return {};
