@@ -91,7 +91,7 @@ void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& t
         throw Error{kInvalidCall, "The file was changed after it was read"};
     const std::int64_t offset = std::int64_t{attributeToLong(AttributeGet(image, "offset"))} - 1;
     const std::int64_t length = std::int64_t{attributeToLong(AttributeGet(image, "length"))} + 1;
-    if (offset < 0 || length < 0)
+    if (offset < 0)
         throw systemError(kInvalidCall);
     to.writeFrom(from, offset, length);
 }

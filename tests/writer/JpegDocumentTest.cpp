@@ -301,19 +301,19 @@ TEST(WriteJpeg, RefusesAFileThatWasChangedAfterItWasRead)
     const TemporaryFolder folder;
     const std::string path = folder.file("a.jpg", fullPhotograph(true));
     XmlDocument document = loadDocument(path);
-    const auto isRefused = [&](const Bytes& file) {
+    const auto isRefused = [&](const Bytes& file, int error) {
         folder.file("a.jpg", file);
         RecordingReporter reporter;
-        EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); }), kInvalidCall);
+        EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); }), error);
         EXPECT_EQ(contentOf(path), file);
     };
-    isRefused(JpegBytes().app0().end());
-    isRefused(fullPhotograph(true) + Bytes{0});
-    isRefused(bytes("no picture any more"));
+    isRefused(JpegBytes().app0().end(), kInvalidCall);
+    isRefused(fullPhotograph(true) + Bytes{0}, kInvalidCall);
+    isRefused(bytes("no picture any more"), kInvalidCall);
 
     // One that was cut behind its scan header says that its image has less than no bytes.
     document = documentOf("<JPEG><SOS>6F6C</SOS><IMG offset='9' length='-3'/></JPEG>");
-    isRefused({kOldFile.begin(), kOldFile.begin() + 8});
+    isRefused({kOldFile.begin(), kOldFile.begin() + 8}, kTypeMismatch);
 }
 
 TEST(WriteJpeg, ReadsBackWhatItWrote)
