@@ -2,7 +2,7 @@
 
 #include "cli/CommandOutput.h"
 #include "cli/FileLoop.h"
-#include "cli/TerminalReporter.h"
+#include "cli/TerminalText.h"
 #include "collection/BatchAction.h"
 #include "collection/FolderScan.h"
 #include "collection/Report.h"

@@ -1,6 +1,6 @@
 #include "cli/TerminalProgress.h"
 
-#include "cli/TerminalReporter.h"
+#include "cli/TerminalText.h"
 
 #include "common/File.h"
 #include "common/PathText.h"

@@ -1,8 +1,8 @@
 #include "collection/BatchAction.h"
 
 #include "collection/MetadataDocument.h"
-#include "common/CodePage.h"
 #include "common/File.h"
+#include "common/FirstReport.h"
 #include "common/PathText.h"
 #include "writer/JpegDocument.h"
 
@@ -21,34 +21,6 @@ namespace {
 
 constexpr std::size_t kGroupFiles = 2048;
 constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< as much is on its way to the disk at most
-
-/// Keeps the first report about a file: those after it say what could not be done because of it.
-class FirstReport : public ErrorReporter {
-public:
-    void report(const std::string& context, const Error& error) override
-    {
-        if (!m_first)
-            m_first = Error{error.number, (context.empty() ? "" : shortened(context) + ": ") + error.description};
-    }
-
-    /// The first report, or `error` when nothing was reported.
-    const Error& orElse(const Error& error) const { return m_first ? *m_first : error; }
-
-private:
-    /// A context may end with a whole value.
-    static std::string shortened(const std::string& context)
-    {
-        constexpr std::size_t kMost = 200;
-        if (characterCount(context) <= kMost)
-            return context;
-        std::string text;
-        for (const char32_t character : characters(context).substr(0, kMost))
-            appendCharacter(text, character);
-        return text + "...";
-    }
-
-    std::optional<Error> m_first;
-};
 
 /// The new versions that wait to be put in place.
 class Group {
