@@ -223,7 +223,7 @@ private Q_SLOTS:
             const auto neighbours = [&] { return tree.model()->rowCount(tree.currentIndex().parent()); };
             QTRY_VERIFY(start == hidden || neighbours() == 300);
             QTest::qWait(50);
-            QVERIFY(tree.viewport()->rect().contains(row().center()));
+            QTRY_VERIFY(tree.viewport()->rect().contains(row().center()));
             QCOMPARE(form.SelectedFolder(), start);
         }
     }
