@@ -223,6 +223,10 @@ TEST(CommandLine, FindsFilesInScanOrder)
     EXPECT_EQ(ovisto({"find", root, "--words", "acm", "--whole-words"}).status, 0) << "to find nothing is no failure";
     EXPECT_EQ(ovisto({"find", root, "--words", "(", "--regexp"}).status, 2);
     EXPECT_EQ(ovisto({"find"}).status, 2);
+    const std::string list = folder.path("a.jpg") + '\n' + folder.file("other.name", fullPhotograph(true)) + '\n';
+    EXPECT_EQ(ovisto({"find", "--files-from", "-", "--words", "acme"}, list).output, folder.path("other.name") + "\n");
+    EXPECT_EQ(ovisto({"find", root, "--no-subfolders", "--pattern", "b*", "--files-from", "-"}, list).output,
+              first + "\n" + list);
     expectOneLine(ovisto({"find", folder.path("none")}), "none", "Folder not found");
     const CommandRun found = ovisto({"find", root, "-0", "--jobs", "1"});
     EXPECT_EQ(ovisto({"set", kTitle, "Found", "--files-from", "-", "-0"}, found.output).errors, "");
