@@ -10,6 +10,7 @@
 #include "collection/Report.h"
 #include "common/CodePage.h"
 #include "common/File.h"
+#include "common/Interruption.h"
 #include "common/XmlLoad.h"
 #include "common/XmlTransform.h"
 
@@ -114,7 +115,10 @@ private:
 
 class UnwatchedProgress : public Progress {
 public:
-    bool step(const std::string& /*path*/, std::size_t /*done*/, std::size_t /*total*/) override { return true; }
+    bool step(const std::string& /*path*/, std::size_t /*done*/, std::size_t /*total*/) override
+    {
+        return !interrupted();
+    }
 };
 
 /// The change, or an error that says why it cannot be made to any file.
@@ -223,10 +227,14 @@ int runReport(const CommandLine& line, const std::vector<std::string>& files)
         const TemporaryFile combined;
         for (const FileFailure& failure : combineDocuments(files, line.keep, combined.path(), output.progress()))
             output.fail(errorLine(failure.path, failure.error.description));
+        if (interrupted())
+            return;
         XMLLoad(document, combined.path());
         report =
             transformNode(document, line.styleSheet, line.output.empty() ? TextEncoding::Utf8 : TextEncoding::Utf16);
     });
+    if (interrupted())
+        return output.finish(); // a report on some of the files is none
     if (trap.pending())
         output.fail(errorLine("", trap.take().description));
     else if (report.error)

@@ -85,7 +85,9 @@ std::optional<CommandLine> parseCommandLine(int argc, char** argv, int& exitStat
     line.jobs = std::max(1U, std::thread::hardware_concurrency());
 
     CLI::App app("Shows, exports and changes the metadata of JPEG files.\n"
-                 "Exit status: 0 all done, 1 some file failed, 2 wrong usage.",
+                 "Exit status: 0 all done, 1 some file failed, 2 wrong usage.\n"
+                 "Ctrl+C (or SIGTERM, SIGHUP) ends the commands that write files after the file at hand, without\n"
+                 "a half-written one, and a second one ends them at once.",
                  "ovisto-cli");
     app.set_version_flag("--version", "ovisto-cli " OVISTO_VERSION);
     app.require_subcommand(1);

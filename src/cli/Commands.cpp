@@ -11,6 +11,7 @@
 #include "collection/XmlExport.h"
 #include "common/File.h"
 #include "common/FirstReport.h"
+#include "common/Interruption.h"
 #include "common/NodePath.h"
 #include "common/ProgramFolder.h"
 #include "common/XmlLoad.h"
@@ -141,6 +142,11 @@ bool rewritesFiles(Command command)
     return changesNodes(command) || command == Command::Write;
 }
 
+bool writesFiles(Command command)
+{
+    return rewritesFiles(command) || command == Command::Export || command == Command::Report;
+}
+
 /// Does `work` for each of the files, but not for one that would destroy another one while it is written.
 int runEach(const CommandLine& line, const std::vector<std::string>& files, const FileWork& work)
 {
@@ -165,6 +171,8 @@ int runEach(const CommandLine& line, const std::vector<std::string>& files, cons
 int runOnFiles(const CommandLine& line)
 {
     std::vector<std::string> files = fileNames(line);
+    if (writesFiles(line.command))
+        deferInterruption();
     if (rewritesFiles(line.command))
         files = withoutRepeats(std::move(files));
     if (changesNodes(line.command))

@@ -3,6 +3,7 @@
 #include "cli/TerminalText.h"
 
 #include "common/File.h"
+#include "common/Interruption.h"
 #include "common/PathText.h"
 
 #include <cstdio>
@@ -18,6 +19,8 @@ bool TerminalProgress::step(const std::string& path, std::size_t done, std::size
     constexpr std::size_t kWidth = 24;
     constexpr std::size_t kMostName = 40;
     const auto now = std::chrono::steady_clock::now();
+    if (interrupted())
+        return false;
     if (!m_isTerminal || total == 1 || now - m_lastDrawn < kInterval)
         return true;
     m_lastDrawn = now;
