@@ -2,12 +2,15 @@
 
 #include "cli/CommandOutput.h"
 #include "cli/FileLoop.h"
-#include "cli/TerminalReporter.h"
+#include "cli/FileNames.h"
+#include "cli/TerminalText.h"
 #include "collection/BatchAction.h"
-#include "collection/FolderScan.h"
+#include "collection/ContentFilter.h"
+#include "collection/FolderWalk.h"
 #include "collection/Report.h"
 #include "common/CodePage.h"
 #include "common/File.h"
+#include "common/Interruption.h"
 #include "common/XmlLoad.h"
 #include "common/XmlTransform.h"
 
@@ -45,7 +48,53 @@ private:
     std::string& m_lines;
 };
 
-/// Progress over files where the loop counts stretches of them; or where nobody watches, as all is done at once.
+/// Writes each report to the output at once.
+class OutputReporter : public ErrorReporter {
+public:
+    explicit OutputReporter(CommandOutput& output) : m_output(output) {}
+
+    void report(const std::string& context, const Error& error) override
+    {
+        m_output.fail(errorLine(context, error.description));
+    }
+
+private:
+    CommandOutput& m_output;
+};
+
+/// The files that a search is to look at: those of its folder, which is gone through meanwhile, then those of its list.
+class FilesToSearch {
+public:
+    /// A folder or a list that cannot be read is told to `output`, which must outlive the object.
+    FilesToSearch(const CommandLine& line, CommandOutput& output) : m_reporter(output)
+    {
+        ErrorTrap trap;
+        if (!line.scan.folder.empty())
+            trap.run([&] { m_walk.emplace(line.scan.folder, line.scan.patterns, line.scan.subFolders); });
+        if (trap.pending())
+            ErrorReport(m_reporter, line.scan.folder, trap.take());
+        trap.run([&] { m_listed = fileNames(line); });
+        if (trap.pending())
+            ErrorReport(m_reporter, "", trap.take());
+    }
+
+    /// The next file; none after the last one.
+    std::optional<std::string> next()
+    {
+        auto file = m_walk ? m_walk->next(m_reporter) : std::nullopt;
+        if (file)
+            return std::move(file->path);
+        return m_place == m_listed.size() ? std::nullopt : std::optional(std::move(m_listed[m_place++]));
+    }
+
+private:
+    OutputReporter m_reporter;
+    std::optional<FolderWalk> m_walk;
+    std::vector<std::string> m_listed;
+    std::size_t m_place = 0;
+};
+
+/// Progress over files where the loop counts stretches of them; or where nobody watches, as a stretch is done at once.
 class StretchProgress : public Progress {
 public:
     StretchProgress(Progress& files, std::size_t stretch, std::size_t total)
@@ -64,9 +113,12 @@ private:
     std::size_t m_total;
 };
 
-class NoProgress : public Progress {
+class UnwatchedProgress : public Progress {
 public:
-    bool step(const std::string& /*path*/, std::size_t /*done*/, std::size_t /*total*/) override { return true; }
+    bool step(const std::string& /*path*/, std::size_t /*done*/, std::size_t /*total*/) override
+    {
+        return !interrupted();
+    }
 };
 
 /// The change, or an error that says why it cannot be made to any file.
@@ -119,7 +171,7 @@ int runChange(const CommandLine& line, const std::vector<std::string>& files, co
     const auto work = [&](std::size_t index) {
         FileResult result;
         LineReporter reporter(result.errors);
-        NoProgress unwatched;
+        UnwatchedProgress unwatched;
         const std::size_t first = index * stretch;
         batch.run(first, std::min(first + stretch, files.size()), unwatched, reporter);
         return result;
@@ -132,17 +184,10 @@ int runChange(const CommandLine& line, const std::vector<std::string>& files, co
 
 int runFind(const CommandLine& line)
 {
-    // The names first, then the contents, which several threads look at.
-    ScanOptions names = line.scan;
-    names.content = {};
+    CommandOutput output;
     ContentSearch content = line.scan.content;
     content.words = textOf(content.words);
-    CommandOutput output;
-    std::string scanErrors;
-    LineReporter reporter(scanErrors);
-    std::vector<std::string> files;
     std::optional<ContentFilter> filter;
-    NoProgress unwatched;
     ErrorTrap trap;
     trap.run([&] { filter.emplace(content); });
     if (trap.pending()) {
@@ -150,23 +195,20 @@ int runFind(const CommandLine& line)
         output.finish();
         return kWrongUsage;
     }
-    trap.run([&] { FolderScan(names).run(files, unwatched, reporter); });
-    if (trap.pending())
-        scanErrors += errorLine(names.folder, trap.take().description);
-    output.fail(scanErrors);
-    const auto work = [&](std::size_t index) {
+    FilesToSearch files(line, output);
+    const auto work = [&](const std::string& path) {
         FileResult result;
         ErrorTrap check;
         check.run([&] {
-            if (filter->keeps(files[index]))
-                result.output = files[index] + (line.zeroSeparated ? '\0' : '\n');
+            if (filter->keeps(path))
+                result.output = path + (line.zeroSeparated ? '\0' : '\n');
         });
         if (check.pending())
             result.errors = errorLine("", check.take().description);
         return result;
     };
-    forEachFile(
-        files, line.jobs, work, [&](const FileResult& result) { output.write(result); }, output.progress());
+    forEachFile([&] { return files.next(); }, line.jobs, work, [&](const FileResult& result) { output.write(result); },
+                output.progress());
     return output.finish();
 }
 
@@ -185,10 +227,14 @@ int runReport(const CommandLine& line, const std::vector<std::string>& files)
         const TemporaryFile combined;
         for (const FileFailure& failure : combineDocuments(files, line.keep, combined.path(), output.progress()))
             output.fail(errorLine(failure.path, failure.error.description));
+        if (interrupted())
+            return;
         XMLLoad(document, combined.path());
         report =
             transformNode(document, line.styleSheet, line.output.empty() ? TextEncoding::Utf8 : TextEncoding::Utf16);
     });
+    if (interrupted())
+        return output.finish(); // a report on some of the files is none
     if (trap.pending())
         output.fail(errorLine("", trap.take().description));
     else if (report.error)

@@ -28,8 +28,12 @@ void addCommonOptions(CLI::App& command, CommandLine& line)
     command
         .add_option("--files-from", line.filesFrom, "Read more file names from FILE, one a line; - for standard input")
         ->option_text("FILE");
-    command.add_flag("-0", line.zeroSeparated, "The names in --files-from end with NUL bytes");
-    command.add_option("--dictionary", line.dictionary, "Use another tag dictionary")->option_text("FILE");
+    command.add_flag("-0", line.zeroSeparated,
+                     "Names end with NUL bytes, not line ends: those in --files-from, those that find prints");
+    command
+        .add_option("--dictionary", line.dictionary,
+                    "Another tag dictionary for the commands that need one: show, set, delete, add")
+        ->option_text("FILE");
     addJobs(command, line);
 }
 
@@ -56,7 +60,10 @@ void addNodePath(CLI::App& command, CommandLine& line)
 void addScan(CLI::App& command, CommandLine& line)
 {
     ScanOptions& scan = line.scan;
-    command.add_option("FOLDER", scan.folder, "Where to look")->option_text(" ")->required();
+    command
+        .add_option("FOLDER", scan.folder,
+                    "Where to look; not needed with --files-from, whose files are taken by any name")
+        ->option_text(" ");
     command.add_option("--pattern", scan.patterns, "Names of files: * any run, ? one character, ; between patterns")
         ->option_text("P [" + scan.patterns + "]");
     command
@@ -67,8 +74,7 @@ void addScan(CLI::App& command, CommandLine& line)
     command.add_flag("--whole-words", scan.content.wholeWords, "Not as parts of longer words");
     command.add_flag("--regexp", scan.content.regExp, "W is a regular expression, not a list of words");
     command.add_flag("!--no-subfolders", scan.subFolders, "Only in FOLDER itself");
-    command.add_flag("-0", line.zeroSeparated, "End the names with NUL bytes, not line ends");
-    addJobs(command, line);
+    addCommonOptions(command, line);
 }
 
 } // namespace
@@ -79,7 +85,9 @@ std::optional<CommandLine> parseCommandLine(int argc, char** argv, int& exitStat
     line.jobs = std::max(1U, std::thread::hardware_concurrency());
 
     CLI::App app("Shows, exports and changes the metadata of JPEG files.\n"
-                 "Exit status: 0 all done, 1 some file failed, 2 wrong usage.",
+                 "Exit status: 0 all done, 1 some file failed, 2 wrong usage.\n"
+                 "Ctrl+C (or SIGTERM, SIGHUP) ends the commands that write files after the file at hand, without\n"
+                 "a half-written one, and a second one ends them at once.",
                  "ovisto-cli");
     app.set_version_flag("--version", "ovisto-cli " OVISTO_VERSION);
     app.require_subcommand(1);
@@ -125,8 +133,9 @@ std::optional<CommandLine> parseCommandLine(int argc, char** argv, int& exitStat
     // The parser reports by exceptions of its own, help and version included; they end here.
     try {
         app.parse(argc, argv);
-        if (line.command != Command::Find && line.files.empty() && line.filesFrom.empty())
-            throw CLI::RequiredError("FILE");
+        const bool isFind = line.command == Command::Find;
+        if (line.filesFrom.empty() && (isFind ? line.scan.folder.empty() : line.files.empty()))
+            throw CLI::RequiredError(isFind ? "FOLDER" : "FILE");
         if (!line.document.empty() && (line.files.size() != 1 || !line.filesFrom.empty()))
             throw CLI::ValidationError("--document", "goes with exactly one FILE");
     } catch (const CLI::ParseError& error) {

@@ -29,7 +29,7 @@ struct CommandLine {
     std::string output;     ///< report: the file to write; empty for standard output
 };
 
-/// Exit statuses of the program.
+/// Exit statuses of the program, unless it was asked to end: it then ends by that signal (130, 143 to a shell).
 inline constexpr int kAllDone = 0;
 inline constexpr int kSomeFailed = 1;
 inline constexpr int kWrongUsage = 2;

@@ -1,7 +1,7 @@
 #include "cli/CommandOutput.h"
 
 #include "cli/CommandLine.h"
-#include "cli/TerminalReporter.h"
+#include "cli/TerminalText.h"
 
 #include <cstdio>
 

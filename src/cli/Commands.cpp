@@ -5,11 +5,13 @@
 #include "cli/FileLoop.h"
 #include "cli/FileNames.h"
 #include "cli/PropertyText.h"
-#include "cli/TerminalReporter.h"
+#include "cli/TerminalText.h"
 #include "collection/BatchAction.h"
 #include "collection/MetadataDocument.h"
 #include "collection/XmlExport.h"
 #include "common/File.h"
+#include "common/FirstReport.h"
+#include "common/Interruption.h"
 #include "common/NodePath.h"
 #include "common/ProgramFolder.h"
 #include "common/XmlLoad.h"
@@ -32,11 +34,11 @@ using FileWork = std::function<FileResult(const std::string& path)>;
 template <class Step> FileResult resultOf(const std::string& path, Step step)
 {
     FileResult result;
-    TerminalReporter reporter;
+    FirstReport reporter;
     ErrorTrap trap;
     trap.run([&] { step(result, reporter); });
     if (trap.pending())
-        result.errors = reporter.line(path, trap.take());
+        result.errors = errorLine(path, reporter.orElse(trap.error()).description);
     return result;
 }
 
@@ -48,7 +50,7 @@ TagDictionary loadDictionary(const CommandLine& line)
 FileWork showWork(const CommandLine& line)
 {
     return [&line, dictionary = std::make_shared<TagDictionary>(loadDictionary(line))](const std::string& path) {
-        return resultOf(path, [&](FileResult& result, TerminalReporter&) {
+        return resultOf(path, [&](FileResult& result, FirstReport&) {
             const std::string tree = propertyText(loadDocument(path), *dictionary, line.technical);
             result.output = path + "\n" + tree;
         });
@@ -58,7 +60,7 @@ FileWork showWork(const CommandLine& line)
 FileWork xmlWork(const CommandLine& line)
 {
     return [&line](const std::string& path) {
-        return resultOf(path, [&](FileResult& result, TerminalReporter&) {
+        return resultOf(path, [&](FileResult& result, FirstReport&) {
             Translation translation = JpegXml().XMLtranslate(path, line.keep);
             result.output = std::move(translation.text);
             if (translation.error)
@@ -71,7 +73,7 @@ FileWork exportWork(const CommandLine& /*line*/)
 {
     return [](const std::string& path) {
         return resultOf(
-            path, [&](FileResult&, TerminalReporter& reporter) { exportDocument(loadDocument(path), path, reporter); });
+            path, [&](FileResult&, FirstReport& reporter) { exportDocument(loadDocument(path), path, reporter); });
     };
 }
 
@@ -107,7 +109,7 @@ XmlDocument loadEdited(const std::string& documentPath, const std::string& path)
 FileWork writeWork(const CommandLine& line)
 {
     return [&line](const std::string& path) {
-        return resultOf(path, [&](FileResult&, TerminalReporter& reporter) {
+        return resultOf(path, [&](FileResult&, FirstReport& reporter) {
             XmlDocument document = line.document.empty() ? loadDocument(path) : loadEdited(line.document, path);
             JpegDocument(reporter).WriteJpeg(document, path);
         });
@@ -140,6 +142,11 @@ bool rewritesFiles(Command command)
     return changesNodes(command) || command == Command::Write;
 }
 
+bool writesFiles(Command command)
+{
+    return rewritesFiles(command) || command == Command::Export || command == Command::Report;
+}
+
 /// Does `work` for each of the files, but not for one that would destroy another one while it is written.
 int runEach(const CommandLine& line, const std::vector<std::string>& files, const FileWork& work)
 {
@@ -155,7 +162,7 @@ int runEach(const CommandLine& line, const std::vector<std::string>& files, cons
         [&](std::size_t index) {
             if (!overwriting.contains(index))
                 return work(files[index]);
-            return resultOf(files[index], [](FileResult&, TerminalReporter&) { throw Error(overwritingError()); });
+            return resultOf(files[index], [](FileResult&, FirstReport&) { throw Error(overwritingError()); });
         },
         [&](const FileResult& result) { output.write(result); }, output.progress());
     return output.finish();
@@ -164,6 +171,8 @@ int runEach(const CommandLine& line, const std::vector<std::string>& files, cons
 int runOnFiles(const CommandLine& line)
 {
     std::vector<std::string> files = fileNames(line);
+    if (writesFiles(line.command))
+        deferInterruption();
     if (rewritesFiles(line.command))
         files = withoutRepeats(std::move(files));
     if (changesNodes(line.command))

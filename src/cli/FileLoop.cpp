@@ -13,55 +13,90 @@ namespace ovisto {
 
 namespace {
 
-/// The paths still to be worked on, and the results that wait for those before them.
+struct Task {
+    std::size_t index;
+    std::string path;
+};
+
+/// Where the files come from, and how many they are, 0 for not known yet.
+struct Files {
+    const FileSource& next;
+    std::size_t total;
+};
+
+/// The files still to be worked on, and the results that wait for those before them.
 class ResultQueue {
 public:
-    ResultQueue(const std::vector<std::string>& paths, unsigned jobs,
-                const std::function<void(const FileResult&)>& finish, Progress& progress)
-        : m_paths(paths), m_finish(finish), m_progress(progress), m_waiting(std::size_t{jobs} * kWaitingPerJob)
+    ResultQueue(const Files& files, unsigned jobs, const std::function<void(const FileResult&)>& finish,
+                Progress& progress)
+        : m_files(files), m_finish(finish), m_progress(progress), m_places(std::size_t{jobs} * kWaitingPerJob)
     {
     }
 
-    /// The index of the next path; none when all are taken. Waits while too many results wait themselves.
-    std::optional<std::size_t> take()
+    /// The next file; none when all are taken. Waits while too many results wait themselves.
+    std::optional<Task> take()
     {
         std::unique_lock lock(m_mutex);
-        m_finishedMore.wait(lock, [&] { return m_stopped || m_taken < m_finished + m_waiting.size(); });
-        if (m_stopped || m_taken == m_paths.size())
+        m_finishedMore.wait(lock, [&] { return m_ended || m_taken < m_finished + m_places.size(); });
+        std::optional<std::string> path;
+        if (!m_ended)
+            path = m_files.next();
+        m_ended = !path;
+        if (m_ended)
             return std::nullopt;
-        return m_taken++;
+        place(m_taken).path = *path;
+        return Task{m_taken++, std::move(*path)};
     }
 
-    /// Keeps the result of the path `index` and finishes all that is next in order.
+    /// Keeps the result of a file and finishes all that is next in order.
     void put(std::size_t index, FileResult result)
     {
         const std::lock_guard lock(m_mutex);
-        place(index) = std::move(result);
-        while (!m_stopped && m_finished < m_taken && place(m_finished)) {
-            m_stopped = !m_progress.step(m_paths[m_finished], m_finished, m_paths.size());
-            if (m_stopped)
-                break;
-            m_finish(*std::exchange(place(m_finished), std::nullopt));
-            ++m_finished;
+        place(index).result = std::move(result);
+        while (m_finished < m_taken && place(m_finished).result) {
+            const Place& finished = place(m_finished);
+            m_ended = !m_progress.step(finished.path, m_finished, m_files.total) || m_ended;
+            m_finish(*finished.result);
+            place(m_finished++).result.reset();
         }
         m_finishedMore.notify_all();
     }
 
 private:
+    struct Place {
+        std::string path;
+        std::optional<FileResult> result;
+    };
+
     static constexpr std::size_t kWaitingPerJob = 16; // bounds the memory of results that wait for a slow one
 
-    std::optional<FileResult>& place(std::size_t index) { return m_waiting[index % m_waiting.size()]; }
+    Place& place(std::size_t index) { return m_places[index % m_places.size()]; }
 
-    const std::vector<std::string>& m_paths;
+    const Files& m_files;
     const std::function<void(const FileResult&)>& m_finish;
     Progress& m_progress;
     std::mutex m_mutex;
     std::condition_variable m_finishedMore;
-    std::vector<std::optional<FileResult>> m_waiting;
+    std::vector<Place> m_places;
     std::size_t m_taken = 0;
     std::size_t m_finished = 0;
-    bool m_stopped = false;
+    bool m_ended = false; ///< no other file is to be taken
 };
+
+void runLoop(const Files& files, unsigned jobs, const std::function<FileResult(const Task&)>& work,
+             const std::function<void(const FileResult&)>& finish, Progress& progress)
+{
+    ResultQueue queue(files, jobs, finish, progress);
+    const auto workOn = [&] {
+        while (const auto task = queue.take())
+            queue.put(task->index, work(*task));
+    };
+    std::vector<std::jthread> helpers;
+    ErrorTrap trap; // a thread that the system refuses is done without
+    for (unsigned i = 1; i < jobs && !trap.pending(); ++i)
+        trap.run([&] { helpers.emplace_back(workOn); });
+    workOn();
+}
 
 } // namespace
 
@@ -69,17 +104,19 @@ void forEachFile(const std::vector<std::string>& paths, unsigned jobs,
                  const std::function<FileResult(std::size_t index)>& work,
                  const std::function<void(const FileResult&)>& finish, Progress& progress)
 {
+    auto path = paths.begin();
+    const FileSource next = [&] { return path == paths.end() ? std::nullopt : std::optional(*path++); };
     jobs = static_cast<unsigned>(std::clamp<std::size_t>(jobs, 1, std::max<std::size_t>(paths.size(), 1)));
-    ResultQueue queue(paths, jobs, finish, progress);
-    const auto workOn = [&] {
-        while (const auto index = queue.take())
-            queue.put(*index, work(*index));
-    };
-    std::vector<std::jthread> helpers;
-    ErrorTrap trap; // a thread that the system refuses is done without
-    for (unsigned i = 1; i < jobs && !trap.pending(); ++i)
-        trap.run([&] { helpers.emplace_back(workOn); });
-    workOn();
+    runLoop(
+        {next, paths.size()}, jobs, [&](const Task& task) { return work(task.index); }, finish, progress);
+}
+
+void forEachFile(const FileSource& next, unsigned jobs, const std::function<FileResult(const std::string& path)>& work,
+                 const std::function<void(const FileResult&)>& finish, Progress& progress)
+{
+    constexpr std::size_t kUnknown = 0;
+    runLoop(
+        {next, kUnknown}, jobs, [&](const Task& task) { return work(task.path); }, finish, progress);
 }
 
 } // namespace ovisto

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,9 +17,17 @@ struct FileResult {
 };
 
 /// Calls `work` once for the index of every path, in up to `jobs` threads at a time, and `finish` with each result, one
-/// at a time and in the order of `paths`. `progress` is told before each file is finished.
+/// at a time and in the order of `paths`. `progress` is told before each file is finished; when it stops, no other file
+/// is begun, but those that were are finished.
 void forEachFile(const std::vector<std::string>& paths, unsigned jobs,
                  const std::function<FileResult(std::size_t index)>& work,
+                 const std::function<void(const FileResult&)>& finish, Progress& progress);
+
+/// Gives the paths of files one after the other, and nothing after the last one.
+using FileSource = std::function<std::optional<std::string>()>;
+
+/// The same for files that are still being looked for. `next` is never called at the same time as `finish` or itself.
+void forEachFile(const FileSource& next, unsigned jobs, const std::function<FileResult(const std::string& path)>& work,
                  const std::function<void(const FileResult&)>& finish, Progress& progress);
 
 } // namespace ovisto

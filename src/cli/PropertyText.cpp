@@ -1,6 +1,6 @@
 #include "cli/PropertyText.h"
 
-#include "cli/TerminalReporter.h"
+#include "cli/TerminalText.h"
 #include "collection/PropertyTree.h"
 #include "common/DataType.h"
 

@@ -1,8 +1,9 @@
 #include "cli/TerminalProgress.h"
 
-#include "cli/TerminalReporter.h"
+#include "cli/TerminalText.h"
 
 #include "common/File.h"
+#include "common/Interruption.h"
 #include "common/PathText.h"
 
 #include <cstdio>
@@ -18,13 +19,18 @@ bool TerminalProgress::step(const std::string& path, std::size_t done, std::size
     constexpr std::size_t kWidth = 24;
     constexpr std::size_t kMostName = 40;
     const auto now = std::chrono::steady_clock::now();
-    if (!m_isTerminal || total < 2 || now - m_lastDrawn < kInterval)
+    if (interrupted())
+        return false;
+    if (!m_isTerminal || total == 1 || now - m_lastDrawn < kInterval)
         return true;
     m_lastDrawn = now;
-    const std::size_t filled = kWidth * done / total;
-    const std::string bar = std::string(filled, '#') + std::string(kWidth - filled, '.');
-    std::fprintf(stderr, "\r\033[K[%s] %zu/%zu %s", bar.c_str(), done, total,
-                 oneLine(splitPath(path).name, kMostName).c_str());
+    std::string text = std::to_string(done);
+    if (total > 0) {
+        const std::size_t filled = kWidth * done / total;
+        const std::string bar = std::string(filled, '#') + std::string(kWidth - filled, '.');
+        text = "[" + bar + "] " + text + "/" + std::to_string(total);
+    }
+    std::fprintf(stderr, "\r\033[K%s %s", text.c_str(), oneLine(splitPath(path).name, kMostName).c_str());
     m_drawn = true;
     return true;
 }

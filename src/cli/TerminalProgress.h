@@ -7,7 +7,7 @@
 namespace ovisto {
 
 /// A progress bar on the last line of a terminal (standard error), drawn only where there is one and more than one
-/// file to do.
+/// file to do. It stops when the program was asked to end, where that is deferred.
 class TerminalProgress : public Progress {
 public:
     TerminalProgress();

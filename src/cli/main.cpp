@@ -1,9 +1,14 @@
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
+#include "common/Interruption.h"
 
 int main(int argc, char** argv)
 {
     int exitStatus = ovisto::kAllDone;
     const auto line = ovisto::parseCommandLine(argc, argv, exitStatus);
-    return line ? ovisto::runCommand(*line) : exitStatus;
+    if (line)
+        exitStatus = ovisto::runCommand(*line);
+    if (ovisto::interrupted())
+        ovisto::endInterrupted();
+    return exitStatus;
 }

@@ -1,8 +1,8 @@
 #include "collection/BatchAction.h"
 
 #include "collection/MetadataDocument.h"
-#include "common/CodePage.h"
 #include "common/File.h"
+#include "common/FirstReport.h"
 #include "common/PathText.h"
 #include "writer/JpegDocument.h"
 
@@ -10,6 +10,7 @@
 #include <iterator>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <set>
 #include <string_view>
@@ -22,59 +23,74 @@ namespace {
 constexpr std::size_t kGroupFiles = 2048;
 constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< as much is on its way to the disk at most
 
-/// Keeps the first report about a file: those after it say what could not be done because of it.
-class FirstReport : public ErrorReporter {
-public:
-    void report(const std::string& context, const Error& error) override
-    {
-        if (!m_first)
-            m_first = Error{error.number, (context.empty() ? "" : shortened(context) + ": ") + error.description};
-    }
-
-    /// The first report, or `error` when nothing was reported.
-    const Error& orElse(const Error& error) const { return m_first ? *m_first : error; }
-
-private:
-    /// A context may end with a whole value.
-    static std::string shortened(const std::string& context)
-    {
-        constexpr std::size_t kMost = 200;
-        if (characterCount(context) <= kMost)
-            return context;
-        std::string text;
-        for (const char32_t character : characters(context).substr(0, kMost))
-            appendCharacter(text, character);
-        return text + "...";
-    }
-
-    std::optional<Error> m_first;
-};
-
 /// The new versions that wait to be put in place.
 class Group {
 public:
-    explicit Group(ErrorReporter& reporter) : m_reporter(reporter) {}
+    /// `room` is shared by all groups that run at the same time.
+    Group(ErrorReporter& reporter, std::shared_mutex& room)
+        : m_reporter(reporter), m_room(room), m_share(room, std::defer_lock)
+    {
+    }
 
     std::size_t size() const { return m_members.size(); }
     std::int64_t bytes() const { return m_bytes; }
 
-    /// Writes the new version of the file that `change` needs, if it needs one.
+    /// Writes the new version of the file that `change` needs, if it needs one. Where the disk is full, all groups put
+    /// theirs in place first, and the file has the room to itself.
     void add(const std::string& path, const NodeChange& change)
     {
-        auto member = std::make_unique<Member>(path);
-        step(*member, [&] {
-            XmlDocument document = loadDocument(path);
-            if (applyChange(document, change, member->report))
-                member->version.emplace(JpegDocument(member->report).writeTemporary(document, path));
-        });
-        if (!member->version)
-            return;
-        m_bytes += member->version->oldFile.size();
-        m_members.push_back(std::move(member));
+        if (!m_share.owns_lock())
+            m_share.lock();
+        if (!write(path, change, DiskFull::TryAgain)) {
+            finish();
+            const std::unique_lock whole(m_room);
+            write(path, change, DiskFull::Fails);
+            putInPlace();
+        }
+        shareIfNeeded();
     }
 
     /// Puts all of them in place that the disk has.
     void finish()
+    {
+        putInPlace();
+        shareIfNeeded();
+    }
+
+private:
+    struct Member {
+        explicit Member(std::string filePath) : path(std::move(filePath)) {}
+
+        std::string path;
+        FirstReport report;
+        std::optional<JpegDocument::NewVersion> version;
+        bool failed = false;
+    };
+
+    enum class DiskFull { TryAgain, Fails };
+
+    /// False when the disk is full, and the file to be tried again.
+    bool write(const std::string& path, const NodeChange& change, DiskFull onDiskFull)
+    {
+        auto member = std::make_unique<Member>(path);
+        ErrorTrap trap;
+        trap.run([&] {
+            XmlDocument document = loadDocument(path);
+            if (applyChange(document, change, member->report))
+                member->version.emplace(JpegDocument(member->report).writeTemporary(document, path));
+        });
+        if (trap.pending() && trap.error().number == kDiskFull && onDiskFull == DiskFull::TryAgain)
+            return false;
+        if (trap.pending()) {
+            tell(*member, trap.error());
+        } else if (member->version) {
+            m_bytes += member->version->oldFile.size();
+            m_members.push_back(std::move(member));
+        }
+        return true;
+    }
+
+    void putInPlace()
     {
         syncTogether();
         for (const auto& member : m_members)
@@ -92,15 +108,12 @@ public:
         m_bytes = 0;
     }
 
-private:
-    struct Member {
-        explicit Member(std::string filePath) : path(std::move(filePath)) {}
-
-        std::string path;
-        FirstReport report;
-        std::optional<JpegDocument::NewVersion> version;
-        bool failed = false;
-    };
+    /// A group takes room as long as it has new versions.
+    void shareIfNeeded()
+    {
+        if (m_members.empty() && m_share.owns_lock())
+            m_share.unlock();
+    }
 
     /// Brings all to disk at once. Where that fails, each has to find out by itself how it fares.
     void syncTogether()
@@ -126,10 +139,17 @@ private:
         trap.run(work);
         member.failed = trap.pending();
         if (trap.pending())
-            ErrorReport(m_reporter, member.path, member.report.orElse(trap.error()));
+            tell(member, trap.error());
+    }
+
+    void tell(const Member& member, const Error& error)
+    {
+        ErrorReport(m_reporter, member.path, member.report.orElse(error));
     }
 
     ErrorReporter& m_reporter;
+    std::shared_mutex& m_room; ///< on the disk; who holds it alone has all of it
+    std::shared_lock<std::shared_mutex> m_share;
     std::vector<std::unique_ptr<Member>> m_members;
     std::int64_t m_bytes = 0;
 };
@@ -160,7 +180,7 @@ BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange chang
 
 void BatchAction::run(std::size_t first, std::size_t last, Progress& progress, ErrorReporter& reporter) const
 {
-    Group group(reporter);
+    Group group(reporter, m_room);
     for (std::size_t i = first; i < last; ++i) {
         const std::string& path = m_files[i];
         if (!progress.step(path, i, m_files.size()))

@@ -5,6 +5,7 @@
 #include "common/Progress.h"
 
 #include <cstddef>
+#include <shared_mutex>
 #include <string>
 #include <unordered_set>
 #include <vector>
@@ -13,7 +14,8 @@ namespace ovisto {
 
 /// Makes one change to many JPEG files, all parts of each kept. A file that has it already is not written. The new
 /// versions take the places of the old ones in groups: written, then brought to disk together, then put in place. A
-/// file is safe at every moment as if it were written alone; it is the disk that has less to wait for.
+/// file is safe at every moment as if it were written alone; it is the disk that has less to wait for. A disk that is
+/// full with a group gets the files of the group put in place, which makes room, before a file fails because of it.
 class BatchAction {
 public:
     /// `files` must outlive the object. A path may occur in it more than once. `jobs`: how many stretches of them are
@@ -39,6 +41,7 @@ private:
     NodeChange m_change;
     std::size_t m_groupSize;
     std::unordered_set<std::size_t> m_overwriting; ///< those with the temporary name of another one
+    mutable std::shared_mutex m_room;              ///< on the disk: shared by the stretches
     std::unordered_set<std::size_t> m_repeated;    ///< those that were there before, by this or another name
 };
 

@@ -12,10 +12,8 @@ namespace {
 
 std::string wordPattern(std::string_view word, bool wholeWords)
 {
-    const auto first = word.find_first_not_of(' ');
-    const std::string trimmed(
-        first == std::string_view::npos ? "" : word.substr(first, word.find_last_not_of(' ') - first + 1));
-    return wholeWords ? "\\b" + trimmed + "\\b" : trimmed;
+    const std::string pattern(trimmed(word));
+    return wholeWords ? "\\b" + pattern + "\\b" : pattern;
 }
 
 /// The words as alternatives. An empty word behind another one is an alternative that every text has; an empty first

@@ -33,12 +33,6 @@ bool matchesPattern(std::u32string_view name, std::u32string_view pattern)
     return pattern.find_first_not_of(U'*', p) == std::u32string_view::npos;
 }
 
-std::string_view trimmed(std::string_view text)
-{
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string_view::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 } // namespace
 
 FilePattern::FilePattern(std::string_view patterns)

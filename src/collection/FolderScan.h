@@ -1,13 +1,10 @@
 #pragma once
 
 #include "collection/ContentFilter.h"
-#include "collection/FilePattern.h"
+#include "collection/FolderWalk.h"
 #include "common/ErrorReport.h"
-#include "common/FileListing.h"
 #include "common/Progress.h"
 
-#include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -22,7 +19,6 @@ struct ScanOptions {
     ContentSearch content;
 };
 
-inline constexpr const char* kFolderNotFound = "Folder not found";
 inline constexpr const char* kNoFilesFound =
     "No files found with search criteria specified.  Click 'Find Files' button to try again.";
 
@@ -32,24 +28,19 @@ std::string foundFilesToolTip(std::size_t count);
 /// Finds the files of a folder by name and content.
 class FolderScan {
 public:
-    /// Raises kPathNotFound, described by kFolderNotFound, when the folder cannot be opened.
+    /// Raises what FolderWalk raises.
     explicit FolderScan(ScanOptions options);
 
-    /// Adds the full paths of the files found to `found`, emptied before unless the options say otherwise: those of a
-    /// folder by name, then those of its sub-folders. A path is added whether the list has it already or not. No folder
-    /// is read twice, by whatever links it is reached, so that links in a circle end.
+    /// Adds the full paths of the files found to `found`, emptied before unless the options say otherwise, in the order
+    /// of FolderWalk, whether the list has them already or not. To be called once.
     /// `progress` is told of every file whose name matches, with its place in its folder; when it stops, what was found
-    /// stays. An error while a folder is read ends that folder and those below it, and is reported with its path. A
-    /// content search that cannot be made, or not of some files, is reported once.
+    /// stays. A folder that cannot be read is reported with its path. A content search that cannot be made, or not of
+    /// some files, is reported once.
     void run(std::vector<std::string>& found, Progress& progress, ErrorReporter& reporter);
 
 private:
-    struct Run;
-    void scan(Run& run, const std::string& folder);
-    void scanFiles(Run& run, const std::string& folder, const std::vector<std::string>& names);
-
     ScanOptions m_options;
-    FilePattern m_pattern;
+    FolderWalk m_walk;
 };
 
 } // namespace ovisto

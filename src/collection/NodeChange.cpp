@@ -1,6 +1,7 @@
 #include "collection/NodeChange.h"
 
 #include "collection/MetadataDocument.h"
+#include "common/FirstReport.h"
 #include "common/NodePath.h"
 #include "common/TagDictionary.h"
 #include "writer/JpegDocument.h"
@@ -8,7 +9,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <optional>
 
 namespace ovisto {
 
@@ -27,32 +27,13 @@ constexpr Companion kCompanions[] = {
     {"/JPEG/Exif[@id='FFE1']/IFD1", "/JPEG/Exif/IFD1/THUM"},
 };
 
-/// Hands reports on and remembers the first error.
-class WatchingReporter : public ErrorReporter {
-public:
-    explicit WatchingReporter(ErrorReporter& next) : m_next(next) {}
-
-    void report(const std::string& context, const Error& error) override
-    {
-        m_next.report(context, error);
-        if (!m_first)
-            m_first = error;
-    }
-
-    const std::optional<Error>& first() const { return m_first; }
-
-private:
-    ErrorReporter& m_next;
-    std::optional<Error> m_first;
-};
-
 /// A node that could not be made with all that it needs is as good as none: its file could not be read back.
 XmlNode createNode(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)
 {
-    WatchingReporter watching(reporter);
-    const XmlNode node = CreateNode(document, change.entry, watching);
-    if (watching.first())
-        throw Error(*watching.first());
+    FirstReport report(reporter);
+    const XmlNode node = CreateNode(document, change.entry, report);
+    if (report.error())
+        throw Error(*report.error());
     return node;
 }
 

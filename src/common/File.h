@@ -89,9 +89,13 @@ public:
     /// Gives the new file the permission bits of `old`, and its owner and extended attributes where that is allowed.
     void takeAttributesFrom(const InputFile& old);
 
+    /// Deletes the file, which is of no use, as far as its name still stands for it.
+    void discard();
+
 private:
     void writeAll(std::string_view rest);
 
+    std::string m_path;
     FileHandle m_handle;
     std::string m_buffer;
     std::int64_t m_written = 0; // bytes that the system has

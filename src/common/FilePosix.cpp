@@ -191,7 +191,7 @@ std::size_t InputFile::readAt(std::int64_t offset, std::span<std::uint8_t> into)
     return done;
 }
 
-OutputFile::OutputFile(const std::string& path, NewFileAccess newFileAccess)
+OutputFile::OutputFile(const std::string& path, NewFileAccess newFileAccess) : m_path(path)
 {
     deleteLeftover(path);
     constexpr mode_t kOwner = S_IRUSR | S_IWUSR;
@@ -310,6 +310,13 @@ void OutputFile::takeAttributesFrom(const InputFile& old)
     // File systems without permission bits of their own refuse to set them, and show the same ones for every file.
     if (fchmod(descriptor, permissions) != 0 && (statusOf(descriptor).st_mode & kPermissionBits) != permissions)
         throw systemError(kPermissionDenied);
+}
+
+void OutputFile::discard()
+{
+    // It is locked: no other save takes the name between the two.
+    if (names(m_path, m_handle.get()))
+        unlink(m_path.c_str());
 }
 
 std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path)

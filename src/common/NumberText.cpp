@@ -14,14 +14,6 @@ namespace {
 
 constexpr std::int64_t kExponentForm = 10'000'000; // the first number with more than 7 digits
 
-std::string_view trimmed(std::string_view text)
-{
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 /// The number in `text`, infinite when it is too large for a double.
 double toDouble(std::string_view text)
 {
@@ -83,6 +75,14 @@ std::vector<std::string_view> split(std::string_view text, char separator)
     }
     pieces.push_back(text);
     return pieces;
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 std::int64_t halfToEven(std::int64_t number)

@@ -21,6 +21,9 @@ std::int32_t attributeToLong(std::string_view text);
 /// The pieces of `text` between `separator`s; the empty text is one empty piece.
 std::vector<std::string_view> split(std::string_view text, char separator);
 
+/// `text` without the blanks around it.
+std::string_view trimmed(std::string_view text);
+
 /// Half of `number`, a half to the even neighbour: the bytes of a hexadecimal text of `number` digits.
 std::int64_t halfToEven(std::int64_t number);
 

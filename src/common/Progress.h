@@ -13,7 +13,8 @@ public:
     Progress& operator=(const Progress&) = delete;
     virtual ~Progress() = default;
 
-    /// Told before each file, `done` of `total` being finished. False: the loop is to stop before this file.
+    /// Told before each file, `done` of `total` being finished; a total of 0 is not known yet. False: the loop is to
+    /// stop before this file.
     virtual bool step(const std::string& path, std::size_t done, std::size_t total) = 0;
 };
 

@@ -96,17 +96,40 @@ void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& t
     to.writeFrom(from, offset, length);
 }
 
+/// Runs `step`; when it fails, the new version is deleted before the failure is raised again.
+template <class Step> void discardedOnFailure(JpegDocument::NewVersion& version, Step step)
+{
+    ErrorTrap trap;
+    trap.run(step);
+    if (trap.pending())
+        version.newFile.discard();
+    trap.raise();
+}
+
 } // namespace
 
 void JpegDocument::WriteJpeg(XmlDocument& document, const std::string& fileName)
 {
-    NewVersion version = writeTemporary(document, fileName);
-    finishTemporary(version);
+    NewVersion version = openVersions(fileName);
+    fill(version, document);
+    bringToDisk(version);
     replaceOld(version);
     syncFolder(splitPath(version.fileName).folder);
 }
 
 JpegDocument::NewVersion JpegDocument::writeTemporary(XmlDocument& document, const std::string& fileName)
+{
+    NewVersion version = openVersions(fileName);
+    discardedOnFailure(version, [&] { fill(version, document); });
+    return version;
+}
+
+void JpegDocument::finishTemporary(NewVersion& version)
+{
+    discardedOnFailure(version, [&] { bringToDisk(version); });
+}
+
+JpegDocument::NewVersion JpegDocument::openVersions(const std::string& fileName)
 {
     const std::string target = linkTarget(fileName);
     const std::string temporaryName = temporaryNameOf(target);
@@ -114,24 +137,29 @@ JpegDocument::NewVersion JpegDocument::writeTemporary(XmlDocument& document, con
     std::optional<OutputFile> newFile;
     reported(m_reporter, fileName, [&] { oldFile.emplace(target); });
     reported(m_reporter, temporaryName, [&] { newFile.emplace(temporaryName); });
-    reported(m_reporter, "Write to " + temporaryName, [&] { SegmentWriter(*newFile, m_reporter).WriteHex("FFD8"); });
-    reported(m_reporter, temporaryName + " write failed", [&] { writeSegments(document, *newFile); });
-    reported(m_reporter, temporaryName + " transfer of image from existing file failed",
-             [&] { copyImage(document, *oldFile, *newFile); });
-    reported(m_reporter, temporaryName + " write failed", [&] {
-        SegmentWriter(*newFile, m_reporter).WriteHex("FFD9");
-        newFile->takeAttributesFrom(*oldFile);
-        newFile->startSync();
-    });
     return {target, temporaryName, std::move(*oldFile), std::move(*newFile), false};
 }
 
-void JpegDocument::finishTemporary(NewVersion& version)
+void JpegDocument::fill(NewVersion& version, XmlDocument& document)
+{
+    const std::string& name = version.temporaryName;
+    OutputFile& file = version.newFile;
+    reported(m_reporter, "Write to " + name, [&] { SegmentWriter(file, m_reporter).WriteHex("FFD8"); });
+    reported(m_reporter, name + " write failed", [&] { writeSegments(document, file); });
+    reported(m_reporter, name + " transfer of image from existing file failed",
+             [&] { copyImage(document, version.oldFile, file); });
+    reported(m_reporter, name + " write failed", [&] {
+        SegmentWriter(file, m_reporter).WriteHex("FFD9");
+        file.takeAttributesFrom(version.oldFile);
+        file.startSync();
+    });
+}
+
+void JpegDocument::bringToDisk(NewVersion& version)
 {
     if (!version.onDisk)
         reported(m_reporter, version.temporaryName + " write failed", [&] { version.newFile.sync(); });
     version.onDisk = true;
-    // Here both files are whole: the place for checks that may refuse to go on.
 }
 
 void JpegDocument::writeSegments(XmlDocument& document, OutputFile& file)
@@ -148,6 +176,7 @@ void JpegDocument::writeSegments(XmlDocument& document, OutputFile& file)
 
 void JpegDocument::replaceOld(const NewVersion& version)
 {
+    // Here both files are whole: the place for checks that may refuse to go on.
     const auto failure = replaceFile(version.temporaryName, version.fileName);
     if (!failure)
         return;

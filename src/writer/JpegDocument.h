@@ -34,7 +34,8 @@ public:
     };
 
     // WriteJpeg in three steps, for who has many files to write: a disk takes them faster in one go. They fail as it
-    // does. After the last one the folder of the file is still to be synced.
+    // does, but leave no "~" file behind that is not complete: among many it would only take space. After the last one
+    // the folder of the file is still to be synced.
 
     /// Writes the new version, and has the disk begin with it.
     NewVersion writeTemporary(XmlDocument& document, const std::string& fileName);
@@ -44,6 +45,9 @@ public:
     void replaceOld(const NewVersion& version);
 
 private:
+    NewVersion openVersions(const std::string& fileName);
+    void fill(NewVersion& version, XmlDocument& document);
+    void bringToDisk(NewVersion& version);
     void writeSegments(XmlDocument& document, OutputFile& file);
 
     ErrorReporter& m_reporter;

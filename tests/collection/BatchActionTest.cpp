@@ -8,8 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-
+#include <csignal>
 #include <filesystem>
+#include <optional>
 
 #include <sys/resource.h>
 
@@ -43,7 +44,63 @@ private:
     TagDictionary m_dictionary{OVISTO_DATA_FOLDER "Merovel.xml"};
 };
 
+/// No file may become larger than `bytes` while this lives: the disk is full.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_old);
+        const rlimit limit{bytes, m_old.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_old);
+        std::signal(SIGXFSZ, m_oldHandler);
+    }
+
+private:
+    void (*m_oldHandler)(int);
+    rlimit m_old{};
+};
+
+/// Hears of a file that could not be put in place when the others of its group are: then there is room on the disk.
+class MakingRoom : public RecordingReporter {
+public:
+    std::optional<FullDisk> disk;
+
+    void report(const std::string& context, const Error& error) override
+    {
+        RecordingReporter::report(context, error);
+        disk.reset();
+    }
+};
+
 } // namespace
+
+TEST_F(BatchActionTest, MakesRoomOnAFullDiskBeforeAFileFails)
+{
+    std::vector<std::string> files = photographs(1);
+    for (const char* name : {"large.jpg", "second.jpg", "last.jpg"})
+        files.push_back(folder.file(name, JpegBytes().app0().end(Bytes(200'000, 0x11))));
+    fs::permissions(files[0], fs::perms::owner_read);
+    MakingRoom making;
+    making.disk.emplace(100'000);
+    BatchAction(files, titled("New")).run(progress, making);
+    EXPECT_EQ(making.contexts, std::vector<std::string>{files[0]});
+    for (const char* name : {"large.jpg", "second.jpg", "last.jpg"})
+        EXPECT_EQ(titleOf(folder.path(name)), "New") << name;
+
+    fs::permissions(files[0], fs::perms::owner_all);
+    const FullDisk full(100'000);
+    BatchAction(files, titled("Newer")).run(progress, reporter);
+    EXPECT_EQ(titleOf(files[0]), "Newer");
+    EXPECT_EQ(reporter.contexts, std::vector<std::string>(files.begin() + 1, files.end()));
+    EXPECT_EQ(reporter.numbers, std::vector<int>(3, kDiskFull));
+    EXPECT_EQ(folder.names().size(), files.size()) << "no incomplete file is left";
+}
 
 TEST_F(BatchActionTest, DoesTheOthersWhenOneFailsHalfWay)
 {

@@ -223,7 +223,7 @@ private Q_SLOTS:
             const auto neighbours = [&] { return tree.model()->rowCount(tree.currentIndex().parent()); };
             QTRY_VERIFY(start == hidden || neighbours() == 300);
             QTest::qWait(50);
-            QVERIFY(tree.viewport()->rect().contains(row().center()));
+            QTRY_VERIFY(tree.viewport()->rect().contains(row().center()));
             QCOMPARE(form.SelectedFolder(), start);
         }
     }
@@ -248,6 +248,9 @@ private Q_SLOTS:
         QCOMPARE(path.text(), form.SelectedFolder());
         press(form, "FolderUp");
         QCOMPARE(path.text(), folder.filePath(QStringLiteral("a/b")));
+        path.selectAll();
+        QTest::keyClick(&path, Qt::Key_Delete);
+        QCOMPARE(form.SelectedFolder(), folder.filePath(QStringLiteral("a/b")));
         press(form, "FolderHome");
         QCOMPARE(form.SelectedFolder(), QDir::homePath());
         tree.select(QDir::rootPath());
@@ -390,6 +393,26 @@ private Q_SLOTS:
         QCOMPARE(inFile(window.path("3.jpg"), kDescription).value(), old.toStdString());
         QVERIFY(!form.isVisible());
         QCOMPARE(window.form().windowTitle(), QStringLiteral("2.jpg[*]"));
+    }
+
+    void tellsOfManyFilesThatCannotBeReplacedInOneMessage()
+    {
+        Window window;
+        openThree(window);
+        const QString before = inThree(window, kDescription);
+        for (const char* name : {"1.jpg", "2.jpg", "3.jpg"})
+            QFile::setPermissions(QString::fromStdString(window.path(name)), QFile::ReadOwner);
+        BatchForm& form = openBatch(window, "Image Description");
+        controlOf<QLineEdit>(form, "NodeValue").setText(QStringLiteral("batch"));
+        press(form, "BatchStarter");
+        const QStringList messages = window.dialogs.taken();
+        QCOMPARE(messages.size(), 2);
+        QVERIFY(messages[0].startsWith(QString::fromStdString(window.path("1.jpg")) + QStringLiteral("\r\n")));
+        const QStringList lines = messages[1].split(QStringLiteral("\r\n"));
+        QCOMPARE(lines.size(), 3);
+        QCOMPARE(lines[0], QStringLiteral("Other files that could not be changed (2):"));
+        QVERIFY(lines[1].contains(QString::fromStdString(window.path("2.jpg"))));
+        QCOMPARE(inThree(window, kDescription), before);
     }
 
     void stopsABatch()

@@ -9,9 +9,12 @@ bool BatchWatch::step(const std::string& path, std::size_t done, std::size_t tot
 
 void BatchWatch::report(const std::string& context, const Error& error)
 {
+    if (m_failed) {
+        m_failedToo.push_back({context, error});
+        return;
+    }
     m_reporter.report(context, error);
-    const bool isUnreadable = error.number == kOpenFailed || error.number == kStructureError;
-    m_failed = m_failed || !isUnreadable;
+    m_failed = error.number != kOpenFailed && error.number != kStructureError;
 }
 
 } // namespace ovisto

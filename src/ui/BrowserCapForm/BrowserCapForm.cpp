@@ -57,6 +57,10 @@ void BrowserCapForm::selectionChanged(const QString& folder)
 
 void BrowserCapForm::folderTyped(const QString& text)
 {
+    if (text.isEmpty()) { // nothing typed: what is selected counts
+        m_selectedFolder = ui.FolderTree->selected();
+        return;
+    }
     const QScopedValueRollback typing(m_typing, true);
     m_selectedFolder = typedFolder(text);
     ui.FolderTree->select(m_selectedFolder);

@@ -19,7 +19,8 @@ public:
     /// Whether the person did anything but press "Select Folder".
     bool Cancelled() const { return result() != Accepted; }
 
-    /// The folder selected in the tree, or typed, which may not exist then.
+    /// The folder selected in the tree, or typed, which may not exist then. Where nothing stands in the box, the one
+    /// in the tree.
     QString SelectedFolder() const { return m_selectedFolder; }
 
     /// What was chosen.

@@ -9,8 +9,8 @@
 #include "ui/BatchForm/BatchForm.h"
 #include "ui/BatchForm/BatchWatch.h"
 #include "ui/BrowserCapForm/BrowserCapForm.h"
+#include "ui/ControlForm/FailureMessages.h"
 #include "ui/ControlForm/NamedFiles.h"
-#include "ui/ControlForm/ReportMessage.h"
 #include "ui/ProgressForm/ProgressForm.h"
 
 #include <QScopedValueRollback>
@@ -118,11 +118,15 @@ void ControlForm::runBatch(const NodeChange& change)
     moveFocusTo(*ui.BatchShower);
     if (!leaveShownFile())
         return;
+    std::vector<FileFailure> notChanged;
     runWatched([&](ProgressForm& progress) {
         progress.show();
         BatchWatch watch(progress, m_reporter);
         BatchAction(m_found.paths(), change).run(watch, watch);
+        notChanged = watch.failedToo();
     });
+    if (!notChanged.empty())
+        m_surroundings.dialogs.show(notChangedMessage(notChanged));
     m_batch->close();
     OpenSelectedFile();
 }

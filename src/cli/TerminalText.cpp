@@ -1,4 +1,4 @@
-#include "cli/TerminalReporter.h"
+#include "cli/TerminalText.h"
 
 #include "common/CodePage.h"
 
@@ -7,7 +7,6 @@ namespace ovisto {
 namespace {
 
 constexpr std::size_t kMostMessage = 400;
-constexpr std::size_t kMostContext = 200; // a context may end with a whole value
 
 constexpr bool isControl(char32_t character)
 {
@@ -15,17 +14,6 @@ constexpr bool isControl(char32_t character)
 }
 
 } // namespace
-
-void TerminalReporter::report(const std::string& context, const Error& error)
-{
-    if (!m_first)
-        m_first = (context.empty() ? context : oneLine(context, kMostContext) + ": ") + error.description;
-}
-
-std::string TerminalReporter::line(const std::string& path, const Error& error) const
-{
-    return errorLine(path, m_first.value_or(error.description));
-}
 
 std::string errorLine(const std::string& path, const std::string& message)
 {

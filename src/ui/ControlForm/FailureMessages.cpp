@@ -1,0 +1,47 @@
+#include "ui/ControlForm/FailureMessages.h"
+
+#include "ui/App/Text.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace ovisto {
+
+namespace {
+
+/// The reader names the file in what it says, the parser does not.
+QString line(const FileFailure& failure)
+{
+    const bool namesFile = failure.error.description.find(failure.path) != std::string::npos;
+    return toQString((namesFile ? "" : failure.path + ": ") + failure.error.description);
+}
+
+QString messageOf(const QString& heading, const std::vector<FileFailure>& failures)
+{
+    constexpr std::size_t kMost = 10; // a box with many more is larger than the screen
+    QStringList lines(heading);
+    const std::size_t shown = std::min(failures.size(), kMost);
+    for (std::size_t i = 0; i < shown; ++i)
+        lines << line(failures[i]);
+    if (failures.size() > shown)
+        lines << QCoreApplication::translate("FailureMessages", "and %1 more").arg(failures.size() - shown);
+    return lines.join(QStringLiteral("\r\n"));
+}
+
+} // namespace
+
+QString leftOutMessage(const std::vector<FileFailure>& leftOut)
+{
+    return messageOf(QCoreApplication::translate("FailureMessages", "The report does not cover these files:"), leftOut);
+}
+
+QString notChangedMessage(const std::vector<FileFailure>& notChanged)
+{
+    return messageOf(QCoreApplication::translate("FailureMessages", "Other files that could not be changed (%1):")
+                         .arg(notChanged.size()),
+                     notChanged);
+}
+
+} // namespace ovisto

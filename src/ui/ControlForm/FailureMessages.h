@@ -1,0 +1,19 @@
+#pragma once
+
+#include "collection/Report.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace ovisto {
+
+// Messages about many files that failed: the first ones, each with its reason, and how many others.
+
+/// Tells a person which files are missing from a report.
+QString leftOutMessage(const std::vector<FileFailure>& leftOut);
+
+/// Tells a person which files a batch could not change, besides the one that it ended with.
+QString notChangedMessage(const std::vector<FileFailure>& notChanged);
+
+} // namespace ovisto
