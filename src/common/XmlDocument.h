@@ -26,7 +26,7 @@ enum class Validation { Off, On };
 enum class WhiteSpace { Preserve, Strip };
 
 /// An XML document in memory. External entities are not read, and nothing is fetched from a network; what a document
-/// type declaration names is read from local files where validation asks for it.
+/// type declaration names is read from regular local files where validation asks for it.
 class XmlDocument {
 public:
     XmlDocument();

@@ -1,6 +1,7 @@
 #include "common/XmlTransform.h"
 
 #include "common/XmlPointer.h"
+#include "common/XmlSetup.h"
 
 #include <libexslt/exslt.h>
 #include <libxml/uri.h>
@@ -37,6 +38,7 @@ constexpr unsigned long kPathStepsPerStep = 20; // a step of a path is quicker t
 xmlDoc* loadLocal(const xmlChar* uri, xmlDict* dictionary, int options, void* /*context*/, xsltLoadType /*type*/)
 {
     const XmlPtr<xmlParserCtxt> parser(xmlNewParserCtxt());
+    allowLocalFilesOnly(*parser);
     if (dictionary != nullptr) {
         xmlDictFree(parser->dict);
         parser->dict = dictionary;
@@ -58,6 +60,7 @@ void initialiseTransformer()
 {
     static std::once_flag once;
     std::call_once(once, [] {
+        initialiseXml();
         xsltInit();
         exsltRegisterAll();
         // Style sheets written for another engine call the function by its name there.

@@ -2,6 +2,7 @@
 #include "collection/KeywordFile.h"
 #include "common/CodePage.h"
 #include "common/XmlTransform.h"
+#include "support/CommandRun.h"
 #include "support/CountingProgress.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
@@ -11,6 +12,8 @@
 #include <algorithm>
 
 #include <filesystem>
+
+#include <sys/stat.h>
 
 namespace ovisto::test {
 
@@ -172,6 +175,29 @@ TEST(XmlTransform, WritesNoFilesAndReachesNoNetwork)
             << c.content;
     }
     EXPECT_FALSE(fs::exists(target));
+}
+
+TEST(XmlTransform, WaitsForNoPipe)
+{
+    const TemporaryFolder folder;
+    ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0600), 0);
+    const struct {
+        std::string content;
+        const char* text;
+    } cases[] = {
+        {textStyle("<xsl:value-of select=\"concat(document('pipe'), 'read')\"/>"), "read"},
+        {"<!DOCTYPE x [<!ENTITY pipe SYSTEM 'pipe'>]>" + textStyle("&pipe;read"), "read"},
+        {"<!DOCTYPE x [<!ENTITY % pipe SYSTEM 'pipe'> %pipe;]>" + textStyle("read"), "read"},
+        {styleSheet("<xsl:import href='pipe'/>"), ""},
+        {"<!DOCTYPE x SYSTEM 'pipe'>" + textStyle("read"), ""},
+    };
+    for (const auto& c : cases) {
+        const std::string style = folder.file("a.xsl", c.content);
+        const CommandRun run =
+            runCommand({"timeout", "20", OVISTO_CLI, "report", "--style", style, OVISTO_OWN_SAMPLES "no-exif.jpg"});
+        EXPECT_EQ(run.output, c.text) << c.content;
+        EXPECT_EQ(run.status, *c.text != '\0' ? 0 : 1) << c.content << run.errors;
+    }
 }
 
 TEST(XmlLoad, TakesADocumentTypeThatOnlyNamesCharacters)
