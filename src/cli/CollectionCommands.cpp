@@ -180,14 +180,15 @@ int runReport(const CommandLine& line, const std::vector<std::string>& files)
     Transformation report;
     ErrorTrap trap;
     trap.run([&] {
+        XmlDocument style;
         XmlDocument document;
-        XMLLoad(document, line.styleSheet);
+        loadStyleSheet(style, line.styleSheet, FileKind::RegularOrPipe);
         const TemporaryFile combined;
         for (const FileFailure& failure : combineDocuments(files, line.keep, combined.path(), output.progress()))
             output.fail(errorLine(failure.path, failure.error.description));
         XMLLoad(document, combined.path());
         report =
-            transformNode(document, line.styleSheet, line.output.empty() ? TextEncoding::Utf8 : TextEncoding::Utf16);
+            transformNode(document, std::move(style), line.output.empty() ? TextEncoding::Utf8 : TextEncoding::Utf16);
     });
     if (trap.pending())
         output.fail(errorLine("", trap.take().description));

@@ -9,6 +9,8 @@
 #include <libxml/parserInternals.h>
 #include <libxml/uri.h>
 #include <libxml/xmlsave.h>
+#include <libxslt/xslt.h>
+#include <libxslt/xsltInternals.h>
 
 #include <algorithm>
 #include <limits>
@@ -225,6 +227,32 @@ std::optional<XmlParseError> XmlDocument::loadFile(const std::string& path, Vali
     content->declaration = doc->standalone != kNoDeclaration;
     if (validation == Validation::On && declaresElements(*doc)) {
         if (auto error = validate(doc, source->text()))
+            return error;
+    }
+    m_content = std::move(content);
+    return std::nullopt;
+}
+
+std::optional<XmlParseError> XmlDocument::loadStyleSheet(const std::string& path, FileKind kind)
+{
+    m_content.reset();
+    initialiseXml();
+    std::string text;
+    ErrorTrap trap;
+    trap.run([&] { text = readTextFile(path, kind); });
+    if (trap.pending())
+        return parseError(trap.take());
+    const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
+    allowLocalFilesOnly(*context);
+    const XmlPtr<xmlChar> uri(xmlPathToURI(xmlText(path.c_str())));
+    std::string_view rest = text;
+    xmlDoc* doc = xmlCtxtReadIO(context.get(), readText, nullptr, &rest, toString(uri.get()).c_str(), nullptr,
+                                kParseOptions | XSLT_PARSE_OPTIONS);
+    if (doc == nullptr)
+        return parseError(context->lastError, text);
+    auto content = std::make_unique<Content>(doc);
+    if (declaresElements(*doc)) {
+        if (auto error = validate(doc, text))
             return error;
     }
     m_content = std::move(content);

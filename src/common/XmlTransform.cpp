@@ -24,7 +24,11 @@ namespace ovisto {
 namespace {
 
 struct XsltFree {
-    void operator()(xsltStylesheet* style) const { xsltFreeStylesheet(style); }
+    void operator()(xsltStylesheet* style) const
+    {
+        style->doc = nullptr; // goes with the XmlDocument that owns it
+        xsltFreeStylesheet(style);
+    }
     void operator()(xsltTransformContext* context) const { xsltFreeTransformContext(context); }
 };
 template <class T> using XsltPtr = std::unique_ptr<T, XsltFree>;
@@ -147,12 +151,11 @@ std::string resultText(xmlDoc* result, xsltStylesheet* style)
 
 } // namespace
 
-Transformation transformNode(XmlDocument& data, const std::string& styleSheet, TextEncoding encoding)
+Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding)
 {
     initialiseTransformer();
     const Messages messages;
-    const XmlPtr<xmlChar> uri(xmlPathToURI(xmlText(styleSheet.c_str())));
-    const XsltPtr<xsltStylesheet> style(xsltParseStylesheetFile(uri.get()));
+    const XsltPtr<xsltStylesheet> style(xsltParseStylesheetDoc(reinterpret_cast<xmlDoc*>(styleSheet.node().m_node)));
     if (!style || style->errors != 0)
         return {.bytes = {}, .error = messages.error()};
     setEncoding(*style, encoding);

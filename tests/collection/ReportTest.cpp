@@ -1,6 +1,7 @@
 #include "collection/Report.h"
 #include "collection/KeywordFile.h"
 #include "common/CodePage.h"
+#include "common/XmlLoad.h"
 #include "common/XmlTransform.h"
 #include "support/CommandRun.h"
 #include "support/CountingProgress.h"
@@ -32,6 +33,16 @@ std::string styleSheet(const std::string& content)
 std::string textStyle(const std::string& content)
 {
     return styleSheet("<xsl:output method='text'/><xsl:template match='/'>" + content + "</xsl:template>");
+}
+
+/// What a style sheet makes of a document that says nothing.
+Transformation transformed(const std::string& style)
+{
+    XmlDocument styleSheetDocument;
+    XmlDocument data;
+    loadStyleSheet(styleSheetDocument, style, FileKind::Regular);
+    EXPECT_FALSE(data.loadText("<a/>"));
+    return transformNode(data, std::move(styleSheetDocument), TextEncoding::Utf8);
 }
 
 Bytes utf16File(const std::string& text)
@@ -136,9 +147,7 @@ TEST(XmlTransform, EndsStyleSheetsThatWouldNot)
     for (const std::string& again : {call, call + call}) { // too deep; and too long before it is too deep
         const std::string style =
             folder.file("a.xsl", styleSheet("<xsl:template match='/' name='again'>" + again + "</xsl:template>"));
-        XmlDocument data;
-        ASSERT_FALSE(data.loadText("<a/>"));
-        EXPECT_TRUE(transformNode(data, style, TextEncoding::Utf8).error) << again;
+        EXPECT_TRUE(transformed(style).error) << again;
     }
     const std::string doubling = folder.file(
         "b.xsl",
@@ -146,9 +155,7 @@ TEST(XmlTransform, EndsStyleSheetsThatWouldNot)
                    "<xsl:call-template name='again'><xsl:with-param name='n' select='$n - 1'/>"
                    "</xsl:call-template><xsl:call-template name='again'><xsl:with-param name='n' select='$n - "
                    "1'/></xsl:call-template></xsl:if></xsl:template>"));
-    XmlDocument data;
-    ASSERT_FALSE(data.loadText("<a/>"));
-    EXPECT_TRUE(transformNode(data, doubling, TextEncoding::Utf8).error);
+    EXPECT_TRUE(transformed(doubling).error);
 }
 
 TEST(XmlTransform, WritesNoFilesAndReachesNoNetwork)
@@ -169,10 +176,7 @@ TEST(XmlTransform, WritesNoFilesAndReachesNoNetwork)
         {"<![CDATA[<&>]]>", "<&>"},
     };
     for (const auto& c : cases) {
-        XmlDocument data;
-        ASSERT_FALSE(data.loadText("<a/>"));
-        EXPECT_EQ(transformNode(data, folder.file("a.xsl", textStyle(c.content)), TextEncoding::Utf8).bytes, c.text)
-            << c.content;
+        EXPECT_EQ(transformed(folder.file("a.xsl", textStyle(c.content))).bytes, c.text) << c.content;
     }
     EXPECT_FALSE(fs::exists(target));
 }
