@@ -2,6 +2,7 @@
 
 #include "common/Error.h"
 #include "common/File.h"
+#include "common/XmlMemory.h"
 #include "common/XmlPointer.h"
 
 #include <libxml/parserInternals.h>
@@ -83,6 +84,7 @@ void initialiseXml()
 {
     static std::once_flag once;
     std::call_once(once, [] {
+        countXmlMemory();
         xmlInitParser();
         usualLoader = xmlGetExternalEntityLoader();
         xmlSetExternalEntityLoader(load);

@@ -1,5 +1,6 @@
 #include "common/XmlTransform.h"
 
+#include "common/XmlMemory.h"
 #include "common/XmlPointer.h"
 #include "common/XmlSetup.h"
 
@@ -38,9 +39,19 @@ constexpr unsigned long kStepsFree = 10'000'000;
 constexpr unsigned long kStepsPerElement = 2'000;
 constexpr unsigned long kPathStepsPerStep = 20; // a step of a path is quicker than an instruction
 
+// Memory that a transformation may take, in the same way.
+constexpr std::size_t kMemoryFree = std::size_t{128} * 1024 * 1024;
+constexpr std::size_t kMemoryPerElement = 2048; // an element itself takes less than half, with attributes and text
+
+// Style sheets that import the next one twice, again and again, would be countless.
+constexpr int kMostImports = 10'000;
+thread_local int importsLeft = 0;
+
 /// All that style sheets load, and themselves, comes from local files.
-xmlDoc* loadLocal(const xmlChar* uri, xmlDict* dictionary, int options, void* /*context*/, xsltLoadType /*type*/)
+xmlDoc* loadLocal(const xmlChar* uri, xmlDict* dictionary, int options, void* /*context*/, xsltLoadType type)
 {
+    if (XmlMemoryLimit::isExceeded() || (type == XSLT_LOAD_STYLESHEET && importsLeft-- <= 0))
+        return nullptr;
     const XmlPtr<xmlParserCtxt> parser(xmlNewParserCtxt());
     allowLocalFilesOnly(*parser);
     if (dictionary != nullptr) {
@@ -82,7 +93,10 @@ __attribute__((format(printf, 2, 3))) void appendMessage(void* messages, const c
     va_start(arguments, format);
     std::vsnprintf(text.data(), text.size(), format, arguments); // NOLINT(clang-analyzer-valist.Uninitialized)
     va_end(arguments);
-    static_cast<std::string*>(messages)->append(text.data());
+    constexpr std::size_t kMost = std::size_t{64} * 1024; // a style sheet may say something with every step
+    auto& all = *static_cast<std::string*>(messages);
+    if (all.size() < kMost)
+        all.append(text.data());
 }
 
 /// Collects what the libraries have to say while it lives. They keep the receiver in a variable of the whole program,
@@ -131,12 +145,24 @@ void setEncoding(xsltStylesheet& style, TextEncoding encoding)
     style.encoding = xmlStrdup(xmlText(encoding == TextEncoding::Utf16 ? "UTF-16" : "UTF-8"));
 }
 
-void limitSteps(xsltTransformContext& context, xmlDoc* doc)
+void limitSteps(xsltTransformContext& context, unsigned long elements)
 {
-    // Numbering the elements, besides counting them, lets paths sort what they find at once.
-    const auto elements = static_cast<unsigned long>(std::max(0L, xmlXPathOrderDocElems(doc)));
     context.opLimit = kStepsFree + elements * kStepsPerElement;
     context.xpathCtxt->opLimit = context.opLimit * kPathStepsPerStep;
+}
+
+/// Ends a transformation that has begun, and the path that it is at, with their next step.
+void stop(xsltTransformContext* context)
+{
+    if (context == nullptr)
+        return;
+    context->state = XSLT_STATE_STOPPED;
+    context->xpathCtxt->opLimit = 1;
+}
+
+Error tooMuchMemory()
+{
+    return {kOutOfMemory, "The style sheet takes far more memory than the documents need"};
 }
 
 std::string resultText(xmlDoc* result, xsltStylesheet* style)
@@ -154,18 +180,29 @@ std::string resultText(xmlDoc* result, xsltStylesheet* style)
 Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding)
 {
     initialiseTransformer();
+    importsLeft = kMostImports;
     const Messages messages;
+    auto* doc = reinterpret_cast<xmlDoc*>(data.node().m_node);
+    // Numbering the elements, besides counting them, lets paths sort what they find at once.
+    const auto elements = static_cast<unsigned long>(std::max(0L, xmlXPathOrderDocElems(doc)));
+    xsltTransformContext* running = nullptr;
+    std::optional<XmlMemoryLimit> memory(std::in_place, kMemoryFree + elements * kMemoryPerElement,
+                                         [&running] { stop(running); });
     const XsltPtr<xsltStylesheet> style(xsltParseStylesheetDoc(reinterpret_cast<xmlDoc*>(styleSheet.node().m_node)));
     if (!style || style->errors != 0)
-        return {.bytes = {}, .error = messages.error()};
+        return {.bytes = {}, .error = memory->wasExceeded() ? tooMuchMemory() : messages.error()};
     setEncoding(*style, encoding);
 
-    auto* doc = reinterpret_cast<xmlDoc*>(data.node().m_node);
     const XsltPtr<xsltTransformContext> context(xsltNewTransformContext(style.get(), doc));
-    limitSteps(*context, doc);
+    limitSteps(*context, elements);
+    running = context.get();
     const XmlPtr<xmlDoc> result(xsltApplyStylesheetUser(style.get(), doc, nullptr, nullptr, nullptr, context.get()));
+    const bool tookTooMuch = memory->wasExceeded();
+    memory.reset();
     Transformation transformation{.bytes = resultText(result.get(), style.get()), .error = {}};
-    if (!result || context->state != XSLT_STATE_OK)
+    if (tookTooMuch)
+        transformation.error = tooMuchMemory();
+    else if (!result || context->state != XSLT_STATE_OK)
         transformation.error = messages.error();
     return transformation;
 }

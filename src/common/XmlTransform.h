@@ -20,7 +20,8 @@ struct Transformation {
 /// Transforms `data` by an XSLT 1.0 style sheet that was loaded by loadStyleSheet(), EXSLT functions and
 /// msxsl:node-set() included. White space that the style sheet strips is taken out of `data`. A style sheet reads
 /// regular local files, nothing from a network or a pipe, and writes no file; one that would never end is stopped after
-/// far more steps than the data needs. An error of the style sheet is kInvalidCall, with its reason and place.
+/// far more steps than the data needs. An error of the style sheet is kInvalidCall, with its reason and place; when it
+/// takes far more memory than the data needs (128 MB, and 2 KB an element), kOutOfMemory.
 Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding);
 
 } // namespace ovisto

@@ -156,6 +156,21 @@ TEST(XmlTransform, EndsStyleSheetsThatWouldNot)
                    "</xsl:call-template><xsl:call-template name='again'><xsl:with-param name='n' select='$n - "
                    "1'/></xsl:call-template></xsl:if></xsl:template>"));
     EXPECT_TRUE(transformed(doubling).error);
+
+    const std::string longer = folder.file(
+        "c.xsl", styleSheet("<xsl:template match='/' name='again'><xsl:param name='s' select=\"'xx'\"/>"
+                            "<xsl:call-template name='again'><xsl:with-param name='s' select='concat($s, $s)'/>"
+                            "</xsl:call-template></xsl:template>"));
+    const std::string wider = folder.file(
+        "d.xsl", styleSheet("<xsl:template match='/' name='again'><xsl:param name='v'><i/></xsl:param>"
+                            "<xsl:call-template name='again'><xsl:with-param name='v'><xsl:copy-of select='$v'/>"
+                            "<xsl:copy-of select='$v'/></xsl:with-param></xsl:call-template></xsl:template>"));
+    for (const std::string& style : {longer, wider}) {
+        const auto error = transformed(style).error;
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->number, kOutOfMemory) << error->description;
+    }
+    EXPECT_FALSE(transformed(folder.file("e.xsl", textStyle("fine"))).error) << "the limit is gone with its user";
 }
 
 TEST(XmlTransform, WritesNoFilesAndReachesNoNetwork)
