@@ -233,8 +233,12 @@ TEST(XmlLoad, TakesADocumentTypeThatOnlyNamesCharacters)
 TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
 {
     const TemporaryFolder folder;
+    ExifBytes old; // the maker's full name, and an exposure as powers of two only
+    old.ifd0({old.ascii(0x010F, "NORVANE CORPORATION"), old.ascii(0x0110, "Norvane P2")});
+    old.exif({old.rationals(0x9201, {850, 100}, 10), old.rationals(0x9202, {3, 1})});
     const std::vector<std::string> files = {OVISTO_OWN_SAMPLES "little-endian.jpg", OVISTO_OWN_SAMPLES "no-exif.jpg",
-                                            OVISTO_OWN_SAMPLES "night.jpg"};
+                                            OVISTO_OWN_SAMPLES "night.jpg",
+                                            folder.file("old.jpg", JpegBytes().exif(old).end())};
     const struct {
         const char* style;
         const char* name;
@@ -245,11 +249,12 @@ TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
          "Report.txt",
          {"little-endian.jpg,Mountain lake,2023-05-14 06:42,Castelmar Lumetra 35,Castelmar Zoom 24-70mm "
           "F2.8-4,1/125,8,100,24,lake;mountains;morning;reflection\r\n",
-          "no-exif.jpg,,,,,,,,,\r\n", "\"Le quai éclairé, huit secondes de pose\""}},
+          "no-exif.jpg,,,,,,,,,\r\n", "old.jpg,,,Norvane P2,,1/362,2.8,,,\r\n",
+          "\"Le quai éclairé, huit secondes de pose\""}},
         {"list.xsl", "Report.txt", {"\r\n  1/125 s f/8 ISO 100 24 mm\r\n"}},
         {"statistics.xsl",
          "Report.htm",
-         {"Castelmar Lumetra 35</text><rect x=\"230\" y=\"3\" width=\"540\"", ">not known</text>", ">2023-12</text>"}},
+         {"Castelmar Lumetra 35</text><rect x=\"290\" y=\"3\" width=\"480\"", ">not known</text>", ">2023-12</text>"}},
     };
     for (const auto& c : cases) {
         RecordingReporter reporter;
