@@ -41,7 +41,8 @@ constexpr unsigned long kPathStepsPerStep = 20; // a step of a path is quicker t
 
 // Memory that a transformation may take, in the same way.
 constexpr std::size_t kMemoryFree = std::size_t{128} * 1024 * 1024;
-constexpr std::size_t kMemoryPerElement = 2048; // an element itself takes less than half, with attributes and text
+constexpr std::size_t kMemoryPerElement = 2048; // an element itself takes less than half, with its attributes
+constexpr std::size_t kMemoryPerByte = 4;       // of the texts
 
 // Style sheets that import the next one twice, again and again, would be countless.
 constexpr int kMostImports = 10'000;
@@ -151,6 +152,22 @@ void limitSteps(xsltTransformContext& context, unsigned long elements)
     context.xpathCtxt->opLimit = context.opLimit * kPathStepsPerStep;
 }
 
+/// Bytes in the texts of a document, of which those of maker notes and thumbnails are long.
+std::size_t textSize(const xmlDoc* doc)
+{
+    std::size_t size = 0;
+    const auto* top = reinterpret_cast<const xmlNode*>(doc);
+    for (const xmlNode* node = doc != nullptr ? doc->children : nullptr; node != nullptr;) {
+        if (node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE)
+            size += static_cast<std::size_t>(xmlStrlen(node->content));
+        const xmlNode* next = node->type == XML_ELEMENT_NODE ? node->children : nullptr;
+        for (; next == nullptr && node != top; node = node->parent)
+            next = node->next;
+        node = next;
+    }
+    return size;
+}
+
 /// Ends a transformation that has begun, and the path that it is at, with their next step.
 void stop(xsltTransformContext* context)
 {
@@ -186,7 +203,8 @@ Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEnco
     // Numbering the elements, besides counting them, lets paths sort what they find at once.
     const auto elements = static_cast<unsigned long>(std::max(0L, xmlXPathOrderDocElems(doc)));
     xsltTransformContext* running = nullptr;
-    std::optional<XmlMemoryLimit> memory(std::in_place, kMemoryFree + elements * kMemoryPerElement,
+    std::optional<XmlMemoryLimit> memory(std::in_place,
+                                         kMemoryFree + elements * kMemoryPerElement + textSize(doc) * kMemoryPerByte,
                                          [&running] { stop(running); });
     const XsltPtr<xsltStylesheet> style(xsltParseStylesheetDoc(reinterpret_cast<xmlDoc*>(styleSheet.node().m_node)));
     if (!style || style->errors != 0)

@@ -21,7 +21,7 @@ struct Transformation {
 /// msxsl:node-set() included. White space that the style sheet strips is taken out of `data`. A style sheet reads
 /// regular local files, nothing from a network or a pipe, and writes no file; one that would never end is stopped after
 /// far more steps than the data needs. An error of the style sheet is kInvalidCall, with its reason and place; when it
-/// takes far more memory than the data needs (128 MB, and 2 KB an element), kOutOfMemory.
+/// takes far more memory than the data needs (128 MB, and 2 KB an element, and four times its texts), kOutOfMemory.
 Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding);
 
 } // namespace ovisto
