@@ -5,7 +5,7 @@
   <xsl:output method="text"/>
 
   <xsl:template match="/JPEGs">
-    <xsl:value-of select="concat(count(JPEG), ' photographs&#13;&#10;')"/>
+    <xsl:apply-templates select="." mode="number"/><xsl:text>&#13;&#10;</xsl:text>
     <xsl:apply-templates select="JPEG"/>
   </xsl:template>
 

@@ -28,7 +28,7 @@
       </head>
       <body>
         <h1>Statistics</h1>
-        <p><xsl:value-of select="count(JPEG)"/> photographs</p>
+        <p><xsl:apply-templates select="." mode="number"/></p>
         <xsl:variable name="cameras">
           <xsl:for-each select="JPEG"><value><xsl:apply-templates select="." mode="camera"/></value></xsl:for-each>
         </xsl:variable>
@@ -96,21 +96,21 @@
     </xsl:variable>
     <xsl:variable name="height" select="count(row) * 24 + 4"/>
     <svg viewBox="0 0 840 {$height}" height="{$height}" role="img" preserveAspectRatio="xMinYMin meet">
-      <line x1="230" y1="0" x2="230" y2="{$height}"/>
+      <line x1="290" y1="0" x2="290" y2="{$height}"/>
       <xsl:for-each select="row">
         <xsl:sort select="@place" data-type="number"/>
         <xsl:sort select="@label"/>
         <xsl:variable name="top" select="(position() - 1) * 24 + 3"/>
-        <xsl:variable name="width" select="round(@count div $most * 540)"/>
-        <text x="220" y="{$top + 14}" text-anchor="end">
+        <xsl:variable name="width" select="round(@count div $most * 480)"/>
+        <text x="280" y="{$top + 14}" text-anchor="end">
           <xsl:choose>
             <xsl:when test="normalize-space(@label) = ''">not known</xsl:when>
             <xsl:when test="string-length(@label) &gt; 32"><xsl:value-of select="concat(substring(@label, 1, 31), '…')"/></xsl:when>
             <xsl:otherwise><xsl:value-of select="@label"/></xsl:otherwise>
           </xsl:choose>
         </text>
-        <rect x="230" y="{$top}" width="{$width}" height="19" rx="2"/>
-        <text class="count" x="{238 + $width}" y="{$top + 14}"><xsl:value-of select="@count"/></text>
+        <rect x="290" y="{$top}" width="{$width}" height="19" rx="2"/>
+        <text class="count" x="{298 + $width}" y="{$top + 14}"><xsl:value-of select="@count"/></text>
       </xsl:for-each>
     </svg>
   </xsl:template>

@@ -27,7 +27,7 @@
       </head>
       <body>
         <h1>Shots</h1>
-        <p><xsl:value-of select="count(JPEG)"/> photographs</p>
+        <p><xsl:apply-templates select="." mode="number"/></p>
         <table>
           <thead>
             <tr>

@@ -222,8 +222,9 @@ int runReport(const CommandLine& line, const std::vector<std::string>& files)
     Transformation report;
     ErrorTrap trap;
     trap.run([&] {
+        XmlDocument style;
         XmlDocument document;
-        XMLLoad(document, line.styleSheet);
+        loadStyleSheet(style, line.styleSheet, FileKind::RegularOrPipe);
         const TemporaryFile combined;
         for (const FileFailure& failure : combineDocuments(files, line.keep, combined.path(), output.progress()))
             output.fail(errorLine(failure.path, failure.error.description));
@@ -231,7 +232,7 @@ int runReport(const CommandLine& line, const std::vector<std::string>& files)
             return;
         XMLLoad(document, combined.path());
         report =
-            transformNode(document, line.styleSheet, line.output.empty() ? TextEncoding::Utf8 : TextEncoding::Utf16);
+            transformNode(document, std::move(style), line.output.empty() ? TextEncoding::Utf8 : TextEncoding::Utf16);
     });
     if (interrupted())
         return output.finish(); // a report on some of the files is none

@@ -1,5 +1,6 @@
 #include "collection/ContentFilter.h"
 
+#include "collection/DocumentPattern.h"
 #include "common/Error.h"
 #include "common/NumberText.h"
 #include "reader/JpegXml.h"
@@ -29,6 +30,13 @@ std::string anyWordPattern(const ContentSearch& search)
     return pattern;
 }
 
+RegularExpression wordExpression(const std::string& pattern)
+{
+    RegularExpression typed(pattern); // an error is to speak of what was typed
+    const std::string inDocument = documentPattern(pattern);
+    return inDocument == pattern ? std::move(typed) : RegularExpression(inDocument);
+}
+
 std::vector<RegularExpression> expressionsFor(const ContentSearch& search)
 {
     std::vector<RegularExpression> expressions;
@@ -38,9 +46,9 @@ std::vector<RegularExpression> expressionsFor(const ContentSearch& search)
         expressions.emplace_back(search.words);
     } else if (search.allWords) {
         for (const std::string_view word : split(search.words, ','))
-            expressions.emplace_back(wordPattern(word, search.wholeWords));
+            expressions.push_back(wordExpression(wordPattern(word, search.wholeWords)));
     } else {
-        expressions.emplace_back(anyWordPattern(search));
+        expressions.push_back(wordExpression(anyWordPattern(search)));
     }
     return expressions;
 }

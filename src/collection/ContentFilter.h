@@ -25,8 +25,9 @@ public:
     /// have their meaning in words too.
     explicit ContentFilter(const ContentSearch& search);
 
-    /// Whether the text of the document of the JPEG file at `path` contains it as it stands: markup counts, and most
-    /// characters beyond ASCII are there as references ("&#233;"), which are what to search for. A file that the reader
+    /// Whether the text of the document of the JPEG file at `path` contains it: markup counts. Most characters beyond
+    /// ASCII are there as references ("&#233;"); words find them (see documentPattern()), while a regular expression
+    /// has to ask for the reference. A file that the reader
     /// cannot translate does not; where anything will do, no file is read. Raises what RegularExpression::matches()
     /// raises, with the file's name.
     bool keeps(const std::string& path) const;

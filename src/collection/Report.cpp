@@ -101,8 +101,9 @@ ReportResult makeReport(const std::vector<std::string>& files, const ReportOptio
                         ErrorReporter& reporter)
 {
     ReportResult result;
+    XmlDocument style;
     XmlDocument document;
-    if (!succeeds(reporter, options.styleSheet, [&] { XMLLoad(document, options.styleSheet); }))
+    if (!succeeds(reporter, options.styleSheet, [&] { loadStyleSheet(style, options.styleSheet, FileKind::Regular); }))
         return result;
     // The documents of the last time must not be reported on as if they were these.
     const std::string combined = options.folder + "Report.xml";
@@ -112,7 +113,7 @@ ReportResult makeReport(const std::vector<std::string>& files, const ReportOptio
             XMLLoad(document, combined);
         }))
         return result;
-    const Transformation report = transformNode(document, options.styleSheet, TextEncoding::Utf16);
+    const Transformation report = transformNode(document, std::move(style), TextEncoding::Utf16);
     // What a style sheet made before it failed is worth a look.
     if (report.error)
         ErrorReport(reporter, "Transform XML", *report.error);

@@ -137,8 +137,11 @@ private:
     std::string m_path;
 };
 
-/// A whole file.
-std::string readTextFile(const std::string& path);
+/// What a file may be that is read as a whole, from its start to its end.
+enum class FileKind { Regular, RegularOrPipe };
+
+/// A whole file. A pipe, where it may be one, is waited for, and read until its other end closes it.
+std::string readTextFile(const std::string& path, FileKind kind = FileKind::Regular);
 
 /// How many files the process may have open at the same time. Where it is allowed to, it is made `wanted` at least.
 std::size_t openFilesAllowed(std::size_t wanted);

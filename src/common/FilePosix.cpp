@@ -140,6 +140,26 @@ void copyExtendedAttributes(int from, int to)
     }
 }
 
+bool isPipe(const std::string& path)
+{
+    struct stat status = {};
+    return stat(path.c_str(), &status) == 0 && S_ISFIFO(status.st_mode);
+}
+
+std::string pipeText(const std::string& path)
+{
+    const FileHandle handle = openFile(path, O_RDONLY);
+    std::string text;
+    for (;;) {
+        const std::size_t size = text.size();
+        text.resize(size + kBufferSize);
+        const auto count = checked(uninterrupted([&] { return read(handle.get(), text.data() + size, kBufferSize); }));
+        text.resize(size + static_cast<std::size_t>(count));
+        if (count == 0)
+            return text;
+    }
+}
+
 bool isMarkedReadOnly(const std::string& path)
 {
     constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
@@ -377,8 +397,10 @@ TemporaryFile::~TemporaryFile()
     unlink(m_path.c_str());
 }
 
-std::string readTextFile(const std::string& path)
+std::string readTextFile(const std::string& path, FileKind kind)
 {
+    if (kind == FileKind::RegularOrPipe && isPipe(path))
+        return pipeText(path);
     const InputFile file(path);
     std::string content(static_cast<std::size_t>(file.size()), '\0');
     content.resize(file.readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));

@@ -4,14 +4,16 @@
 #include "common/Error.h"
 #include "common/File.h"
 #include "common/XmlPointer.h"
+#include "common/XmlSetup.h"
 
 #include <libxml/parserInternals.h>
 #include <libxml/uri.h>
 #include <libxml/xmlsave.h>
+#include <libxslt/xslt.h>
+#include <libxslt/xsltInternals.h>
 
 #include <algorithm>
 #include <limits>
-#include <mutex>
 
 namespace ovisto {
 
@@ -27,12 +29,6 @@ namespace {
 
 // Nothing outside the document itself is brought in: no network, no external entities.
 constexpr int kParseOptions = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_BIG_LINES;
-
-void initialiseParser()
-{
-    static std::once_flag once;
-    std::call_once(once, xmlInitParser);
-}
 
 /// The line (the first is 1) of a text that has no line breaks but LF and CR LF.
 std::string_view lineOf(std::string_view text, std::int64_t line)
@@ -150,9 +146,19 @@ bool takesTooMuchMemory(std::string_view text)
     return !isShort && nodeMemory(text) > kNodeMemoryFree + text.size();
 }
 
+/// An error of the document as a whole.
+XmlParseError documentError(int code, const std::string& reason)
+{
+    return {.code = code, .reason = reason, .line = 0, .linepos = 0, .srcText = {}};
+}
+
 /// Holds the document type that `doc` declares, if it does, against its content.
 std::optional<XmlParseError> validate(xmlDoc* doc, std::string_view source)
 {
+    // The parser could not have it. The validator would look for it again, and at any place.
+    if (const xmlDtd* type = doc->intSubset; doc->extSubset == nullptr && type != nullptr && type->SystemID != nullptr)
+        return documentError(XML_DTD_LOAD_ERROR,
+                             "The document type \"" + toString(type->SystemID) + "\" cannot be loaded");
     std::optional<XmlParseError> firstError;
     const auto remember = [](void* userData, xmlError* error) {
         auto& [found, text] = *static_cast<std::pair<std::optional<XmlParseError>*, std::string_view>*>(userData);
@@ -167,12 +173,7 @@ std::optional<XmlParseError> validate(xmlDoc* doc, std::string_view source)
     if (valid)
         return std::nullopt;
     return firstError ? firstError
-                      : XmlParseError{.code = XML_DTD_UNKNOWN_ELEM,
-                                      .reason = "The content does not match "
-                                                "the document type",
-                                      .line = 0,
-                                      .linepos = 0,
-                                      .srcText = {}};
+                      : documentError(XML_DTD_UNKNOWN_ELEM, "The content does not match the document type");
 }
 
 } // namespace
@@ -185,7 +186,7 @@ XmlDocument::~XmlDocument() = default;
 std::optional<XmlParseError> XmlDocument::loadText(std::string_view text)
 {
     m_content.reset();
-    initialiseParser();
+    initialiseXml();
     if (takesTooMuchMemory(text) || text.size() > std::numeric_limits<int>::max())
         return parseError(systemError(kOutOfMemory));
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
@@ -204,16 +205,17 @@ std::optional<XmlParseError> XmlDocument::loadFile(const std::string& path, Vali
                                                    WhiteSpace whiteSpace)
 {
     m_content.reset();
-    initialiseParser();
+    initialiseXml();
     std::optional<FileSource> source;
     ErrorTrap trap;
     trap.run([&] { source.emplace(path); });
     if (trap.pending())
         return parseError(trap.take());
-    const int options = kParseOptions | (validation == Validation::On ? XML_PARSE_DTDLOAD : 0) |
+    const int options = kParseOptions | XML_PARSE_COMPACT | (validation == Validation::On ? XML_PARSE_DTDLOAD : 0) |
                         (whiteSpace == WhiteSpace::Strip ? XML_PARSE_NOBLANKS : 0) |
                         (source->file.size() > XML_MAX_TEXT_LENGTH ? XML_PARSE_HUGE : 0);
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
+    allowLocalFilesOnly(*context);
     const XmlPtr<xmlChar> uri(xmlPathToURI(xmlText(path.c_str())));
     xmlDoc* doc =
         xmlCtxtReadIO(context.get(), readSource, nullptr, &*source, toString(uri.get()).c_str(), nullptr, options);
@@ -225,6 +227,32 @@ std::optional<XmlParseError> XmlDocument::loadFile(const std::string& path, Vali
     content->declaration = doc->standalone != kNoDeclaration;
     if (validation == Validation::On && declaresElements(*doc)) {
         if (auto error = validate(doc, source->text()))
+            return error;
+    }
+    m_content = std::move(content);
+    return std::nullopt;
+}
+
+std::optional<XmlParseError> XmlDocument::loadStyleSheet(const std::string& path, FileKind kind)
+{
+    m_content.reset();
+    initialiseXml();
+    std::string text;
+    ErrorTrap trap;
+    trap.run([&] { text = readTextFile(path, kind); });
+    if (trap.pending())
+        return parseError(trap.take());
+    const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
+    allowLocalFilesOnly(*context);
+    const XmlPtr<xmlChar> uri(xmlPathToURI(xmlText(path.c_str())));
+    std::string_view rest = text;
+    xmlDoc* doc = xmlCtxtReadIO(context.get(), readText, nullptr, &rest, toString(uri.get()).c_str(), nullptr,
+                                kParseOptions | XSLT_PARSE_OPTIONS);
+    if (doc == nullptr)
+        return parseError(context->lastError, text);
+    auto content = std::make_unique<Content>(doc);
+    if (declaresElements(*doc)) {
+        if (auto error = validate(doc, text))
             return error;
     }
     m_content = std::move(content);

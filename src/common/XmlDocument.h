@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/File.h"
 #include "common/XmlNode.h"
 
 #include <cstdint>
@@ -25,8 +26,8 @@ enum class Validation { Off, On };
 /// Whether white space between elements counts as text.
 enum class WhiteSpace { Preserve, Strip };
 
-/// An XML document in memory. External entities are not read, and nothing is fetched from a network; what a document
-/// type declaration names is read from local files where validation asks for it.
+/// An XML document in memory. External entities are read for style sheets only, and nothing is fetched from a network;
+/// what a document type declaration names is read from regular local files where validation asks for it.
 class XmlDocument {
 public:
     XmlDocument();
@@ -40,6 +41,10 @@ public:
 
     /// The same for a file in any encoding that it declares, UTF-16 included.
     std::optional<XmlParseError> loadFile(const std::string& path, Validation validation, WhiteSpace whiteSpace);
+
+    /// The same for a style sheet, which is validated too, and has the texts of its entities put in, for
+    /// transformNode().
+    std::optional<XmlParseError> loadStyleSheet(const std::string& path, FileKind kind);
 
     /// The document node, above the root element. No node when nothing is loaded.
     XmlNode node() const;

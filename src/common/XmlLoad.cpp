@@ -19,17 +19,27 @@ std::string firstCharacters(const std::string& text, std::int64_t count)
     return first;
 }
 
-} // namespace
-
-void XMLLoad(XmlDocument& document, const std::string& source)
+/// Raises the error, if any, that `source` was refused with.
+void raise(const std::string& source, const std::optional<XmlParseError>& error)
 {
-    const auto error = document.loadFile(source, Validation::On, WhiteSpace::Strip);
     if (!error)
         return;
     throw Error{kOpenFailed, "File " + source + "\r\n" +                                                  //
                                  "Line " + std::to_string(error->line) + " pos " +                        //
                                  std::to_string(error->linepos) + " " + "\r\n" + error->reason + "\r\n" + //
                                  firstCharacters(error->srcText, error->linepos)};
+}
+
+} // namespace
+
+void XMLLoad(XmlDocument& document, const std::string& source)
+{
+    raise(source, document.loadFile(source, Validation::On, WhiteSpace::Strip));
+}
+
+void loadStyleSheet(XmlDocument& document, const std::string& source, FileKind kind)
+{
+    raise(source, document.loadStyleSheet(source, kind));
 }
 
 std::string parseErrorText(const XmlParseError& error)

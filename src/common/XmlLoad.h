@@ -11,6 +11,10 @@ namespace ovisto {
 /// source text up to the position; `document` is then empty.
 void XMLLoad(XmlDocument& document, const std::string& source);
 
+/// The same for a style sheet, as transformNode() takes it. It is read once, so that it may be a pipe where `kind` says
+/// so; what it imports by relative names then has to lie beside the pipe.
+void loadStyleSheet(XmlDocument& document, const std::string& source, FileKind kind);
+
 /// The message for a metadata document that does not parse.
 std::string parseErrorText(const XmlParseError& error);
 

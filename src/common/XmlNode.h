@@ -71,7 +71,7 @@ public:
 
 private:
     friend class XmlDocument;
-    friend Transformation transformNode(XmlDocument& data, const std::string& styleSheet, TextEncoding encoding);
+    friend Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding);
     _xmlNode* m_node = nullptr;
 };
 

@@ -1,6 +1,8 @@
 #include "common/XmlTransform.h"
 
+#include "common/XmlMemory.h"
 #include "common/XmlPointer.h"
+#include "common/XmlSetup.h"
 
 #include <libexslt/exslt.h>
 #include <libxml/uri.h>
@@ -23,7 +25,11 @@ namespace ovisto {
 namespace {
 
 struct XsltFree {
-    void operator()(xsltStylesheet* style) const { xsltFreeStylesheet(style); }
+    void operator()(xsltStylesheet* style) const
+    {
+        style->doc = nullptr; // goes with the XmlDocument that owns it
+        xsltFreeStylesheet(style);
+    }
     void operator()(xsltTransformContext* context) const { xsltFreeTransformContext(context); }
 };
 template <class T> using XsltPtr = std::unique_ptr<T, XsltFree>;
@@ -33,10 +39,22 @@ constexpr unsigned long kStepsFree = 10'000'000;
 constexpr unsigned long kStepsPerElement = 2'000;
 constexpr unsigned long kPathStepsPerStep = 20; // a step of a path is quicker than an instruction
 
+// Memory that a transformation may take, in the same way.
+constexpr std::size_t kMemoryFree = std::size_t{128} * 1024 * 1024;
+constexpr std::size_t kMemoryPerElement = 2048; // an element itself takes less than half, with its attributes
+constexpr std::size_t kMemoryPerByte = 4;       // of the texts
+
+// Style sheets that import the next one twice, again and again, would be countless.
+constexpr int kMostImports = 10'000;
+thread_local int importsLeft = 0;
+
 /// All that style sheets load, and themselves, comes from local files.
-xmlDoc* loadLocal(const xmlChar* uri, xmlDict* dictionary, int options, void* /*context*/, xsltLoadType /*type*/)
+xmlDoc* loadLocal(const xmlChar* uri, xmlDict* dictionary, int options, void* /*context*/, xsltLoadType type)
 {
+    if (XmlMemoryLimit::isExceeded() || (type == XSLT_LOAD_STYLESHEET && importsLeft-- <= 0))
+        return nullptr;
     const XmlPtr<xmlParserCtxt> parser(xmlNewParserCtxt());
+    allowLocalFilesOnly(*parser);
     if (dictionary != nullptr) {
         xmlDictFree(parser->dict);
         parser->dict = dictionary;
@@ -58,6 +76,7 @@ void initialiseTransformer()
 {
     static std::once_flag once;
     std::call_once(once, [] {
+        initialiseXml();
         xsltInit();
         exsltRegisterAll();
         // Style sheets written for another engine call the function by its name there.
@@ -75,7 +94,10 @@ __attribute__((format(printf, 2, 3))) void appendMessage(void* messages, const c
     va_start(arguments, format);
     std::vsnprintf(text.data(), text.size(), format, arguments); // NOLINT(clang-analyzer-valist.Uninitialized)
     va_end(arguments);
-    static_cast<std::string*>(messages)->append(text.data());
+    constexpr std::size_t kMost = std::size_t{64} * 1024; // a style sheet may say something with every step
+    auto& all = *static_cast<std::string*>(messages);
+    if (all.size() < kMost)
+        all.append(text.data());
 }
 
 /// Collects what the libraries have to say while it lives. They keep the receiver in a variable of the whole program,
@@ -124,12 +146,40 @@ void setEncoding(xsltStylesheet& style, TextEncoding encoding)
     style.encoding = xmlStrdup(xmlText(encoding == TextEncoding::Utf16 ? "UTF-16" : "UTF-8"));
 }
 
-void limitSteps(xsltTransformContext& context, xmlDoc* doc)
+void limitSteps(xsltTransformContext& context, unsigned long elements)
 {
-    // Numbering the elements, besides counting them, lets paths sort what they find at once.
-    const auto elements = static_cast<unsigned long>(std::max(0L, xmlXPathOrderDocElems(doc)));
     context.opLimit = kStepsFree + elements * kStepsPerElement;
     context.xpathCtxt->opLimit = context.opLimit * kPathStepsPerStep;
+}
+
+/// Bytes in the texts of a document, of which those of maker notes and thumbnails are long.
+std::size_t textSize(const xmlDoc* doc)
+{
+    std::size_t size = 0;
+    const auto* top = reinterpret_cast<const xmlNode*>(doc);
+    for (const xmlNode* node = doc != nullptr ? doc->children : nullptr; node != nullptr;) {
+        if (node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE)
+            size += static_cast<std::size_t>(xmlStrlen(node->content));
+        const xmlNode* next = node->type == XML_ELEMENT_NODE ? node->children : nullptr;
+        for (; next == nullptr && node != top; node = node->parent)
+            next = node->next;
+        node = next;
+    }
+    return size;
+}
+
+/// Ends a transformation that has begun, and the path that it is at, with their next step.
+void stop(xsltTransformContext* context)
+{
+    if (context == nullptr)
+        return;
+    context->state = XSLT_STATE_STOPPED;
+    context->xpathCtxt->opLimit = 1;
+}
+
+Error tooMuchMemory()
+{
+    return {kOutOfMemory, "The style sheet takes far more memory than the documents need"};
 }
 
 std::string resultText(xmlDoc* result, xsltStylesheet* style)
@@ -144,22 +194,33 @@ std::string resultText(xmlDoc* result, xsltStylesheet* style)
 
 } // namespace
 
-Transformation transformNode(XmlDocument& data, const std::string& styleSheet, TextEncoding encoding)
+Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding)
 {
     initialiseTransformer();
+    importsLeft = kMostImports;
     const Messages messages;
-    const XmlPtr<xmlChar> uri(xmlPathToURI(xmlText(styleSheet.c_str())));
-    const XsltPtr<xsltStylesheet> style(xsltParseStylesheetFile(uri.get()));
+    auto* doc = reinterpret_cast<xmlDoc*>(data.node().m_node);
+    // Numbering the elements, besides counting them, lets paths sort what they find at once.
+    const auto elements = static_cast<unsigned long>(std::max(0L, xmlXPathOrderDocElems(doc)));
+    xsltTransformContext* running = nullptr;
+    std::optional<XmlMemoryLimit> memory(std::in_place,
+                                         kMemoryFree + elements * kMemoryPerElement + textSize(doc) * kMemoryPerByte,
+                                         [&running] { stop(running); });
+    const XsltPtr<xsltStylesheet> style(xsltParseStylesheetDoc(reinterpret_cast<xmlDoc*>(styleSheet.node().m_node)));
     if (!style || style->errors != 0)
-        return {.bytes = {}, .error = messages.error()};
+        return {.bytes = {}, .error = memory->wasExceeded() ? tooMuchMemory() : messages.error()};
     setEncoding(*style, encoding);
 
-    auto* doc = reinterpret_cast<xmlDoc*>(data.node().m_node);
     const XsltPtr<xsltTransformContext> context(xsltNewTransformContext(style.get(), doc));
-    limitSteps(*context, doc);
+    limitSteps(*context, elements);
+    running = context.get();
     const XmlPtr<xmlDoc> result(xsltApplyStylesheetUser(style.get(), doc, nullptr, nullptr, nullptr, context.get()));
+    const bool tookTooMuch = memory->wasExceeded();
+    memory.reset();
     Transformation transformation{.bytes = resultText(result.get(), style.get()), .error = {}};
-    if (!result || context->state != XSLT_STATE_OK)
+    if (tookTooMuch)
+        transformation.error = tooMuchMemory();
+    else if (!result || context->state != XSLT_STATE_OK)
         transformation.error = messages.error();
     return transformation;
 }

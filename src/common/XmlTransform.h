@@ -17,10 +17,11 @@ struct Transformation {
     std::optional<Error> error;
 };
 
-/// Transforms `data` by the XSLT 1.0 style sheet at `styleSheet`, EXSLT functions and msxsl:node-set() included. White
-/// space that the style sheet strips is taken out of `data`. A style sheet reads local files and nothing from a
-/// network, and writes no file; one that would never end is stopped after far more steps than the data needs. An error
-/// of the style sheet is kInvalidCall, with its reason and place.
-Transformation transformNode(XmlDocument& data, const std::string& styleSheet, TextEncoding encoding);
+/// Transforms `data` by an XSLT 1.0 style sheet that was loaded by loadStyleSheet(), EXSLT functions and
+/// msxsl:node-set() included. White space that the style sheet strips is taken out of `data`. A style sheet reads
+/// regular local files, nothing from a network or a pipe, and writes no file; one that would never end is stopped after
+/// far more steps than the data needs. An error of the style sheet is kInvalidCall, with its reason and place; when it
+/// takes far more memory than the data needs (128 MB, and 2 KB an element, and four times its texts), kOutOfMemory.
+Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding);
 
 } // namespace ovisto

@@ -300,6 +300,8 @@ TEST(CommandLine, ReportsOnManyFilesAtOnce)
     EXPECT_EQ(contentOf(output), before);
     expectOneLine(ovisto({"report", "--style", style, "--output", folder.path("none/out"), good}), "none/out", "");
     EXPECT_EQ(ovisto({"report", good}).status, 2);
+    const std::string piped = "cat '" + style + "' | '" OVISTO_CLI "' report --style /dev/stdin '" + good + "'";
+    EXPECT_NE(runCommand({"sh", "-c", piped}).output.find("<t>Héllo</t>"), std::string::npos);
 }
 
 TEST(CommandLine, TellsUsageFromFailure)

@@ -1,7 +1,9 @@
 #include "collection/Report.h"
 #include "collection/KeywordFile.h"
 #include "common/CodePage.h"
+#include "common/XmlLoad.h"
 #include "common/XmlTransform.h"
+#include "support/CommandRun.h"
 #include "support/CountingProgress.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
@@ -11,6 +13,8 @@
 #include <algorithm>
 
 #include <filesystem>
+
+#include <sys/stat.h>
 
 namespace ovisto::test {
 
@@ -29,6 +33,16 @@ std::string styleSheet(const std::string& content)
 std::string textStyle(const std::string& content)
 {
     return styleSheet("<xsl:output method='text'/><xsl:template match='/'>" + content + "</xsl:template>");
+}
+
+/// What a style sheet makes of a document that says nothing.
+Transformation transformed(const std::string& style)
+{
+    XmlDocument styleSheetDocument;
+    XmlDocument data;
+    loadStyleSheet(styleSheetDocument, style, FileKind::Regular);
+    EXPECT_FALSE(data.loadText("<a/>"));
+    return transformNode(data, std::move(styleSheetDocument), TextEncoding::Utf8);
 }
 
 Bytes utf16File(const std::string& text)
@@ -133,9 +147,7 @@ TEST(XmlTransform, EndsStyleSheetsThatWouldNot)
     for (const std::string& again : {call, call + call}) { // too deep; and too long before it is too deep
         const std::string style =
             folder.file("a.xsl", styleSheet("<xsl:template match='/' name='again'>" + again + "</xsl:template>"));
-        XmlDocument data;
-        ASSERT_FALSE(data.loadText("<a/>"));
-        EXPECT_TRUE(transformNode(data, style, TextEncoding::Utf8).error) << again;
+        EXPECT_TRUE(transformed(style).error) << again;
     }
     const std::string doubling = folder.file(
         "b.xsl",
@@ -143,9 +155,22 @@ TEST(XmlTransform, EndsStyleSheetsThatWouldNot)
                    "<xsl:call-template name='again'><xsl:with-param name='n' select='$n - 1'/>"
                    "</xsl:call-template><xsl:call-template name='again'><xsl:with-param name='n' select='$n - "
                    "1'/></xsl:call-template></xsl:if></xsl:template>"));
-    XmlDocument data;
-    ASSERT_FALSE(data.loadText("<a/>"));
-    EXPECT_TRUE(transformNode(data, doubling, TextEncoding::Utf8).error);
+    EXPECT_TRUE(transformed(doubling).error);
+
+    const std::string longer = folder.file(
+        "c.xsl", styleSheet("<xsl:template match='/' name='again'><xsl:param name='s' select=\"'xx'\"/>"
+                            "<xsl:call-template name='again'><xsl:with-param name='s' select='concat($s, $s)'/>"
+                            "</xsl:call-template></xsl:template>"));
+    const std::string wider = folder.file(
+        "d.xsl", styleSheet("<xsl:template match='/' name='again'><xsl:param name='v'><i/></xsl:param>"
+                            "<xsl:call-template name='again'><xsl:with-param name='v'><xsl:copy-of select='$v'/>"
+                            "<xsl:copy-of select='$v'/></xsl:with-param></xsl:call-template></xsl:template>"));
+    for (const std::string& style : {longer, wider}) {
+        const auto error = transformed(style).error;
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->number, kOutOfMemory) << error->description;
+    }
+    EXPECT_FALSE(transformed(folder.file("e.xsl", textStyle("fine"))).error) << "the limit is gone with its user";
 }
 
 TEST(XmlTransform, WritesNoFilesAndReachesNoNetwork)
@@ -166,12 +191,32 @@ TEST(XmlTransform, WritesNoFilesAndReachesNoNetwork)
         {"<![CDATA[<&>]]>", "<&>"},
     };
     for (const auto& c : cases) {
-        XmlDocument data;
-        ASSERT_FALSE(data.loadText("<a/>"));
-        EXPECT_EQ(transformNode(data, folder.file("a.xsl", textStyle(c.content)), TextEncoding::Utf8).bytes, c.text)
-            << c.content;
+        EXPECT_EQ(transformed(folder.file("a.xsl", textStyle(c.content))).bytes, c.text) << c.content;
     }
     EXPECT_FALSE(fs::exists(target));
+}
+
+TEST(XmlTransform, WaitsForNoPipe)
+{
+    const TemporaryFolder folder;
+    ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0600), 0);
+    const struct {
+        std::string content;
+        const char* text;
+    } cases[] = {
+        {textStyle("<xsl:value-of select=\"concat(document('pipe'), 'read')\"/>"), "read"},
+        {"<!DOCTYPE x [<!ENTITY pipe SYSTEM 'pipe'>]>" + textStyle("&pipe;read"), "read"},
+        {"<!DOCTYPE x [<!ENTITY % pipe SYSTEM 'pipe'> %pipe;]>" + textStyle("read"), "read"},
+        {styleSheet("<xsl:import href='pipe'/>"), ""},
+        {"<!DOCTYPE x SYSTEM 'pipe'>" + textStyle("read"), ""},
+    };
+    for (const auto& c : cases) {
+        const std::string style = folder.file("a.xsl", c.content);
+        const CommandRun run =
+            runCommand({"timeout", "20", OVISTO_CLI, "report", "--style", style, OVISTO_OWN_SAMPLES "no-exif.jpg"});
+        EXPECT_EQ(run.output, c.text) << c.content;
+        EXPECT_EQ(run.status, *c.text != '\0' ? 0 : 1) << c.content << run.errors;
+    }
 }
 
 TEST(XmlLoad, TakesADocumentTypeThatOnlyNamesCharacters)
@@ -188,8 +233,12 @@ TEST(XmlLoad, TakesADocumentTypeThatOnlyNamesCharacters)
 TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
 {
     const TemporaryFolder folder;
+    ExifBytes old; // the maker's full name, and an exposure as powers of two only
+    old.ifd0({old.ascii(0x010F, "NORVANE CORPORATION"), old.ascii(0x0110, "Norvane P2")});
+    old.exif({old.rationals(0x9201, {850, 100}, 10), old.rationals(0x9202, {3, 1})});
     const std::vector<std::string> files = {OVISTO_OWN_SAMPLES "little-endian.jpg", OVISTO_OWN_SAMPLES "no-exif.jpg",
-                                            OVISTO_OWN_SAMPLES "night.jpg"};
+                                            OVISTO_OWN_SAMPLES "night.jpg",
+                                            folder.file("old.jpg", JpegBytes().exif(old).end())};
     const struct {
         const char* style;
         const char* name;
@@ -200,11 +249,12 @@ TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
          "Report.txt",
          {"little-endian.jpg,Mountain lake,2023-05-14 06:42,Castelmar Lumetra 35,Castelmar Zoom 24-70mm "
           "F2.8-4,1/125,8,100,24,lake;mountains;morning;reflection\r\n",
-          "no-exif.jpg,,,,,,,,,\r\n", "\"Le quai éclairé, huit secondes de pose\""}},
+          "no-exif.jpg,,,,,,,,,\r\n", "old.jpg,,,Norvane P2,,1/362,2.8,,,\r\n",
+          "\"Le quai éclairé, huit secondes de pose\""}},
         {"list.xsl", "Report.txt", {"\r\n  1/125 s f/8 ISO 100 24 mm\r\n"}},
         {"statistics.xsl",
          "Report.htm",
-         {"Castelmar Lumetra 35</text><rect x=\"230\" y=\"3\" width=\"540\"", ">not known</text>", ">2023-12</text>"}},
+         {"Castelmar Lumetra 35</text><rect x=\"290\" y=\"3\" width=\"480\"", ">not known</text>", ">2023-12</text>"}},
     };
     for (const auto& c : cases) {
         RecordingReporter reporter;

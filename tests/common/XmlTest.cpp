@@ -174,6 +174,8 @@ TEST(XmlLoad, ReadsUtf16AndBringsInNothingFromOutside)
     XMLLoad(document, folder.file("entity.xml",
                                   "<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY s SYSTEM \"" + secret + "\">]><a>&s;</a>"));
     EXPECT_EQ(document.documentElement().text().find("secret"), std::string::npos);
+    const std::string remote = folder.file("remote.xml", "<!DOCTYPE a SYSTEM 'http://127.0.0.1:9/a.dtd'><a/>");
+    EXPECT_NE(loadError(remote).find("\"http://127.0.0.1:9/a.dtd\" cannot be loaded"), std::string::npos);
 }
 
 } // namespace ovisto::test

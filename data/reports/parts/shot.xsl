@@ -1,7 +1,16 @@
 <?xml version="1.0" encoding="UTF-8"?>
-<!-- What a photograph says of how it was taken, in the words of people. For style sheets to import; each template is
-     applied to a JPEG element. -->
-<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
+<!-- What a photograph says of how it was taken, in the words of people. For style sheets to import; each template but
+     the first is applied to a JPEG element. -->
+<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform"
+                xmlns:math="http://exslt.org/math" exclude-result-prefixes="math">
+
+  <xsl:variable name="smallLetters" select="'abcdefghijklmnopqrstuvwxyz'"/>
+  <xsl:variable name="capitals" select="'ABCDEFGHIJKLMNOPQRSTUVWXYZ'"/>
+
+  <xsl:template match="JPEGs" mode="number">
+    <xsl:value-of select="concat(count(JPEG), ' photograph')"/>
+    <xsl:if test="count(JPEG) != 1">s</xsl:if>
+  </xsl:template>
 
   <xsl:template match="JPEG" mode="title">
     <xsl:variable name="title" select="normalize-space(Exif/IFD[@id='9C9B'])"/>
@@ -11,12 +20,19 @@
     </xsl:choose>
   </xsl:template>
 
-  <!-- Many models begin with the name of their maker. -->
+  <!-- Many models begin with the name of their maker, or the part of it that people use: "NIKON CORPORATION", "NIKON
+       D70". -->
   <xsl:template match="JPEG" mode="camera">
     <xsl:variable name="make" select="normalize-space(Exif/IFD[@id='010F'])"/>
     <xsl:variable name="model" select="normalize-space(Exif/IFD[@id='0110'])"/>
-    <xsl:if test="not(starts-with($model, $make))"><xsl:value-of select="concat($make, ' ')"/></xsl:if>
-    <xsl:value-of select="$model"/>
+    <xsl:variable name="brand" select="translate(substring-before(concat($model, ' '), ' '), $smallLetters, $capitals)"/>
+    <xsl:variable name="words" select="concat(' ', translate($make, $smallLetters, $capitals), ' ')"/>
+    <xsl:choose>
+      <xsl:when test="contains($words, concat(' ', $brand, ' ')) or starts-with($model, $make)">
+        <xsl:value-of select="$model"/>
+      </xsl:when>
+      <xsl:otherwise><xsl:value-of select="normalize-space(concat($make, ' ', $model))"/></xsl:otherwise>
+    </xsl:choose>
   </xsl:template>
 
   <xsl:template match="JPEG" mode="lens">
@@ -31,22 +47,38 @@
     </xsl:if>
   </xsl:template>
 
-  <!-- 1/125 s; 8 s; 10/1250 as 1/125 s. -->
+  <!-- 1/125 s; 8 s; 10/1250 as 1/125 s. Some cameras say it as a power of two only. -->
   <xsl:template match="JPEG" mode="time">
     <xsl:variable name="time" select="Exif/IFDE/IFD[@id='829A']"/>
-    <xsl:variable name="upper" select="number(substring-before($time, '/'))"/>
-    <xsl:variable name="lower" select="number(substring-after($time, '/'))"/>
+    <xsl:variable name="power" select="Exif/IFDE/IFD[@id='9201']"/>
+    <xsl:variable name="told" select="substring-before($time, '/') div substring-after($time, '/')"/>
+    <xsl:variable name="halvings" select="substring-before($power, '/') div substring-after($power, '/')"/>
+    <xsl:variable name="meant" select="math:power(2, -$halvings)"/>
     <xsl:choose>
-      <xsl:when test="not($upper &gt; 0 and $lower &gt; 0)"/>
-      <xsl:when test="$upper * 3 &lt; $lower"><xsl:value-of select="concat('1/', round($lower div $upper), ' s')"/></xsl:when>
-      <xsl:otherwise><xsl:value-of select="concat(round($upper div $lower * 10) div 10, ' s')"/></xsl:otherwise>
+      <xsl:when test="$told &gt; 0"><xsl:call-template name="seconds"><xsl:with-param name="number" select="$told"/></xsl:call-template></xsl:when>
+      <xsl:when test="not($time) and $meant &gt; 0"><xsl:call-template name="seconds"><xsl:with-param name="number" select="$meant"/></xsl:call-template></xsl:when>
+    </xsl:choose>
+  </xsl:template>
+
+  <xsl:template name="seconds">
+    <xsl:param name="number"/>
+    <xsl:choose>
+      <xsl:when test="$number &lt; 0.00001 or $number &gt; 1000000"/>
+      <xsl:when test="$number * 3 &lt; 1"><xsl:value-of select="concat('1/', round(1 div $number), ' s')"/></xsl:when>
+      <xsl:otherwise><xsl:value-of select="concat(round($number * 10) div 10, ' s')"/></xsl:otherwise>
     </xsl:choose>
   </xsl:template>
 
   <xsl:template match="JPEG" mode="aperture">
     <xsl:variable name="aperture" select="Exif/IFDE/IFD[@id='829D']"/>
-    <xsl:variable name="number" select="substring-before($aperture, '/') div substring-after($aperture, '/')"/>
-    <xsl:if test="$number &gt; 0 and $number &lt; 1000">f/<xsl:value-of select="round($number * 10) div 10"/></xsl:if>
+    <xsl:variable name="power" select="Exif/IFDE/IFD[@id='9202']"/>
+    <xsl:variable name="told" select="substring-before($aperture, '/') div substring-after($aperture, '/')"/>
+    <xsl:variable name="doublings" select="substring-before($power, '/') div substring-after($power, '/')"/>
+    <xsl:variable name="meant" select="math:power(2, $doublings div 2)"/>
+    <xsl:choose>
+      <xsl:when test="$told &gt; 0 and $told &lt; 1000">f/<xsl:value-of select="round($told * 10) div 10"/></xsl:when>
+      <xsl:when test="not($aperture) and $meant &gt; 0 and $meant &lt; 1000">f/<xsl:value-of select="round($meant * 10) div 10"/></xsl:when>
+    </xsl:choose>
   </xsl:template>
 
   <xsl:template match="JPEG" mode="iso">
