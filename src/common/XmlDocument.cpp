@@ -211,8 +211,9 @@ std::optional<XmlParseError> XmlDocument::loadFile(const std::string& path, Vali
     trap.run([&] { source.emplace(path); });
     if (trap.pending())
         return parseError(trap.take());
-    const int options = kParseOptions | XML_PARSE_COMPACT | (validation == Validation::On ? XML_PARSE_DTDLOAD : 0) |
-                        (whiteSpace == WhiteSpace::Strip ? XML_PARSE_NOBLANKS : 0) |
+    // Short texts inside their nodes save memory, but the library advises against changing such a document.
+    const int options = kParseOptions | (validation == Validation::On ? XML_PARSE_DTDLOAD : 0) |
+                        (whiteSpace == WhiteSpace::Strip ? XML_PARSE_NOBLANKS | XML_PARSE_COMPACT : 0) |
                         (source->file.size() > XML_MAX_TEXT_LENGTH ? XML_PARSE_HUGE : 0);
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
     allowLocalFilesOnly(*context);

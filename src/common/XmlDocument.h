@@ -39,7 +39,8 @@ public:
     /// document is empty. A text of so many nodes that they would need far more memory than the text fails too.
     std::optional<XmlParseError> loadText(std::string_view text);
 
-    /// The same for a file in any encoding that it declares, UTF-16 included.
+    /// The same for a file in any encoding that it declares, UTF-16 included. One whose white space is stripped is for
+    /// reading only.
     std::optional<XmlParseError> loadFile(const std::string& path, Validation validation, WhiteSpace whiteSpace);
 
     /// The same for a style sheet, which is validated too, and has the texts of its entities put in, for
