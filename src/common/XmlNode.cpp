@@ -43,18 +43,28 @@ const xmlChar* onlyText(const xmlNode* first)
     return isOnlyText ? first->content : nullptr;
 }
 
+/// Whether a name of the library is `name`. They are a few letters long, and compared more often than anything else.
+bool isName(const xmlChar* text, std::string_view name)
+{
+    for (const char letter : name) {
+        if (*text++ != static_cast<xmlChar>(letter))
+            return false;
+    }
+    return *text == 0;
+}
+
 /// The attribute of this name, without a prefix, that the element itself has.
 const xmlAttr* ownAttribute(const xmlNode* element, std::string_view name)
 {
     const xmlAttr* attribute = element->properties;
-    while (attribute != nullptr && (attribute->ns != nullptr || name != reinterpret_cast<const char*>(attribute->name)))
+    while (attribute != nullptr && (attribute->ns != nullptr || !isName(attribute->name, name)))
         attribute = attribute->next;
     return attribute;
 }
 
 bool isNamed(const xmlNode* node, std::string_view name)
 {
-    return node->type == XML_ELEMENT_NODE && node->ns == nullptr && name == reinterpret_cast<const char*>(node->name);
+    return node->type == XML_ELEMENT_NODE && node->ns == nullptr && isName(node->name, name);
 }
 
 /// The node that follows `node` in document order, below `top`; none at the end.
