@@ -32,7 +32,7 @@ std::vector<std::string> fileNames(const CommandLine& line)
     } else if (!line.filesFrom.empty()) {
         ErrorTrap trap;
         std::istringstream input;
-        trap.run([&] { input.str(readTextFile(line.filesFrom)); });
+        trap.run([&] { input.str(readTextFile(line.filesFrom, FileKind::RegularOrPipe)); });
         if (trap.pending())
             throw Error{trap.error().number, line.filesFrom + ": " + trap.error().description};
         readNames(files, input, separator);
