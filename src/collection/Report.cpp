@@ -110,6 +110,7 @@ ReportResult makeReport(const std::vector<std::string>& files, const ReportOptio
     if (!succeeds(reporter, combined, [&] {
             createFolders(options.folder);
             result.leftOut = combineDocuments(files, options.keep, combined, progress);
+            progress.endOfFiles();
             XMLLoad(document, combined);
         }))
         return result;

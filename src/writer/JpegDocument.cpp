@@ -43,6 +43,9 @@ void writeOtherApp1(SegmentWriter& writer, const XmlNode& element)
     constexpr std::int64_t kLengthAndZeros = 4;
     const std::string identifier = AttributeGet(element, "ns");
     const std::string text = app1Text(element);
+    // It stands in a CDATA section when it is read.
+    if (text.find("]]>") != std::string::npos)
+        throw Error{kInvalidCall, "The text has \"]]>\", which could not be read back"};
     writer.WriteHex("FFE1");
     writer.WriteInteger(static_cast<std::int64_t>(characterCount(identifier) + characterCount(text)) + kLengthAndZeros);
     writer.writeTerminated(identifier + '\0' + text);

@@ -22,6 +22,12 @@ std::string oneByteACharacter(std::string_view text)
     return bytes;
 }
 
+/// A reader hands such a unit on as a reference that no document may have: the file could not be opened any more.
+constexpr bool isUnreadable(char16_t unit)
+{
+    return unit < u' ' && unit != u'\t' && unit != u'\n' && unit != u'\r';
+}
+
 /// The bytes that a text of hexadecimal digits names.
 std::vector<std::uint8_t> bytesOf(std::string_view hex)
 {
@@ -85,6 +91,8 @@ void SegmentWriter::WriteWideString(std::string_view text)
         for (const char16_t unit : units) {
             if (unit >= kFirstNegative)
                 throw systemError(kOverflow);
+            if (isUnreadable(unit))
+                throw Error{kInvalidCall, "The text has a control character that could not be read back"};
             writeNumber(unit, 2);
         }
         writeZeros(units.empty() ? 4 : 2);

@@ -233,6 +233,8 @@ TEST(CommandLine, FindsFilesInScanOrder)
     EXPECT_EQ(ovisto({"find", root, "--no-subfolders", "--pattern", "b*", "--files-from", "-"}, list).output,
               first + "\n" + list);
     expectOneLine(ovisto({"find", folder.path("none")}), "none", "Folder not found");
+    const std::string piped = "echo '" + first + "' | '" OVISTO_CLI "' find --files-from /dev/stdin";
+    EXPECT_EQ(runCommand({"sh", "-c", piped}).output, first + "\n");
     const CommandRun found = ovisto({"find", root, "-0", "--jobs", "1"});
     EXPECT_EQ(ovisto({"set", kTitle, "Found", "--files-from", "-", "-0"}, found.output).errors, "");
     EXPECT_EQ(titleOf(second), "Found");

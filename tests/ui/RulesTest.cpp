@@ -1,3 +1,5 @@
+#include "../support/RecordingReporter.h"
+#include "collection/ContentFilter.h"
 #include "common/Error.h"
 #include "common/File.h"
 #include "ui/App/PictureFit.h"
@@ -9,6 +11,7 @@
 #include "ui/ControlForm/LeafTree.h"
 #include "ui/ControlForm/NamedFiles.h"
 #include "ui/ControlForm/NodeInspection.h"
+#include "ui/ControlForm/ScanReports.h"
 #include "ui/ControlForm/ScanSettings.h"
 #include "ui/ControlForm/TextBox.h"
 
@@ -233,6 +236,18 @@ private Q_SLOTS:
             QCOMPARE(seen.size(), upright ? QSize(2, 3) : QSize(3, 2));
             QCOMPARE(seen.pixelColor(places[orientation]), QColor(Qt::white));
         }
+    }
+
+    void tellsOfTheFirstFolderThatCannotBeReadAtOnce()
+    {
+        RecordingReporter reporter;
+        ScanReports reports(reporter);
+        for (const char* context : {"/proc/1", "/proc/2", kContentCheckContext, "/proc/3"})
+            reports.report(context, systemError(kPermissionDenied));
+        QCOMPARE(reporter.contexts, std::vector<std::string>({"/proc/1", kContentCheckContext}));
+        QCOMPARE(notReadMessage(reports.notReadToo()),
+                 QStringLiteral("Other folders that could not be read (2):\r\n"
+                                "/proc/2: Permission denied\r\n/proc/3: Permission denied"));
     }
 
     void fitsPicturesTurned()

@@ -259,6 +259,29 @@ TEST(WriteJpeg, EitherRefusesAValueOrWritesAFileThatCanBeRead)
     EXPECT_GT(written, 200);
 }
 
+TEST(WriteJpeg, RefusesATextWithWhichTheFileCouldNotBeOpenedAgain)
+{
+    const struct {
+        const char* path;
+        const char* text;
+        int error;
+    } cases[] = {
+        {"//IFD[@id='9C9B']", "first\vsecond", kInvalidCall}, // a line break in a text pasted from a word processor
+        {"//IFD[@id='9C9B']", "first\r\n\tsecond", 0},
+        {"//Exif1", "<a><![CDATA[b]]></a>", kInvalidCall},
+        {"//Exif1", "<a>[[b]] ></a>", 0},
+    };
+    for (const auto& c : cases) {
+        const TemporaryFolder folder;
+        const std::string path = folder.file("a.jpg", fullPhotograph(true));
+        XmlDocument document = loadDocument(path);
+        document.selectSingleNode(c.path).setText(c.text);
+        RecordingReporter reporter;
+        EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); }), c.error) << c.text;
+        EXPECT_EQ(errorNumberOf([&] { loadDocument(path); }), 0) << c.text;
+    }
+}
+
 TEST(WriteJpeg, SaysWhichStepOfReplacingFailed)
 {
     XmlDocument document = documentOf("<JPEG><IMG offset='9' length='2'/></JPEG>");

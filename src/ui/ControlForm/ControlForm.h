@@ -27,6 +27,7 @@
 namespace ovisto {
 
 class BatchForm;
+class ScanReports;
 struct Leaf;
 struct NodeChange;
 
@@ -77,7 +78,7 @@ private:
     void scanFolder();
     void findFilesAmong(const std::vector<std::string>& names);
     void clearList();
-    void listFiles(std::vector<std::string> found);
+    void listFiles(std::vector<std::string> found, const ScanReports& reports);
     int selectedFile() const;
     void selectFile(int row);
     void selectShownFile();

@@ -11,6 +11,7 @@
 #include "ui/BrowserCapForm/BrowserCapForm.h"
 #include "ui/ControlForm/FailureMessages.h"
 #include "ui/ControlForm/NamedFiles.h"
+#include "ui/ControlForm/ScanReports.h"
 #include "ui/ProgressForm/ProgressForm.h"
 
 #include <QScopedValueRollback>
@@ -56,11 +57,12 @@ void ControlForm::scanFolder()
         return m_surroundings.dialogs.show(tr(kFolderNotFound));
     std::vector<std::string> found;
     clearList();
+    ScanReports reports(m_reporter);
     runWatched([&](ProgressForm& progress) {
         progress.show();
-        scan->run(found, progress, m_reporter);
+        scan->run(found, progress, reports);
     });
-    listFiles(std::move(found));
+    listFiles(std::move(found), reports);
 }
 
 /// Lists the files named, and those in the folders named, whatever they contain.
@@ -72,8 +74,9 @@ void ControlForm::findFilesAmong(const std::vector<std::string>& names)
     options.content = {};
     std::vector<std::string> found;
     clearList();
-    runWatched([&](ProgressForm& progress) { found = namedFiles(names, options, progress, m_reporter); });
-    listFiles(std::move(found));
+    ScanReports reports(m_reporter);
+    runWatched([&](ProgressForm& progress) { found = namedFiles(names, options, progress, reports); });
+    listFiles(std::move(found), reports);
 }
 
 /// Takes all files out of the list, unless those to be found are to be added to them.
@@ -84,8 +87,10 @@ void ControlForm::clearList()
         m_found.clear();
 }
 
-void ControlForm::listFiles(std::vector<std::string> found)
+void ControlForm::listFiles(std::vector<std::string> found, const ScanReports& reports)
 {
+    if (!reports.notReadToo().empty())
+        m_surroundings.dialogs.show(notReadMessage(reports.notReadToo()));
     {
         const QScopedValueRollback updating(ControlsUpdating, true);
         m_found.append(std::move(found));

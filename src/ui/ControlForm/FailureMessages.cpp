@@ -44,4 +44,11 @@ QString notChangedMessage(const std::vector<FileFailure>& notChanged)
                      notChanged);
 }
 
+QString notReadMessage(const std::vector<FileFailure>& notRead)
+{
+    return messageOf(QCoreApplication::translate("FailureMessages", "Other folders that could not be read (%1):")
+                         .arg(notRead.size()),
+                     notRead);
+}
+
 } // namespace ovisto

@@ -27,6 +27,12 @@ bool ProgressForm::step(const std::string& path, std::size_t done, std::size_t t
     return !Canceled;
 }
 
+void ProgressForm::endOfFiles()
+{
+    hide();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 /// The dialog stays until the loop has come to its end, also when a person closes it.
 void ProgressForm::reject()
 {

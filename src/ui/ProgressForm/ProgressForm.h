@@ -22,6 +22,9 @@ public:
     /// Shows the file and its place, and lets what a person does meanwhile happen. False once that was to cancel.
     bool step(const std::string& path, std::size_t done, std::size_t total) override;
 
+    /// Takes the dialog away: its button would promise what it cannot do.
+    void endOfFiles() override;
+
     void reject() override;
 
 private:

@@ -1,0 +1,18 @@
+#include "ui/ControlForm/ScanReports.h"
+
+#include "collection/ContentFilter.h"
+
+#include <utility>
+
+namespace ovisto {
+
+void ScanReports::report(const std::string& context, const Error& error)
+{
+    const bool isFolder = context != kContentCheckContext;
+    if (isFolder && std::exchange(m_folderTold, true))
+        m_notReadToo.push_back({context, error});
+    else
+        m_reporter.report(context, error);
+}
+
+} // namespace ovisto
