@@ -66,7 +66,7 @@ private:
 class FilesToSearch {
 public:
     /// A folder or a list that cannot be read is told to `output`, which must outlive the object.
-    FilesToSearch(const CommandLine& line, CommandOutput& output) : m_reporter(output)
+    FilesToSearch(const CommandLine& line, CommandOutput& output) : m_progress(output.progress()), m_reporter(output)
     {
         ErrorTrap trap;
         if (!line.scan.folder.empty())
@@ -81,13 +81,14 @@ public:
     /// The next file; none after the last one.
     std::optional<std::string> next()
     {
-        auto file = m_walk ? m_walk->next(m_reporter) : std::nullopt;
+        auto file = m_walk ? m_walk->next(m_progress, m_reporter) : std::nullopt;
         if (file)
             return std::move(file->path);
         return m_place == m_listed.size() ? std::nullopt : std::optional(std::move(m_listed[m_place++]));
     }
 
 private:
+    Progress& m_progress;
     OutputReporter m_reporter;
     std::optional<FolderWalk> m_walk;
     std::vector<std::string> m_listed;

@@ -5,7 +5,9 @@
 
 #include <iostream>
 #include <sstream>
+#include <string_view>
 #include <unordered_set>
+#include <utility>
 
 namespace ovisto {
 
@@ -13,7 +15,11 @@ namespace {
 
 void readNames(std::vector<std::string>& files, std::istream& input, char separator)
 {
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    bool isFirst = true;
     for (std::string name; std::getline(input, name, separator);) {
+        if (std::exchange(isFirst, false) && name.starts_with(kByteOrderMark))
+            name.erase(0, kByteOrderMark.size());
         if (separator == '\n' && name.ends_with('\r'))
             name.pop_back();
         if (!name.empty())

@@ -26,7 +26,7 @@ void FolderScan::run(std::vector<std::string>& found, Progress& progress, ErrorR
         return ErrorReport(reporter, kContentCheckContext, trap.take());
     // The first file that cannot be checked stands for all: a person wants to be told, but not of 20,000 files.
     bool wasReported = false;
-    while (auto file = m_walk.next(reporter)) {
+    while (auto file = m_walk.next(progress, reporter)) {
         if (!progress.step(file->path, file->place, file->count))
             return;
         bool keep = false;

@@ -14,13 +14,15 @@ FolderWalk::FolderWalk(std::string folder, std::string_view patterns, bool subFo
         throw Error{kPathNotFound, kFolderNotFound};
 }
 
-std::optional<FolderWalk::File> FolderWalk::next(ErrorReporter& reporter)
+std::optional<FolderWalk::File> FolderWalk::next(Progress& progress, ErrorReporter& reporter)
 {
     while (m_place == m_names.size()) {
         if (m_ahead.empty())
             return std::nullopt;
         const std::string folder = std::move(m_ahead.back());
         m_ahead.pop_back();
+        if (!progress.enter(folder))
+            return std::nullopt;
         ErrorTrap trap;
         trap.run([&] { read(folder); });
         if (trap.pending())

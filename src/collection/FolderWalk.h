@@ -3,6 +3,7 @@
 #include "collection/FilePattern.h"
 #include "common/ErrorReport.h"
 #include "common/FileListing.h"
+#include "common/Progress.h"
 
 #include <cstddef>
 #include <optional>
@@ -30,9 +31,9 @@ public:
         std::size_t count = 0;
     };
 
-    /// The next file; none after the last one. A folder that cannot be read is reported with its path, and left out
-    /// with all below it.
-    std::optional<File> next(ErrorReporter& reporter);
+    /// The next file; none after the last one, or when `progress`, which is told of each folder below the first one,
+    /// stops. A folder that cannot be read is reported with its path, and left out with all below it.
+    std::optional<File> next(Progress& progress, ErrorReporter& reporter);
 
 private:
     void read(const std::string& folder);

@@ -114,6 +114,9 @@ struct ReplaceFailure {
 /// Which of the two survives a power failure is open until syncFolder() was called.
 std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path);
 
+/// The failure that a file marked read-only will end with, for who wants to know before `replacement` is written.
+std::optional<ReplaceFailure> replaceObstacle(const std::string& path);
+
 /// Makes what was replaced, created or deleted in `folder` survive a power failure, where the file system can.
 void syncFolder(const std::string& folder);
 

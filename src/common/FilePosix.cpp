@@ -339,10 +339,17 @@ void OutputFile::discard()
         unlink(m_path.c_str());
 }
 
-std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path)
+std::optional<ReplaceFailure> replaceObstacle(const std::string& path)
 {
     if (isMarkedReadOnly(path))
         return ReplaceFailure{ReplaceStep::Delete, systemError(kPermissionDenied)};
+    return std::nullopt;
+}
+
+std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path)
+{
+    if (const auto obstacle = replaceObstacle(path))
+        return obstacle;
     if (rename(replacement.c_str(), path.c_str()) != 0) {
         const int renameError = errno;
         const bool denied = renameError == EACCES || renameError == EPERM;

@@ -17,6 +17,9 @@ public:
     /// stop before this file.
     virtual bool step(const std::string& path, std::size_t done, std::size_t total) = 0;
 
+    /// Told before each folder that a search for files goes into, as many may hold none. False: it is to stop.
+    virtual bool enter(const std::string& /*folder*/) { return true; }
+
     /// Told behind the loop where work follows that cannot be stopped.
     virtual void endOfFiles() {}
 };

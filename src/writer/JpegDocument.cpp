@@ -122,6 +122,8 @@ void JpegDocument::WriteJpeg(XmlDocument& document, const std::string& fileName)
 
 JpegDocument::NewVersion JpegDocument::writeTemporary(XmlDocument& document, const std::string& fileName)
 {
+    const std::string target = linkTarget(fileName);
+    raise(replaceObstacle(target), target);
     NewVersion version = openVersions(fileName);
     discardedOnFailure(version, [&] { fill(version, document); });
     return version;
@@ -180,12 +182,17 @@ void JpegDocument::writeSegments(XmlDocument& document, OutputFile& file)
 void JpegDocument::replaceOld(const NewVersion& version)
 {
     // Here both files are whole: the place for checks that may refuse to go on.
-    const auto failure = replaceFile(version.temporaryName, version.fileName);
+    raise(replaceFile(version.temporaryName, version.fileName), version.fileName);
+}
+
+/// Reports and raises the failure, if any, to replace `fileName`.
+void JpegDocument::raise(const std::optional<ReplaceFailure>& failure, const std::string& fileName)
+{
     if (!failure)
         return;
     const std::string context = failure->step == ReplaceStep::Delete
-                                    ? "Delete old file " + version.fileName
-                                    : "Rename file " + version.temporaryName + " to " + version.fileName;
+                                    ? "Delete old file " + fileName
+                                    : "Rename file " + temporaryNameOf(fileName) + " to " + fileName;
     ErrorReport(m_reporter, context, failure->error);
     throw failure->error;
 }

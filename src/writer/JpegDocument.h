@@ -34,8 +34,8 @@ public:
     };
 
     // WriteJpeg in three steps, for who has many files to write: a disk takes them faster in one go. They fail as it
-    // does, but leave no "~" file behind that is not complete: among many it would only take space. After the last one
-    // the folder of the file is still to be synced.
+    // does, but leave no "~" file behind that is not complete, and write none for a file that is marked read-only:
+    // among many they would only take space. After the last one the folder of the file is still to be synced.
 
     /// Writes the new version, and has the disk begin with it.
     NewVersion writeTemporary(XmlDocument& document, const std::string& fileName);
@@ -49,6 +49,7 @@ private:
     void fill(NewVersion& version, XmlDocument& document);
     void bringToDisk(NewVersion& version);
     void writeSegments(XmlDocument& document, OutputFile& file);
+    void raise(const std::optional<ReplaceFailure>& failure, const std::string& fileName);
 
     ErrorReporter& m_reporter;
 };

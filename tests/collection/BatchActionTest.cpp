@@ -78,6 +78,17 @@ public:
     }
 };
 
+/// Marks the first file read-only when the second one is begun: it is on its way then.
+class Locking : public CountingProgress {
+public:
+    bool step(const std::string& path, std::size_t done, std::size_t total) override
+    {
+        if (done == 1)
+            fs::permissions(paths.front(), fs::perms::owner_read);
+        return CountingProgress::step(path, done, total);
+    }
+};
+
 } // namespace
 
 TEST_F(BatchActionTest, MakesRoomOnAFullDiskBeforeAFileFails)
@@ -85,10 +96,10 @@ TEST_F(BatchActionTest, MakesRoomOnAFullDiskBeforeAFileFails)
     std::vector<std::string> files = photographs(1);
     for (const char* name : {"large.jpg", "second.jpg", "last.jpg"})
         files.push_back(folder.file(name, JpegBytes().app0().end(Bytes(200'000, 0x11))));
-    fs::permissions(files[0], fs::perms::owner_read);
+    Locking locking;
     MakingRoom making;
     making.disk.emplace(100'000);
-    BatchAction(files, titled("New")).run(progress, making);
+    BatchAction(files, titled("New")).run(locking, making);
     EXPECT_EQ(making.contexts, std::vector<std::string>{files[0]});
     for (const char* name : {"large.jpg", "second.jpg", "last.jpg"})
         EXPECT_EQ(titleOf(folder.path(name)), "New") << name;
@@ -122,6 +133,7 @@ TEST_F(BatchActionTest, DoesTheOthersWhenOneFailsHalfWay)
         }
     }
     EXPECT_EQ(contentOf(readOnly), before);
+    EXPECT_FALSE(fs::exists(folder.path("~120.jpg"))) << "nothing is written for a file that cannot be replaced";
     EXPECT_EQ(contentOf(folder.path("110.jpg")), before);
 }
 

@@ -48,13 +48,17 @@ ScanSettings jpegsIn(const QString& folder)
     return scan;
 }
 
-/// A person who will cancel when the file called `name` is shown.
-void cancelAt(const char* name)
+/// What will happen when the file or folder called `name` is shown.
+void whenProgressShows(const char* name, const std::function<void(ProgressForm&)>& work)
 {
     const QString end = QLatin1Char('/') + QLatin1String(name);
     whenOpen<ProgressForm>(
-        [](ProgressForm& form) { press(form, "ProcessCanceler"); },
-        [end](ProgressForm& form) { return controlOf<QLabel>(form, "Label1").text().endsWith(end); });
+        work, [end](ProgressForm& form) { return controlOf<QLabel>(form, "Label1").text().endsWith(end); });
+}
+
+void cancelAt(const char* name)
+{
+    whenProgressShows(name, [](ProgressForm& form) { press(form, "ProcessCanceler"); });
 }
 
 /// Three photographs that have the same content, shown in a window.
@@ -281,6 +285,10 @@ private Q_SLOTS:
         window.click("FileFinder");
         QCOMPARE(window.listed(), QStringLiteral("1.jpg"));
         QCOMPARE(window.form().windowTitle(), QStringLiteral("1.jpg[*]"));
+        cancelAt("below"); // before anything in there is listed
+        chooseFolder(jpegsIn(window.folder()));
+        window.click("FileFinder");
+        QCOMPARE(window.listed(), QStringLiteral("1.jpg 2.jpg 3.jpg"));
         QVERIFY(window.dialogs.messages.isEmpty());
         QCOMPARE(QApplication::activeModalWidget(), nullptr);
         QCOMPARE(window.form().cursor().shape(), Qt::ArrowCursor);
@@ -400,8 +408,12 @@ private Q_SLOTS:
         Window window;
         openThree(window);
         const QString before = inThree(window, kDescription);
-        for (const char* name : {"1.jpg", "2.jpg", "3.jpg"})
-            QFile::setPermissions(QString::fromStdString(window.path(name)), QFile::ReadOwner);
+        window.copy("little-endian.jpg", "4.jpg");
+        window.open({window.folder().toStdString()});
+        whenProgressShows("4.jpg", [&](ProgressForm&) {
+            for (const char* name : {"1.jpg", "2.jpg", "3.jpg"})
+                QFile::setPermissions(QString::fromStdString(window.path(name)), QFile::ReadOwner);
+        });
         BatchForm& form = openBatch(window, "Image Description");
         controlOf<QLineEdit>(form, "NodeValue").setText(QStringLiteral("batch"));
         press(form, "BatchStarter");

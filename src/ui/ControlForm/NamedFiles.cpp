@@ -20,6 +20,12 @@ public:
         return !m_stopped;
     }
 
+    bool enter(const std::string& folder) override
+    {
+        m_stopped = !m_next.enter(folder);
+        return !m_stopped;
+    }
+
     bool stopped() const { return m_stopped; }
 
 private:

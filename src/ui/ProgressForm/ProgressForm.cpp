@@ -18,11 +18,21 @@ ProgressForm::ProgressForm(QWidget* owner) : QDialog(owner)
 
 bool ProgressForm::step(const std::string& path, std::size_t done, std::size_t total)
 {
+    ui.ProgressBar->setRange(0, static_cast<int>(std::max<std::size_t>(total, 1)) - 1);
+    ui.ProgressBar->setValue(static_cast<int>(done));
+    return showPath(path);
+}
+
+bool ProgressForm::enter(const std::string& folder)
+{
+    return showPath(folder);
+}
+
+bool ProgressForm::showPath(const std::string& path)
+{
     if (!isVisible())
         show();
     ui.Label1->setText(pathText(path));
-    ui.ProgressBar->setRange(0, static_cast<int>(std::max<std::size_t>(total, 1)) - 1);
-    ui.ProgressBar->setValue(static_cast<int>(done));
     QCoreApplication::processEvents();
     return !Canceled;
 }

@@ -22,12 +22,17 @@ public:
     /// Shows the file and its place, and lets what a person does meanwhile happen. False once that was to cancel.
     bool step(const std::string& path, std::size_t done, std::size_t total) override;
 
+    /// The same for a folder, whose files are not known yet.
+    bool enter(const std::string& folder) override;
+
     /// Takes the dialog away: its button would promise what it cannot do.
     void endOfFiles() override;
 
     void reject() override;
 
 private:
+    bool showPath(const std::string& path);
+
     Ui::ProgressForm ui;
 };
 
