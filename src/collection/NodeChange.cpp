@@ -1,10 +1,8 @@
 #include "collection/NodeChange.h"
 
-#include "collection/MetadataDocument.h"
 #include "common/FirstReport.h"
 #include "common/NodePath.h"
 #include "common/TagDictionary.h"
-#include "writer/JpegDocument.h"
 #include "writer/NodeCreation.h"
 
 #include <algorithm>
@@ -77,13 +75,6 @@ bool applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter&
         return false;
     node.setText(change.value);
     return true;
-}
-
-void changeFile(const std::string& path, const NodeChange& change, ErrorReporter& reporter)
-{
-    XmlDocument document = loadDocument(path);
-    if (applyChange(document, change, reporter))
-        JpegDocument(reporter).WriteJpeg(document, path);
 }
 
 XmlNode removeCompanion(XmlDocument& document, const std::string& path)

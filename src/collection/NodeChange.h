@@ -23,10 +23,6 @@ std::string objection(const NodeChange& change);
 /// document. `reporter` is told when the node cannot be created.
 bool applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter);
 
-/// Makes the change to the JPEG file at `path`, all its parts kept. A file that has it already is not written. Raises
-/// the error that prevented it; what happened while writing was reported before.
-void changeFile(const std::string& path, const NodeChange& change, ErrorReporter& reporter);
-
 /// Removes the node that has no sense without the one of `path`, which was removed: the entry that pointed to it, or
 /// the directory that was there for it. Returns the node removed, or no node.
 XmlNode removeCompanion(XmlDocument& document, const std::string& path);
