@@ -348,7 +348,7 @@ std::optional<ReplaceFailure> replaceObstacle(const std::string& path)
 
 std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path)
 {
-    if (const auto obstacle = replaceObstacle(path))
+    if (auto obstacle = replaceObstacle(path))
         return obstacle;
     if (rename(replacement.c_str(), path.c_str()) != 0) {
         const int renameError = errno;
