@@ -114,7 +114,7 @@ struct ReplaceFailure {
 /// Which of the two survives a power failure is open until syncFolder() was called.
 std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path);
 
-/// The failure that a file marked read-only will end with, for who wants to know before `replacement` is written.
+/// Why replaceFile() will fail, where that is known before the replacement is written: `path` is marked read-only.
 std::optional<ReplaceFailure> replaceObstacle(const std::string& path);
 
 /// Makes what was replaced, created or deleted in `folder` survive a power failure, where the file system can.

@@ -37,7 +37,7 @@ public:
     // does, but leave no "~" file behind that is not complete, and write none for a file that is marked read-only:
     // among many they would only take space. After the last one the folder of the file is still to be synced.
 
-    /// Writes the new version, and has the disk begin with it.
+    /// Writes the new version, and has the disk begin with it where it is large.
     NewVersion writeTemporary(XmlDocument& document, const std::string& fileName);
     /// Waits until the disk has it, where that is not known.
     void finishTemporary(NewVersion& version);
