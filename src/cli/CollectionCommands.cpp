@@ -8,11 +8,11 @@
 #include "collection/ContentFilter.h"
 #include "collection/FolderWalk.h"
 #include "collection/Report.h"
-#include "common/CodePage.h"
 #include "common/File.h"
 #include "common/Interruption.h"
 #include "common/XmlLoad.h"
 #include "common/XmlTransform.h"
+#include "common/text/CodePage.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,7 @@
 
 #include "common/File.h"
 #include "common/Interruption.h"
-#include "common/PathText.h"
+#include "common/text/PathText.h"
 
 #include <cstdio>
 

@@ -1,6 +1,6 @@
 #include "cli/TerminalText.h"
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 
 namespace ovisto {
 

@@ -3,7 +3,7 @@
 #include "collection/MetadataDocument.h"
 #include "common/File.h"
 #include "common/FirstReport.h"
-#include "common/PathText.h"
+#include "common/text/PathText.h"
 #include "writer/JpegDocument.h"
 
 #include <algorithm>

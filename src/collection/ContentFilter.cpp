@@ -2,7 +2,7 @@
 
 #include "collection/DocumentPattern.h"
 #include "common/Error.h"
-#include "common/NumberText.h"
+#include "common/text/NumberText.h"
 #include "reader/JpegXml.h"
 
 #include <algorithm>

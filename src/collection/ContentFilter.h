@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/RegularExpression.h"
+#include "common/text/RegularExpression.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "collection/DocumentPattern.h"
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "reader/XmlText.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "collection/FilePattern.h"
 
 #include "common/FileListing.h"
-#include "common/NumberText.h"
+#include "common/text/NumberText.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "collection/KeywordFile.h"
 
-#include "common/CodePage.h"
 #include "common/File.h"
+#include "common/text/CodePage.h"
 
 #include <optional>
 

@@ -1,11 +1,11 @@
 #include "collection/Report.h"
 
 #include "collection/MetadataDocument.h"
-#include "common/CodePage.h"
 #include "common/File.h"
-#include "common/PathText.h"
 #include "common/XmlLoad.h"
 #include "common/XmlTransform.h"
+#include "common/text/CodePage.h"
+#include "common/text/PathText.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "common/DataType.h"
 
 #include "common/NodePath.h"
-#include "common/NumberText.h"
+#include "common/text/NumberText.h"
 
 #include <array>
 #include <cstddef>

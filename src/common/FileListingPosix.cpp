@@ -1,8 +1,8 @@
 #include "common/FileListing.h"
 
-#include "common/CodePage.h"
 #include "common/Error.h"
 #include "common/File.h"
+#include "common/text/CodePage.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #include "common/File.h"
 
-#include "common/PathText.h"
+#include "common/text/PathText.h"
 
 #include <algorithm>
 #include <array>

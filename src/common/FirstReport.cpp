@@ -1,6 +1,6 @@
 #include "common/FirstReport.h"
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 
 namespace ovisto {
 

@@ -1,7 +1,7 @@
 #include "common/ProgramFolder.h"
 
 #include "common/File.h"
-#include "common/PathText.h"
+#include "common/text/PathText.h"
 
 namespace ovisto {
 

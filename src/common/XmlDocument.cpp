@@ -1,10 +1,10 @@
 #include "common/XmlDocument.h"
 
-#include "common/CodePage.h"
 #include "common/Error.h"
 #include "common/File.h"
 #include "common/XmlPointer.h"
 #include "common/XmlSetup.h"
+#include "common/text/CodePage.h"
 
 #include <libxml/parserInternals.h>
 #include <libxml/uri.h>

@@ -1,7 +1,7 @@
 #include "common/XmlLoad.h"
 
-#include "common/CodePage.h"
 #include "common/Error.h"
+#include "common/text/CodePage.h"
 
 namespace ovisto {
 

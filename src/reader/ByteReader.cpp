@@ -1,7 +1,7 @@
 #include "reader/ByteReader.h"
 
-#include "common/CodePage.h"
-#include "common/Hex.h"
+#include "common/text/CodePage.h"
+#include "common/text/Hex.h"
 
 #include <algorithm>
 

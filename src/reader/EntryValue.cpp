@@ -1,8 +1,8 @@
 #include "reader/EntryValue.h"
 
 #include "common/DataType.h"
-#include "common/NumberText.h"
 #include "common/TagNumbers.h"
+#include "common/text/NumberText.h"
 #include "reader/XmlText.h"
 
 #include <algorithm>

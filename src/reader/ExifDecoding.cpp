@@ -1,10 +1,10 @@
 // The part of JpegXml that turns APP1 segments into Exif and Exif1 elements.
 
-#include "common/CodePage.h"
 #include "common/DataType.h"
-#include "common/Hex.h"
-#include "common/NumberText.h"
 #include "common/TagNumbers.h"
+#include "common/text/CodePage.h"
+#include "common/text/Hex.h"
+#include "common/text/NumberText.h"
 #include "reader/EntryValue.h"
 #include "reader/JpegXml.h"
 #include "reader/XmlText.h"

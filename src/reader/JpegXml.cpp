@@ -1,8 +1,8 @@
 #include "reader/JpegXml.h"
 
 #include "common/File.h"
-#include "common/Hex.h"
-#include "common/PathText.h"
+#include "common/text/Hex.h"
+#include "common/text/PathText.h"
 #include "reader/XmlText.h"
 
 namespace ovisto {

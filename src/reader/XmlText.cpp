@@ -1,7 +1,7 @@
 #include "reader/XmlText.h"
 
-#include "common/CodePage.h"
-#include "common/NumberText.h"
+#include "common/text/CodePage.h"
+#include "common/text/NumberText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,11 +1,11 @@
 #include "writer/ExifLayout.h"
 
-#include "common/CodePage.h"
 #include "common/DataType.h"
-#include "common/Hex.h"
 #include "common/NodePath.h"
-#include "common/NumberText.h"
 #include "common/TagNumbers.h"
+#include "common/text/CodePage.h"
+#include "common/text/Hex.h"
+#include "common/text/NumberText.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,8 +1,8 @@
 #include "writer/SegmentWriter.h"
 
-#include "common/CodePage.h"
-#include "common/Hex.h"
-#include "common/NumberText.h"
+#include "common/text/CodePage.h"
+#include "common/text/Hex.h"
+#include "common/text/NumberText.h"
 
 #include <array>
 #include <limits>

@@ -1,8 +1,8 @@
 #include "common/TagDictionary.h"
 #include "common/DataType.h"
-#include "common/Hex.h"
 #include "common/NodePath.h"
-#include "common/NumberText.h"
+#include "common/text/Hex.h"
+#include "common/text/NumberText.h"
 #include "support/CommandRun.h"
 
 #include <gtest/gtest.h>

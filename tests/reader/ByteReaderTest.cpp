@@ -1,5 +1,5 @@
 #include "reader/ByteReader.h"
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "reader/XmlText.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"

@@ -1,11 +1,11 @@
 #include "ui/ControlForm/NodeInspection.h"
 
-#include "common/CodePage.h"
 #include "common/DataType.h"
 #include "common/Error.h"
-#include "common/Hex.h"
 #include "common/NodePath.h"
-#include "common/NumberText.h"
+#include "common/text/CodePage.h"
+#include "common/text/Hex.h"
+#include "common/text/NumberText.h"
 #include "ui/ControlForm/OsProperties.h"
 
 #include <QCoreApplication>

@@ -2,7 +2,7 @@
 
 #include "common/Error.h"
 #include "common/File.h"
-#include "common/PathText.h"
+#include "common/text/PathText.h"
 #include "reader/JpegXml.h"
 #include "ui/App/PictureFile.h"
 #include "ui/App/PictureFit.h"

@@ -1,6 +1,6 @@
 #include "ui/SlideForm/SlideForm.h"
 
-#include "common/PathText.h"
+#include "common/text/PathText.h"
 #include "ui/App/PictureFit.h"
 #include "ui/App/Placement.h"
 #include "ui/App/Text.h"

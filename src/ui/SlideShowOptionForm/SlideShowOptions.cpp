@@ -1,7 +1,7 @@
 #include "ui/SlideShowOptionForm/SlideShowOptions.h"
 
 #include "common/Error.h"
-#include "common/NumberText.h"
+#include "common/text/NumberText.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "common/PathText.h"
+#include "common/text/PathText.h"
 
 namespace ovisto {
 

@@ -1,7 +1,7 @@
-#include "common/RegularExpression.h"
+#include "common/text/RegularExpression.h"
 
-#include "common/CodePage.h"
 #include "common/Error.h"
+#include "common/text/CodePage.h"
 
 #include <array>
 

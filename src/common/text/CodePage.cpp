@@ -1,4 +1,4 @@
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
-#include "common/CodePage.h"
-#include "common/Hex.h"
-#include "common/NumberText.h"
-#include "common/PathText.h"
+#include "common/text/CodePage.h"
+#include "common/text/Hex.h"
+#include "common/text/NumberText.h"
+#include "common/text/PathText.h"
 #include "support/RecordingReporter.h"
 
 #include <gtest/gtest.h>

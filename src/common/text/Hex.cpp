@@ -1,4 +1,4 @@
-#include "common/Hex.h"
+#include "common/text/Hex.h"
 
 #include <array>
 
