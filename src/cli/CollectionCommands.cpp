@@ -8,10 +8,10 @@
 #include "collection/ContentFilter.h"
 #include "collection/FolderWalk.h"
 #include "collection/Report.h"
-#include "common/File.h"
-#include "common/Interruption.h"
 #include "common/XmlLoad.h"
 #include "common/XmlTransform.h"
+#include "common/system/File.h"
+#include "common/system/Interruption.h"
 #include "common/text/CodePage.h"
 
 #include <algorithm>

@@ -9,12 +9,12 @@
 #include "collection/BatchAction.h"
 #include "collection/MetadataDocument.h"
 #include "collection/XmlExport.h"
-#include "common/File.h"
 #include "common/FirstReport.h"
-#include "common/Interruption.h"
 #include "common/NodePath.h"
-#include "common/ProgramFolder.h"
 #include "common/XmlLoad.h"
+#include "common/system/File.h"
+#include "common/system/Interruption.h"
+#include "common/system/ProgramFolder.h"
 #include "writer/JpegDocument.h"
 
 #include <algorithm>

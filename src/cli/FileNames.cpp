@@ -1,7 +1,7 @@
 #include "cli/FileNames.h"
 
 #include "common/Error.h"
-#include "common/File.h"
+#include "common/system/File.h"
 
 #include <iostream>
 #include <sstream>

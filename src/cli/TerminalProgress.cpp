@@ -2,8 +2,8 @@
 
 #include "cli/TerminalText.h"
 
-#include "common/File.h"
-#include "common/Interruption.h"
+#include "common/system/File.h"
+#include "common/system/Interruption.h"
 #include "common/text/PathText.h"
 
 #include <cstdio>

@@ -1,6 +1,6 @@
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
-#include "common/Interruption.h"
+#include "common/system/Interruption.h"
 
 int main(int argc, char** argv)
 {

@@ -1,8 +1,8 @@
 #include "collection/BatchAction.h"
 
 #include "collection/MetadataDocument.h"
-#include "common/File.h"
 #include "common/FirstReport.h"
+#include "common/system/File.h"
 #include "common/text/PathText.h"
 #include "writer/JpegDocument.h"
 

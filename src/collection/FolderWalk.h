@@ -2,8 +2,8 @@
 
 #include "collection/FilePattern.h"
 #include "common/ErrorReport.h"
-#include "common/FileListing.h"
 #include "common/Progress.h"
+#include "common/system/FileListing.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "collection/KeywordFile.h"
 
-#include "common/File.h"
+#include "common/system/File.h"
 #include "common/text/CodePage.h"
 
 #include <optional>

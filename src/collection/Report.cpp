@@ -1,9 +1,9 @@
 #include "collection/Report.h"
 
 #include "collection/MetadataDocument.h"
-#include "common/File.h"
 #include "common/XmlLoad.h"
 #include "common/XmlTransform.h"
+#include "common/system/File.h"
 #include "common/text/CodePage.h"
 #include "common/text/PathText.h"
 

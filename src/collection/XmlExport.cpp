@@ -1,7 +1,7 @@
 #include "collection/XmlExport.h"
 
-#include "common/File.h"
 #include "common/XmlLoad.h"
+#include "common/system/File.h"
 
 namespace ovisto {
 

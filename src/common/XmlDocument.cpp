@@ -1,9 +1,9 @@
 #include "common/XmlDocument.h"
 
 #include "common/Error.h"
-#include "common/File.h"
 #include "common/XmlPointer.h"
 #include "common/XmlSetup.h"
+#include "common/system/File.h"
 #include "common/text/CodePage.h"
 
 #include <libxml/parserInternals.h>

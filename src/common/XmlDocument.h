@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/File.h"
 #include "common/XmlNode.h"
+#include "common/system/File.h"
 
 #include <cstdint>
 #include <memory>

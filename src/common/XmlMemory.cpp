@@ -1,6 +1,6 @@
 #include "common/XmlMemory.h"
 
-#include "common/Heap.h"
+#include "common/system/Heap.h"
 
 #include <libxml/xmlmemory.h>
 

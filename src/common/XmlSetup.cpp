@@ -1,9 +1,9 @@
 #include "common/XmlSetup.h"
 
 #include "common/Error.h"
-#include "common/File.h"
 #include "common/XmlMemory.h"
 #include "common/XmlPointer.h"
+#include "common/system/File.h"
 
 #include <libxml/parserInternals.h>
 #include <libxml/uri.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/File.h"
+#include "common/system/File.h"
 #include "reader/FilePosition.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "reader/JpegXml.h"
 
-#include "common/File.h"
+#include "common/system/File.h"
 #include "common/text/Hex.h"
 #include "common/text/PathText.h"
 #include "reader/XmlText.h"

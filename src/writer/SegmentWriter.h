@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/ErrorReport.h"
-#include "common/File.h"
+#include "common/system/File.h"
 
 #include <cstdint>
 #include <string_view>

@@ -1,5 +1,5 @@
 #include "collection/KeywordFile.h"
-#include "common/File.h"
+#include "common/system/File.h"
 #include "support/RecordingReporter.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "ControlFormFixture.h"
 
-#include "common/File.h"
+#include "common/system/File.h"
 #include "ui/BatchForm/BatchForm.h"
 #include "ui/BrowserCapForm/BrowserCapForm.h"
 #include "ui/ProgressForm/ProgressForm.h"

@@ -1,7 +1,7 @@
 #include "ControlFormFixture.h"
 
 #include "collection/MetadataDocument.h"
-#include "common/File.h"
+#include "common/system/File.h"
 #include "ui/ControlForm/PictureBox.h"
 #include "ui/NodeAddForm/NodeAddForm.h"
 

@@ -1,7 +1,7 @@
 #include "../support/RecordingReporter.h"
 #include "collection/ContentFilter.h"
 #include "common/Error.h"
-#include "common/File.h"
+#include "common/system/File.h"
 #include "ui/App/PictureFit.h"
 #include "ui/App/Placement.h"
 #include "ui/App/Settings.h"

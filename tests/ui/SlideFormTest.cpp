@@ -1,7 +1,7 @@
 #include "ControlFormFixture.h"
 #include "SlideTestTimer.h"
 
-#include "common/File.h"
+#include "common/system/File.h"
 #include "ui/SlideForm/SlideForm.h"
 #include "ui/SlideShowOptionForm/SlideShowOptionForm.h"
 

@@ -1,6 +1,6 @@
 #include "ui/App/Desktop.h"
 
-#include "common/File.h"
+#include "common/system/File.h"
 #include "ui/App/PropertySheet.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "common/ProgramFolder.h"
+#include "common/system/ProgramFolder.h"
 #include "ui/App/MessageReporter.h"
 #include "ui/App/Settings.h"
 #include "ui/App/SystemDialogs.h"

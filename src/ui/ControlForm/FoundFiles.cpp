@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "common/File.h"
+#include "common/system/File.h"
 #include "ui/App/Text.h"
 
 #include <iterator>

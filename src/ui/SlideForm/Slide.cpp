@@ -1,7 +1,7 @@
 #include "ui/SlideForm/Slide.h"
 
 #include "common/Error.h"
-#include "common/File.h"
+#include "common/system/File.h"
 #include "common/text/PathText.h"
 #include "reader/JpegXml.h"
 #include "ui/App/PictureFile.h"

@@ -1,4 +1,4 @@
-#include "common/File.h"
+#include "common/system/File.h"
 
 #include "common/text/PathText.h"
 

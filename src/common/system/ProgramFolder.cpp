@@ -1,6 +1,6 @@
-#include "common/ProgramFolder.h"
+#include "common/system/ProgramFolder.h"
 
-#include "common/File.h"
+#include "common/system/File.h"
 #include "common/text/PathText.h"
 
 namespace ovisto {

@@ -1,5 +1,5 @@
-#include "common/File.h"
-#include "common/ProgramFolder.h"
+#include "common/system/File.h"
+#include "common/system/ProgramFolder.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 

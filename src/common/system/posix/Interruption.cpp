@@ -1,4 +1,4 @@
-#include "common/Interruption.h"
+#include "common/system/Interruption.h"
 
 #include <atomic>
 #include <csignal>

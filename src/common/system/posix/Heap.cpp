@@ -1,4 +1,4 @@
-#include "common/Heap.h"
+#include "common/system/Heap.h"
 
 #ifdef __APPLE__
 #include <malloc/malloc.h>

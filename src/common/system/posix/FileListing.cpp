@@ -1,7 +1,7 @@
-#include "common/FileListing.h"
+#include "common/system/FileListing.h"
 
 #include "common/Error.h"
-#include "common/File.h"
+#include "common/system/File.h"
 #include "common/text/CodePage.h"
 
 #include <algorithm>
