@@ -8,11 +8,11 @@
 #include "collection/ContentFilter.h"
 #include "collection/FolderWalk.h"
 #include "collection/Report.h"
-#include "common/XmlLoad.h"
-#include "common/XmlTransform.h"
 #include "common/system/File.h"
 #include "common/system/Interruption.h"
 #include "common/text/CodePage.h"
+#include "common/xml/XmlLoad.h"
+#include "common/xml/XmlTransform.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "collection/MetadataDocument.h"
 
-#include "common/XmlLoad.h"
+#include "common/xml/XmlLoad.h"
 
 namespace ovisto {
 

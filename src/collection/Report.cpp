@@ -1,11 +1,11 @@
 #include "collection/Report.h"
 
 #include "collection/MetadataDocument.h"
-#include "common/XmlLoad.h"
-#include "common/XmlTransform.h"
 #include "common/system/File.h"
 #include "common/text/CodePage.h"
 #include "common/text/PathText.h"
+#include "common/xml/XmlLoad.h"
+#include "common/xml/XmlTransform.h"
 
 #include <algorithm>
 #include <optional>

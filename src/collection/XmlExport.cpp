@@ -1,7 +1,7 @@
 #include "collection/XmlExport.h"
 
-#include "common/XmlLoad.h"
 #include "common/system/File.h"
+#include "common/xml/XmlLoad.h"
 
 namespace ovisto {
 

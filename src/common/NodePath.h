@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/XmlNode.h"
+#include "common/xml/XmlNode.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "common/TagDictionary.h"
 
 #include "common/NodePath.h"
-#include "common/XmlLoad.h"
+#include "common/xml/XmlLoad.h"
 
 namespace ovisto {
 

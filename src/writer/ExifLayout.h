@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/ErrorReport.h"
-#include "common/XmlNode.h"
+#include "common/xml/XmlNode.h"
 
 #include <cstdint>
 

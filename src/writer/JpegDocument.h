@@ -1,8 +1,8 @@
 #pragma once
 
 #include "common/ErrorReport.h"
-#include "common/XmlDocument.h"
 #include "common/system/File.h"
+#include "common/xml/XmlDocument.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/ErrorReport.h"
-#include "common/XmlDocument.h"
+#include "common/xml/XmlDocument.h"
 
 namespace ovisto {
 

@@ -1,5 +1,5 @@
 #include "reader/JpegXml.h"
-#include "common/XmlDocument.h"
+#include "common/xml/XmlDocument.h"
 #include "support/JpegBytes.h"
 
 #include <gtest/gtest.h>

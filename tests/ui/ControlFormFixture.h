@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/XmlDocument.h"
+#include "common/xml/XmlDocument.h"
 #include "ui/App/Desktop.h"
 #include "ui/App/Dialogs.h"
 #include "ui/App/Settings.h"

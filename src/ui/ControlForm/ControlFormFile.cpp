@@ -3,8 +3,8 @@
 #include "ui/ControlForm/ControlForm.h"
 
 #include "collection/XmlExport.h"
-#include "common/XmlLoad.h"
 #include "common/text/PathText.h"
+#include "common/xml/XmlLoad.h"
 #include "ui/App/Text.h"
 #include "writer/JpegDocument.h"
 

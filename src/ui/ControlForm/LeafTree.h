@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/TagDictionary.h"
-#include "common/XmlDocument.h"
+#include "common/xml/XmlDocument.h"
 #include "ui/ControlForm/OsProperties.h"
 
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "common/ErrorReport.h"
 #include "common/TagDictionary.h"
-#include "common/XmlDocument.h"
+#include "common/xml/XmlDocument.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/XmlNode.h"
 #include "common/system/File.h"
+#include "common/xml/XmlNode.h"
 
 #include <cstdint>
 #include <memory>

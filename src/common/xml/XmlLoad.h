@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/XmlDocument.h"
+#include "common/xml/XmlDocument.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "common/XmlLoad.h"
+#include "common/xml/XmlLoad.h"
 
 #include "common/Error.h"
 #include "common/text/CodePage.h"

@@ -1,4 +1,4 @@
-#include "common/XmlMemory.h"
+#include "common/xml/XmlMemory.h"
 
 #include "common/system/Heap.h"
 

@@ -1,8 +1,8 @@
-#include "common/XmlTransform.h"
+#include "common/xml/XmlTransform.h"
 
-#include "common/XmlMemory.h"
-#include "common/XmlPointer.h"
-#include "common/XmlSetup.h"
+#include "common/xml/XmlMemory.h"
+#include "common/xml/XmlPointer.h"
+#include "common/xml/XmlSetup.h"
 
 #include <libexslt/exslt.h>
 #include <libxml/uri.h>

@@ -1,7 +1,7 @@
-#include "common/XmlNode.h"
+#include "common/xml/XmlNode.h"
 
 #include "common/Error.h"
-#include "common/XmlPointer.h"
+#include "common/xml/XmlPointer.h"
 
 #include <libxml/xpathInternals.h>
 

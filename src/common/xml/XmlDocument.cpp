@@ -1,10 +1,10 @@
-#include "common/XmlDocument.h"
+#include "common/xml/XmlDocument.h"
 
 #include "common/Error.h"
-#include "common/XmlPointer.h"
-#include "common/XmlSetup.h"
 #include "common/system/File.h"
 #include "common/text/CodePage.h"
+#include "common/xml/XmlPointer.h"
+#include "common/xml/XmlSetup.h"
 
 #include <libxml/parserInternals.h>
 #include <libxml/uri.h>

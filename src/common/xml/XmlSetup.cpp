@@ -1,9 +1,9 @@
-#include "common/XmlSetup.h"
+#include "common/xml/XmlSetup.h"
 
 #include "common/Error.h"
-#include "common/XmlMemory.h"
-#include "common/XmlPointer.h"
 #include "common/system/File.h"
+#include "common/xml/XmlMemory.h"
+#include "common/xml/XmlPointer.h"
 
 #include <libxml/parserInternals.h>
 #include <libxml/uri.h>

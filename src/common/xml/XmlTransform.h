@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/Error.h"
-#include "common/XmlDocument.h"
+#include "common/xml/XmlDocument.h"
 
 #include <optional>
 #include <string>
