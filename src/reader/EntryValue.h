@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reader/ByteReader.h"
+#include "jpeg/ByteReader.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/Error.h"
-#include "reader/ByteReader.h"
+#include "jpeg/ByteReader.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/system/File.h"
-#include "reader/FilePosition.h"
+#include "jpeg/FilePosition.h"
 
 #include <array>
 #include <cstdint>

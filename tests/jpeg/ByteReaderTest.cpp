@@ -1,4 +1,4 @@
-#include "reader/ByteReader.h"
+#include "jpeg/ByteReader.h"
 #include "common/text/CodePage.h"
 #include "reader/XmlText.h"
 #include "support/JpegBytes.h"
