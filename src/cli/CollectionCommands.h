@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/CommandLine.h"
-#include "common/TagDictionary.h"
+#include "document/TagDictionary.h"
 
 #include <string>
 #include <vector>

@@ -10,11 +10,11 @@
 #include "collection/MetadataDocument.h"
 #include "collection/XmlExport.h"
 #include "common/FirstReport.h"
-#include "common/NodePath.h"
 #include "common/system/File.h"
 #include "common/system/Interruption.h"
 #include "common/system/ProgramFolder.h"
 #include "common/xml/XmlLoad.h"
+#include "document/NodePath.h"
 #include "writer/JpegDocument.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "cli/PropertyText.h"
 
 #include "cli/TerminalText.h"
-#include "collection/PropertyTree.h"
-#include "common/DataType.h"
+#include "document/DataType.h"
+#include "document/PropertyTree.h"
 
 namespace ovisto {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/TagDictionary.h"
 #include "common/xml/XmlDocument.h"
+#include "document/TagDictionary.h"
 
 #include <string>
 

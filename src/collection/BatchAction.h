@@ -1,8 +1,8 @@
 #pragma once
 
-#include "collection/NodeChange.h"
 #include "common/ErrorReport.h"
 #include "common/Progress.h"
+#include "document/NodeChange.h"
 
 #include <cstddef>
 #include <shared_mutex>

@@ -1,7 +1,7 @@
 #include "collection/DocumentPattern.h"
 
 #include "common/text/CodePage.h"
-#include "reader/XmlText.h"
+#include "document/XmlText.h"
 
 #include <algorithm>
 #include <utility>

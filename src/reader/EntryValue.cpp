@@ -1,9 +1,9 @@
 #include "reader/EntryValue.h"
 
-#include "common/DataType.h"
-#include "common/TagNumbers.h"
 #include "common/text/NumberText.h"
-#include "reader/XmlText.h"
+#include "document/DataType.h"
+#include "document/TagNumbers.h"
+#include "document/XmlText.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,13 +1,13 @@
 // The part of JpegXml that turns APP1 segments into Exif and Exif1 elements.
 
-#include "common/DataType.h"
-#include "common/TagNumbers.h"
 #include "common/text/CodePage.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
+#include "document/DataType.h"
+#include "document/TagNumbers.h"
+#include "document/XmlText.h"
 #include "reader/EntryValue.h"
 #include "reader/JpegXml.h"
-#include "reader/XmlText.h"
 
 namespace ovisto {
 

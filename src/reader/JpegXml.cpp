@@ -3,7 +3,7 @@
 #include "common/system/File.h"
 #include "common/text/Hex.h"
 #include "common/text/PathText.h"
-#include "reader/XmlText.h"
+#include "document/XmlText.h"
 
 namespace ovisto {
 

@@ -1,11 +1,11 @@
 #include "writer/ExifLayout.h"
 
-#include "common/DataType.h"
-#include "common/NodePath.h"
-#include "common/TagNumbers.h"
 #include "common/text/CodePage.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
+#include "document/DataType.h"
+#include "document/NodePath.h"
+#include "document/TagNumbers.h"
 
 #include <algorithm>
 #include <iterator>

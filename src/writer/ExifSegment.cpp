@@ -1,10 +1,10 @@
 #include "writer/ExifSegment.h"
 
-#include "common/DataType.h"
-#include "common/NodePath.h"
-#include "common/TagNumbers.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
+#include "document/DataType.h"
+#include "document/NodePath.h"
+#include "document/TagNumbers.h"
 #include "writer/ExifLayout.h"
 
 #include <algorithm>

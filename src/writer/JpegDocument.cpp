@@ -1,9 +1,9 @@
 #include "writer/JpegDocument.h"
 
-#include "common/NodePath.h"
 #include "common/text/CodePage.h"
 #include "common/text/NumberText.h"
 #include "common/text/PathText.h"
+#include "document/NodePath.h"
 #include "writer/ExifSegment.h"
 #include "writer/ImagePlace.h"
 #include "writer/SegmentWriter.h"

@@ -1,6 +1,6 @@
 #include "collection/BatchAction.h"
 #include "collection/MetadataDocument.h"
-#include "common/TagDictionary.h"
+#include "document/TagDictionary.h"
 #include "support/CountingProgress.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"

@@ -1,6 +1,6 @@
 #include "jpeg/ByteReader.h"
 #include "common/text/CodePage.h"
-#include "reader/XmlText.h"
+#include "document/XmlText.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 

@@ -1,4 +1,4 @@
-#include "common/TagDictionary.h"
+#include "document/TagDictionary.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 #include "support/Rewriting.h"

@@ -1,6 +1,6 @@
 #include "ui/BatchForm/BatchForm.h"
 
-#include "common/NodePath.h"
+#include "document/NodePath.h"
 #include "ui/App/Text.h"
 #include "ui/NodeAddForm/NodePicker.h"
 

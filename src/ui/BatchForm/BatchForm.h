@@ -1,7 +1,7 @@
 #pragma once
 
-#include "collection/NodeChange.h"
-#include "common/TagDictionary.h"
+#include "document/NodeChange.h"
+#include "document/TagDictionary.h"
 #include "ui/App/Dialogs.h"
 #include "ui_BatchForm.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "common/TagDictionary.h"
 #include "common/system/ProgramFolder.h"
 #include "common/xml/XmlDocument.h"
+#include "document/TagDictionary.h"
 #include "reader/JpegXml.h"
 #include "ui/App/Desktop.h"
 #include "ui/App/Dialogs.h"

@@ -1,8 +1,8 @@
 #include "ui/ControlForm/LeafTree.h"
 
-#include "collection/PropertyTree.h"
 #include "common/Error.h"
-#include "common/NodePath.h"
+#include "document/NodePath.h"
+#include "document/PropertyTree.h"
 
 #include <cstddef>
 

@@ -1,11 +1,11 @@
 #include "ui/ControlForm/NodeInspection.h"
 
-#include "common/DataType.h"
 #include "common/Error.h"
-#include "common/NodePath.h"
 #include "common/text/CodePage.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
+#include "document/DataType.h"
+#include "document/NodePath.h"
 #include "ui/ControlForm/OsProperties.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "ui/ControlForm/OsProperties.h"
 
-#include "writer/NodeCreation.h"
+#include "document/NodeCreation.h"
 
 #include <cstddef>
 

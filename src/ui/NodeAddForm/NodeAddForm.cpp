@@ -1,6 +1,6 @@
 #include "ui/NodeAddForm/NodeAddForm.h"
 
-#include "common/NodePath.h"
+#include "document/NodePath.h"
 #include "ui/App/Text.h"
 
 namespace ovisto {

@@ -1,7 +1,7 @@
 #include "ui/NodeAddForm/NodePicker.h"
 
-#include "common/NodePath.h"
-#include "writer/NodeCreation.h"
+#include "document/NodeCreation.h"
+#include "document/NodePath.h"
 
 namespace ovisto {
 

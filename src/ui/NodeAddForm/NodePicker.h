@@ -1,8 +1,8 @@
 #pragma once
 
 #include "common/ErrorReport.h"
-#include "common/TagDictionary.h"
 #include "common/xml/XmlDocument.h"
+#include "document/TagDictionary.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "common/NodePath.h"
-#include "common/TagDictionary.h"
 #include "common/xml/XmlLoad.h"
+#include "document/NodePath.h"
+#include "document/TagDictionary.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 

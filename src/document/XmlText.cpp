@@ -1,4 +1,4 @@
-#include "reader/XmlText.h"
+#include "document/XmlText.h"
 
 #include "common/text/CodePage.h"
 #include "common/text/NumberText.h"

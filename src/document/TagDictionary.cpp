@@ -1,7 +1,7 @@
-#include "common/TagDictionary.h"
+#include "document/TagDictionary.h"
 
-#include "common/NodePath.h"
 #include "common/xml/XmlLoad.h"
+#include "document/NodePath.h"
 
 namespace ovisto {
 

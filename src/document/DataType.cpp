@@ -1,7 +1,7 @@
-#include "common/DataType.h"
+#include "document/DataType.h"
 
-#include "common/NodePath.h"
 #include "common/text/NumberText.h"
+#include "document/NodePath.h"
 
 #include <array>
 #include <cstddef>

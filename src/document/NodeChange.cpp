@@ -1,9 +1,9 @@
-#include "collection/NodeChange.h"
+#include "document/NodeChange.h"
 
 #include "common/FirstReport.h"
-#include "common/NodePath.h"
-#include "common/TagDictionary.h"
-#include "writer/NodeCreation.h"
+#include "document/NodeCreation.h"
+#include "document/NodePath.h"
+#include "document/TagDictionary.h"
 
 #include <algorithm>
 #include <iterator>

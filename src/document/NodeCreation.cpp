@@ -1,6 +1,6 @@
-#include "writer/NodeCreation.h"
+#include "document/NodeCreation.h"
 
-#include "common/NodePath.h"
+#include "document/NodePath.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "writer/NodeCreation.h"
+#include "document/NodeCreation.h"
 #include "collection/MetadataDocument.h"
-#include "common/TagDictionary.h"
+#include "document/TagDictionary.h"
 #include "support/RecordingReporter.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
-#include "collection/PropertyTree.h"
+#include "document/PropertyTree.h"
 
-#include "common/DataType.h"
 #include "common/Error.h"
-#include "common/NodePath.h"
+#include "document/DataType.h"
+#include "document/NodePath.h"
 
 namespace ovisto {
 

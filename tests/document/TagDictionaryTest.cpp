@@ -1,8 +1,8 @@
-#include "common/TagDictionary.h"
-#include "common/DataType.h"
-#include "common/NodePath.h"
+#include "document/TagDictionary.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
+#include "document/DataType.h"
+#include "document/NodePath.h"
 #include "support/CommandRun.h"
 
 #include <gtest/gtest.h>

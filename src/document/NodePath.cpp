@@ -1,4 +1,4 @@
-#include "common/NodePath.h"
+#include "document/NodePath.h"
 
 namespace ovisto {
 
