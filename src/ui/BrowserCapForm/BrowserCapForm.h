@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/ControlForm/ScanSettings.h"
+#include "ui/App/ScanSettings.h"
 #include "ui_BrowserCapForm.h"
 
 #include <QDialog>

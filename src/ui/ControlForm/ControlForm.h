@@ -6,12 +6,12 @@
 #include "reader/JpegXml.h"
 #include "ui/App/Desktop.h"
 #include "ui/App/Dialogs.h"
+#include "ui/App/FoundFiles.h"
 #include "ui/App/MessageReporter.h"
+#include "ui/App/ScanSettings.h"
 #include "ui/App/Settings.h"
-#include "ui/ControlForm/FoundFiles.h"
 #include "ui/ControlForm/NodeInspection.h"
 #include "ui/ControlForm/OsProperties.h"
-#include "ui/ControlForm/ScanSettings.h"
 #include "ui_ControlForm.h"
 
 #include <QMainWindow>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ui/App/Dialogs.h"
+#include "ui/App/FoundFiles.h"
 #include "ui/App/Settings.h"
-#include "ui/ControlForm/FoundFiles.h"
 #include "ui/SlideForm/SlideCache.h"
 #include "ui/SlideForm/SlideClockwork.h"
 #include "ui/SlideForm/SlideTimer.h"

@@ -1,4 +1,4 @@
-#include "ui/ControlForm/ScanSettings.h"
+#include "ui/App/ScanSettings.h"
 
 #include "ui/App/Text.h"
 

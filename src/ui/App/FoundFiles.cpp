@@ -1,4 +1,4 @@
-#include "ui/ControlForm/FoundFiles.h"
+#include "ui/App/FoundFiles.h"
 
 #include <algorithm>
 
