@@ -1,6 +1,7 @@
 #include "document/NodeChange.h"
 
 #include "common/FirstReport.h"
+#include "document/Directories.h"
 #include "document/NodeCreation.h"
 #include "document/NodePath.h"
 #include "document/TagDictionary.h"
@@ -12,18 +13,16 @@ namespace ovisto {
 
 namespace {
 
-struct Companion {
-    const char* deleted;
-    const char* removedToo;
-};
-
-constexpr Companion kCompanions[] = {
-    {"/JPEG/Exif[@id='FFE1']/IFDE", "/JPEG/Exif/IFD[@id='8769']"},
-    {"/JPEG/Exif[@id='FFE1']/IFDI", "/JPEG/Exif/IFDE/IFD[@id='A005']"},
-    {"/JPEG/Exif[@id='FFE1']/IFDE/MAKE", "/JPEG/Exif/IFDE/IFD[@id='927C']"},
-    {"/JPEG/Exif[@id='FFE1']/IFD1/THUM", "/JPEG/Exif/IFD1"},
-    {"/JPEG/Exif[@id='FFE1']/IFD1", "/JPEG/Exif/IFD1/THUM"},
-};
+/// The path of what has no meaning without `part`; empty when there is nothing.
+std::string companionPath(const ExifPart& part)
+{
+    if (const ExifPart* purpose = exifPart(part.purpose))
+        return partPath(*purpose);
+    const auto* directory = std::ranges::find(kExifParts, part.element, &ExifPart::purpose);
+    if (directory != std::end(kExifParts))
+        return partPath(*directory);
+    return part.pointer.offset != 0 ? entryPath(*exifPart(part.pointedFrom), part.pointer.offset) : std::string();
+}
 
 /// A node that could not be made with all that it needs is as good as none: its file could not be read back.
 XmlNode createNode(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)
@@ -79,11 +78,11 @@ bool applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter&
 
 XmlNode removeCompanion(XmlDocument& document, const std::string& path)
 {
-    const auto* row =
-        std::ranges::find_if(kCompanions, [&](const Companion& companion) { return path == companion.deleted; });
-    if (row == std::end(kCompanions))
+    const ExifPart* part = exifPartAt(path);
+    const std::string companionsPath = part != nullptr ? companionPath(*part) : std::string();
+    if (companionsPath.empty())
         return {};
-    XmlNode companion = document.selectSingleNode(row->removedToo);
+    XmlNode companion = document.selectSingleNode(companionsPath);
     companion.remove();
     return companion;
 }

@@ -1,5 +1,6 @@
 #include "document/NodeCreation.h"
 
+#include "document/Directories.h"
 #include "document/NodePath.h"
 
 #include <algorithm>
@@ -8,30 +9,23 @@ namespace ovisto {
 
 namespace {
 
-/// An entry that must exist for its container to be found in the file, and its text when it is made.
-struct Companion {
-    const char* container;
-    const char* path;
-    const char* text;
-};
-
-// The offsets and lengths are placeholders that the layout overwrites; a thumbnail's compression is 6 (JPEG). The paths
-// of the companions name Exif without its id, so that they are found in any Exif element.
-constexpr Companion kCompanions[] = {
-    {"/JPEG/Exif[@id='FFE1']/IFDE", "/JPEG/Exif/IFD[@id='8769']", "9999"},
-    {"/JPEG/Exif[@id='FFE1']/IFDI", "/JPEG/Exif/IFDE/IFD[@id='A005']", "9999"},
-    {"/JPEG/Exif[@id='FFE1']/IFDE/MAKE", "/JPEG/Exif/IFDE/IFD[@id='927C']", "9999"},
-    {"/JPEG/Exif[@id='FFE1']/IFD1/THUM", "/JPEG/Exif/IFD1/IFD[@id='0103']", "6"},
-    {"/JPEG/Exif[@id='FFE1']/IFD1/THUM", "/JPEG/Exif/IFD1/IFD[@id='0201']", "9999"},
-    {"/JPEG/Exif[@id='FFE1']/IFD1/THUM", "/JPEG/Exif/IFD1/IFD[@id='0202']", "0"},
-};
-
-void createCompanion(XmlDocument& document, const XmlNode& dictionary, const Companion& companion,
-                     ErrorReporter& reporter)
+/// Creates an entry of `directory`, without which its part would not be found in the file, where it is missing. It is
+/// found in any Exif element.
+void createCompanion(XmlDocument& document, const XmlNode& dictionary, const ExifPart& directory,
+                     const EntryText& companion, ErrorReporter& reporter)
 {
-    if (document.selectSingleNode(companion.path))
+    const std::string path = entryPath(directory, companion.tag);
+    if (document.selectSingleNode(path))
         return;
-    CreateNode(document, dictionary.selectSingleNode(companion.path), reporter).setText(companion.text);
+    CreateNode(document, dictionary.selectSingleNode(path), reporter).setText(companion.text);
+}
+
+/// The entries that a part is created with. The offset and the length are placeholders that the layout overwrites.
+std::vector<EntryText> companionsOf(const ExifPart& part)
+{
+    std::vector<EntryText> companions{part.property, {part.pointer.offset, "9999"}, {part.pointer.length, "0"}};
+    std::erase_if(companions, [](const EntryText& companion) { return companion.tag == 0; });
+    return companions;
 }
 
 /// The element below `parent` that an element made from `templateNode` has to stand before: the first one that has the
@@ -83,9 +77,11 @@ XmlNode CreateNode(XmlDocument& document, const XmlNode& templateNode, ErrorRepo
         if (!templateNode)
             throw systemError(kObjectNotSet);
     });
-    for (const Companion& companion : kCompanions) {
-        if (companion.container == path)
-            trap.run([&] { createCompanion(document, templateNode.document(), companion, reporter); });
+    if (const ExifPart* part = exifPartAt(path)) {
+        for (const EntryText& companion : companionsOf(*part)) {
+            const ExifPart& directory = *exifPart(part->pointedFrom);
+            trap.run([&] { createCompanion(document, templateNode.document(), directory, companion, reporter); });
+        }
     }
     if (templateNode) {
         trap.run([&] {

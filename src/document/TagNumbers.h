@@ -5,6 +5,7 @@
 namespace ovisto {
 
 // The tags that the program treats in a way of their own (Exif 2.32, TIFF 6.0; the last five are Windows').
+inline constexpr std::uint16_t kCompression = 0x0103;
 inline constexpr std::uint16_t kStripOffsets = 0x0111;
 inline constexpr std::uint16_t kStripByteCounts = 0x0117;
 inline constexpr std::uint16_t kThumbnailOffset = 0x0201;

@@ -1,0 +1,54 @@
+#include "document/Directories.h"
+
+#include "common/text/Hex.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace ovisto {
+
+namespace {
+
+/// The path below the Exif element, with a stroke before each level.
+std::string pathInExif(const ExifPart& part)
+{
+    const ExifPart* parent = exifPart(part.parent);
+    if (parent == nullptr)
+        return {};
+    return pathInExif(*parent).append("/").append(part.element);
+}
+
+} // namespace
+
+const ExifPart* exifPart(std::string_view element)
+{
+    const auto* row = std::ranges::find(kExifParts, element, &ExifPart::element);
+    return row != std::end(kExifParts) ? row : nullptr;
+}
+
+const ExifPart* exifPartAt(std::string_view nodePath)
+{
+    constexpr std::string_view kExif = "/JPEG/Exif[@id='FFE1']";
+    if (!nodePath.starts_with(kExif))
+        return nullptr;
+    const auto* row = std::ranges::find(kExifParts, nodePath.substr(kExif.size()), pathInExif);
+    return row != std::end(kExifParts) ? row : nullptr;
+}
+
+XmlNode partNode(const XmlNode& exif, const ExifPart& part)
+{
+    const ExifPart* parent = exifPart(part.parent);
+    return parent != nullptr ? partNode(exif, *parent).childElement(part.element) : exif;
+}
+
+std::string partPath(const ExifPart& part)
+{
+    return "/JPEG/Exif" + pathInExif(part);
+}
+
+std::string entryPath(const ExifPart& directory, std::uint16_t tag)
+{
+    return partPath(directory) + "/IFD[@id='" + hexNumber(tag, 4) + "']";
+}
+
+} // namespace ovisto

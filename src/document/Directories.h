@@ -1,0 +1,93 @@
+#pragma once
+
+#include "common/xml/XmlNode.h"
+#include "document/TagNumbers.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ovisto {
+
+// The parts of an Exif element. Reading, layout, writing, creation and deletion all walk this table, so a further
+// directory is a row here and entries in the tag dictionary.
+
+/// The names of the elements that stand for a part.
+inline constexpr std::string_view kFirstDirectory = "Exif"; ///< its own entries: what TIFF calls IFD0
+inline constexpr std::string_view kExifIfd = "IFDE";
+inline constexpr std::string_view kInteroperabilityIfd = "IFDI";
+inline constexpr std::string_view kMakerNoteBytes = "MAKE";
+inline constexpr std::string_view kThumbnailIfd = "IFD1";
+inline constexpr std::string_view kThumbnailBytes = "THUM";
+
+/// A directory has entries (elements IFD); a block of bytes is a run of hexadecimal digits.
+enum class PartKind { Directory, Bytes };
+
+/// The tags of the entries that say where a part stands in the TIFF structure; 0 for none.
+struct PartPointer {
+    std::uint16_t offset = 0;
+    /// For Bytes, their number. Where there is no such entry, it is the component count of the one with the offset.
+    std::uint16_t length = 0;
+};
+
+/// An entry and its text.
+struct EntryText {
+    std::uint16_t tag = 0;
+    std::string_view text = {};
+};
+
+struct ExifPart {
+    std::string_view element = {};
+    /// The element that it is a child of; empty for the first directory, which is Exif itself.
+    std::string_view parent = {};
+    PartKind kind = PartKind::Directory;
+    /// The directory with the entries of `pointer` and `strips`. Without such entries, the directory whose link to the
+    /// next one leads here; empty for the first, which the TIFF header leads to.
+    std::string_view pointedFrom = {};
+    PartPointer pointer = {}; ///< created together with the part
+    PartPointer strips = {};  ///< the same for an image in strips: the first offset counts, and the sum of the lengths
+    EntryText property = {};  ///< another entry that is created together with the part
+    /// The part for whose sake the directory is there, if any: they are deleted together. Other parts are deleted
+    /// together with the entry of their offset.
+    std::string_view purpose = {};
+};
+
+/// In the order in which they stand in a file. Those of one parent are in the order of the document too.
+inline constexpr ExifPart kExifParts[] = {
+    {.element = kFirstDirectory},
+    {.element = kExifIfd, .parent = kFirstDirectory, .pointedFrom = kFirstDirectory, .pointer = {kExifDirectory}},
+    {.element = kInteroperabilityIfd,
+     .parent = kFirstDirectory,
+     .pointedFrom = kExifIfd,
+     .pointer = {kInteroperabilityDirectory}},
+    {.element = kMakerNoteBytes,
+     .parent = kExifIfd,
+     .kind = PartKind::Bytes,
+     .pointedFrom = kExifIfd,
+     .pointer = {kMakerNote}},
+    {.element = kThumbnailIfd, .parent = kFirstDirectory, .pointedFrom = kFirstDirectory, .purpose = kThumbnailBytes},
+    {.element = kThumbnailBytes,
+     .parent = kThumbnailIfd,
+     .kind = PartKind::Bytes,
+     .pointedFrom = kThumbnailIfd,
+     .pointer = {kThumbnailOffset, kThumbnailLength},
+     .strips = {kStripOffsets, kStripByteCounts},
+     .property = {kCompression, "6"}}, // JPEG, as Exif asks of a thumbnail
+};
+
+/// The row of an element; null when it is no part.
+const ExifPart* exifPart(std::string_view element);
+
+/// The row of a node path as NodeXPath() writes it; null when it is not that of a part.
+const ExifPart* exifPartAt(std::string_view nodePath);
+
+/// The node of a part below `exif`, an Exif element, or no node.
+XmlNode partNode(const XmlNode& exif, const ExifPart& part);
+
+/// A path that selects the part in the first Exif element, whatever its id.
+std::string partPath(const ExifPart& part);
+
+/// A path that selects the entry of `directory`, a row, that has this tag, in the first Exif element, whatever its id.
+std::string entryPath(const ExifPart& directory, std::uint16_t tag);
+
+} // namespace ovisto
