@@ -1,26 +1,85 @@
 #include "document/DataType.h"
 
+#include "common/text/CodePage.h"
 #include "common/text/NumberText.h"
 #include "document/NodePath.h"
 
-#include <array>
-#include <cstddef>
+#include <algorithm>
+#include <iterator>
 
 namespace ovisto {
+
+namespace {
+
+// Two Shorts would fit into the entry; they stand outside all the same.
+constexpr DataType kDataTypes[] = {
+    {kByte, "Byte", ValueForm::Hexadecimal, 1, kValueFieldSize},
+    {kString, "String", ValueForm::Text, 1, kValueFieldSize},
+    {kShort, "Short", ValueForm::Short, 2, 1},
+    {kLong, "Long", ValueForm::Long, 4, 1},
+    {kRational, "Rational", ValueForm::Rational, 8, 0},
+    {kSignedByte, "Signed Byte", ValueForm::Hexadecimal, 1, kValueFieldSize},
+    {kUndefined, "Undefined", ValueForm::RawText, 1, kValueFieldSize},
+    {kSignedShort, "Signed Short", ValueForm::Short, 2, 1},
+    {kSignedLong, "Signed Long", ValueForm::Long, 4, 1},
+    {kSignedRational, "Signed Rational", ValueForm::Rational, 8, 0},
+    {kUnicodeString, "Unicode String", ValueForm::WideText, 1, kValueFieldSize},
+};
+
+std::int64_t characterLength(const std::string& text)
+{
+    return static_cast<std::int64_t>(characterCount(text));
+}
+
+// The terminator counts. A text never takes less than the field, which it fills with zeros.
+std::int64_t textLength(const std::string& text)
+{
+    return std::max(characterLength(text), kValueFieldSize - 1) + 1;
+}
+
+std::int64_t wideLength(const std::string& text)
+{
+    return (static_cast<std::int64_t>(utf16(text).size()) + 1) * 2;
+}
+
+} // namespace
+
+const DataType* findDataType(int number)
+{
+    const auto* row = std::ranges::find(kDataTypes, number, &DataType::number);
+    return row != std::end(kDataTypes) ? row : nullptr;
+}
+
+std::int64_t componentCount(const DataType& type, const std::string& text)
+{
+    switch (type.form) {
+    case ValueForm::Hexadecimal:
+        return hexByteCount(text);
+    case ValueForm::Text:
+        return textLength(text);
+    case ValueForm::WideText:
+        return wideLength(text);
+    case ValueForm::RawText:
+        return characterLength(text) + 1;
+    default:
+        return std::ranges::count(text, ',') + 1;
+    }
+}
 
 int dataTypeOf(const XmlNode& node)
 {
     return attributeToLong(AttributeGet(node, "d"));
 }
 
-std::string_view dataTypeName(int dataType)
+std::string_view dataTypeName(int number)
 {
-    constexpr std::array<std::string_view, 12> kNames = {
-        "",          "Byte",         "String",      "Short",           "Long",          "Rational", "Signed Byte",
-        "Undefined", "Signed Short", "Signed Long", "Signed Rational", "Unicode String"};
-    return dataType >= 0 && static_cast<std::size_t>(dataType) < kNames.size()
-               ? kNames[static_cast<std::size_t>(dataType)]
-               : std::string_view();
+    const DataType* type = findDataType(number);
+    return type != nullptr ? type->name : std::string_view();
+}
+
+std::int64_t hexByteCount(const std::string& text)
+{
+    return halfToEven(characterLength(text));
 }
 
 } // namespace ovisto

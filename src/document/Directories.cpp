@@ -35,6 +35,14 @@ const ExifPart* exifPartAt(std::string_view nodePath)
     return row != std::end(kExifParts) ? row : nullptr;
 }
 
+const ExifPart* bytesCountedBy(int tag)
+{
+    const auto* row = std::ranges::find_if(kExifParts, [tag](const ExifPart& part) {
+        return part.kind == PartKind::Bytes && part.pointer.length == 0 && part.pointer.offset == tag;
+    });
+    return row != std::end(kExifParts) ? row : nullptr;
+}
+
 XmlNode partNode(const XmlNode& exif, const ExifPart& part)
 {
     const ExifPart* parent = exifPart(part.parent);

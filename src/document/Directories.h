@@ -81,6 +81,9 @@ const ExifPart* exifPart(std::string_view element);
 /// The row of a node path as NodeXPath() writes it; null when it is not that of a part.
 const ExifPart* exifPartAt(std::string_view nodePath);
 
+/// The row of the bytes whose number is the component count of the entries of this tag; null when there is none.
+const ExifPart* bytesCountedBy(int tag);
+
 /// The node of a part below `exif`, an Exif element, or no node.
 XmlNode partNode(const XmlNode& exif, const ExifPart& part);
 

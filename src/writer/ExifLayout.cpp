@@ -4,6 +4,7 @@
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
 #include "document/DataType.h"
+#include "document/Directories.h"
 #include "document/NodePath.h"
 #include "document/TagNumbers.h"
 
@@ -18,80 +19,26 @@ namespace {
 constexpr std::int64_t kTiffHeaderSize = 8;
 constexpr std::int64_t kEntrySize = 12;
 constexpr std::int64_t kDirectoryFrameSize = 6; // the count before the entries, the link behind them
-constexpr std::int64_t kFieldSize = 4;          // what an entry itself has room for
 
-std::int64_t characterLength(const std::string& text)
-{
-    return static_cast<std::int64_t>(characterCount(text));
-}
-
-std::int64_t hexBytes(const std::string& text)
-{
-    return halfToEven(characterLength(text));
-}
-
-// The terminator counts. A text never takes less than the field, which it fills with zeros.
-std::int64_t stringLength(const std::string& text)
-{
-    return std::max(characterLength(text), kFieldSize - 1) + 1;
-}
-
-std::int64_t undefinedLength(const std::string& text)
-{
-    return characterLength(text) + 1;
-}
-
-std::int64_t wideLength(const std::string& text)
-{
-    return (static_cast<std::int64_t>(utf16(text).size()) + 1) * 2;
-}
-
-std::int64_t itemCount(const std::string& text)
-{
-    return std::ranges::count(text, ',') + 1;
-}
-
-/// How the values of a data type are counted and placed.
-struct TypeLayout {
-    int dataType;
-    std::int64_t (*count)(const std::string& text); ///< components of a value
-    std::int64_t size;                              ///< bytes of a component
-    std::int64_t mostInside;                        ///< components that the entry itself has room for
-};
-
-// Two Shorts would fit into the entry; they stand outside all the same.
-constexpr TypeLayout kTypeLayouts[] = {
-    {kByte, hexBytes, 1, kFieldSize},
-    {kSignedByte, hexBytes, 1, kFieldSize},
-    {kString, stringLength, 1, kFieldSize},
-    {kShort, itemCount, 2, 1},
-    {kSignedShort, itemCount, 2, 1},
-    {kLong, itemCount, 4, 1},
-    {kSignedLong, itemCount, 4, 1},
-    {kRational, itemCount, 8, 0},
-    {kSignedRational, itemCount, 8, 0},
-    {kUndefined, undefinedLength, 1, kFieldSize},
-    {kUnicodeString, wideLength, 1, kFieldSize},
-};
-
-const TypeLayout* typeLayout(int dataType)
-{
-    const auto* row = std::ranges::find(kTypeLayouts, dataType, &TypeLayout::dataType);
-    return row != std::end(kTypeLayouts) ? row : nullptr;
-}
-
-/// The entry of `directory` that has this tag, as four hexadecimal digits.
-XmlNode entryOf(const XmlNode& directory, std::string_view tag)
+/// The entry of `directory` that has this tag.
+XmlNode entryOf(const XmlNode& directory, std::uint16_t tag)
 {
     const std::vector<XmlNode> entries = directory.childElements("IFD");
-    const auto found = std::ranges::find(entries, tag, [](const XmlNode& entry) { return AttributeGet(entry, "id"); });
+    const auto found =
+        std::ranges::find(entries, hexNumber(tag, 4), [](const XmlNode& entry) { return AttributeGet(entry, "id"); });
     return found != entries.end() ? *found : XmlNode();
+}
+
+/// The entry of this tag in the directory that points to `part`.
+XmlNode pointingEntry(const XmlNode& exif, const ExifPart& part, std::uint16_t tag)
+{
+    return entryOf(partNode(exif, *exifPart(part.pointedFrom)), tag);
 }
 
 /// Bytes that the hexadecimal text of an element stands for.
 std::int64_t hexLength(const XmlNode& element)
 {
-    return element ? hexBytes(element.text()) : 0;
+    return element ? hexByteCount(element.text()) : 0;
 }
 
 int tagOf(const XmlNode& entry)
@@ -115,17 +62,17 @@ void countComponents(const XmlNode& exif)
         const int tag = tagOf(entry);
         const std::string text = entry.text();
         std::int64_t count = 0;
-        if (tag == kMakerNote) {
-            count = hexLength(exif.childElement("IFDE").childElement("MAKE"));
+        if (const ExifPart* bytes = bytesCountedBy(tag)) {
+            count = hexLength(partNode(exif, *bytes));
             inside = "1";
         } else if (isFourByteTag(tag)) {
-            count = kFieldSize;
+            count = kValueFieldSize;
             inside = "1";
-        } else if (const TypeLayout* layout = typeLayout(dataTypeOf(entry))) {
-            count = layout->count(text);
-            inside = count <= layout->mostInside ? "1" : "0";
+        } else if (const DataType* type = findDataType(dataTypeOf(entry))) {
+            count = componentCount(*type, text);
+            inside = count <= type->mostInside ? "1" : "0";
         } else {
-            count = characterLength(text);
+            count = static_cast<std::int64_t>(characterCount(text));
         }
         AttributeSet(entry, "l", std::to_string(count));
         AttributeSet(entry, "s", inside);
@@ -135,64 +82,64 @@ void countComponents(const XmlNode& exif)
 std::int64_t sizeOutside(const XmlNode& entry)
 {
     const int tag = tagOf(entry);
-    if (tag == kMakerNote || isFourByteTag(tag))
-        return kFieldSize;
-    const TypeLayout* layout = typeLayout(dataTypeOf(entry));
-    return layout != nullptr ? layout->size * attributeToLong(AttributeGet(entry, "l")) : 0;
+    if (bytesCountedBy(tag) != nullptr || isFourByteTag(tag))
+        return kValueFieldSize;
+    const DataType* type = findDataType(dataTypeOf(entry));
+    return type != nullptr ? type->size * attributeToLong(AttributeGet(entry, "l")) : 0;
 }
 
-/// Lays out the directory `name` of `exif`, if it is there, and points `pointer` at it; 0 where it is not.
-void layOutDirectory(std::int64_t& pos, const XmlNode& exif, std::string_view name, XmlNode pointer,
-                     ErrorReporter& reporter)
+/// Lays out a directory, if it is there, and points at it what should; to 0 where it is not.
+void layOutDirectory(std::int64_t& pos, const XmlNode& exif, const ExifPart& part, ErrorReporter& reporter)
 {
-    const XmlNode directory = exif.childElement(name);
-    if (!directory) {
-        pointer.setText("0");
-        return;
-    }
-    pointer.setText(std::to_string(pos));
-    CalcOffsets(pos, directory, reporter);
+    const XmlNode directory = partNode(exif, part);
+    const std::string offset = directory ? std::to_string(pos) : "0";
+    if (part.pointer.offset != 0)
+        pointingEntry(exif, part, part.pointer.offset).setText(offset);
+    else if (const ExifPart* linking = exifPart(part.pointedFrom))
+        AttributeSet(partNode(exif, *linking), "lo", offset);
+    if (directory)
+        CalcOffsets(pos, directory, reporter);
 }
 
-/// A maker note without an entry that points to it is placed all the same, so that its bytes are not lost.
-void layOutMakerNote(std::int64_t& pos, const XmlNode& exif, ErrorReporter& reporter)
+/// Bytes without an entry that points to them are placed all the same, so that they are not lost.
+void layOutCountedBytes(std::int64_t& pos, const XmlNode& exif, const ExifPart& part, ErrorReporter& reporter)
 {
-    XmlNode pointer = entryOf(exif.childElement("IFDE"), "927C");
-    const XmlNode makerNote = exif.childElement("IFDE").childElement("MAKE");
-    if (!makerNote) {
-        pointer.setText("0");
+    const XmlNode bytes = partNode(exif, part);
+    pointingEntry(exif, part, part.pointer.offset).setText(bytes ? std::to_string(pos) : "0");
+    if (!bytes)
         return;
-    }
-    pointer.setText(std::to_string(pos));
-    AttributeSet(makerNote, "o", std::to_string(pos));
+    AttributeSet(bytes, "o", std::to_string(pos));
     reported(reporter,
              "Can't tie up the MakerNote to its entry in the header (!?"
              "?)",
-             [&] { advance(pos, hexLength(makerNote)); });
+             [&] { advance(pos, hexLength(bytes)); });
 }
 
-void layOutThumbnailDirectory(std::int64_t& pos, const XmlNode& exif, ErrorReporter& reporter)
+/// Bytes whose number stands in an entry of its own.
+void layOutMeasuredBytes(std::int64_t& pos, const XmlNode& exif, const ExifPart& part)
 {
-    const XmlNode directory = exif.childElement("IFD1");
-    if (!directory) {
-        AttributeSet(exif, "lo", "0");
-        return;
-    }
-    AttributeSet(exif, "lo", std::to_string(pos));
-    CalcOffsets(pos, directory, reporter);
-
-    const XmlNode thumbnail = directory.childElement("THUM");
-    const std::int64_t length = hexLength(thumbnail);
-    XmlNode stripOffsets = entryOf(directory, "0111");
+    const XmlNode bytes = partNode(exif, part);
+    const std::int64_t length = hexLength(bytes);
+    XmlNode stripOffsets = pointingEntry(exif, part, part.strips.offset);
     if (stripOffsets) {
         // Kept as files have always been written: the step that should set StripByteCounts (0117) never finds that
         // entry, and so the length goes into StripOffsets again, over the offset.
-        stripOffsets.setText(std::to_string(thumbnail ? length : pos));
-    } else if (thumbnail) {
-        entryOf(directory, "0201").setText(std::to_string(pos));
-        entryOf(directory, "0202").setText(std::to_string(length));
+        stripOffsets.setText(std::to_string(bytes ? length : pos));
+    } else if (bytes) {
+        pointingEntry(exif, part, part.pointer.offset).setText(std::to_string(pos));
+        pointingEntry(exif, part, part.pointer.length).setText(std::to_string(length));
     }
     advance(pos, length);
+}
+
+void layOutPart(std::int64_t& pos, const XmlNode& exif, const ExifPart& part, ErrorReporter& reporter)
+{
+    if (part.kind == PartKind::Directory)
+        layOutDirectory(pos, exif, part, reporter);
+    else if (part.pointer.length == 0)
+        layOutCountedBytes(pos, exif, part, reporter);
+    else
+        layOutMeasuredBytes(pos, exif, part);
 }
 
 } // namespace
@@ -202,11 +149,8 @@ std::int64_t layOutExif(const XmlNode& exif, ErrorReporter& reporter)
     reported(reporter, "Exif section - calculate data length", [&] { countComponents(exif); });
 
     std::int64_t pos = kTiffHeaderSize;
-    CalcOffsets(pos, exif, reporter);
-    layOutDirectory(pos, exif, "IFDE", entryOf(exif, "8769"), reporter);
-    layOutDirectory(pos, exif, "IFDI", entryOf(exif.childElement("IFDE"), "A005"), reporter);
-    layOutMakerNote(pos, exif, reporter);
-    layOutThumbnailDirectory(pos, exif, reporter);
+    for (const ExifPart& part : kExifParts)
+        layOutPart(pos, exif, part, reporter);
     return pos;
 }
 

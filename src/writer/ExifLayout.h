@@ -12,8 +12,8 @@ namespace ovisto {
 // value outside and the maker note get "o", their TIFF offset; Exif gets "lo", the offset of the directory that follows
 // the first; and the entries that point to something get its offset as text. Doing it twice changes nothing.
 //
-// The blocks follow each other without gaps: first directory, Exif directory, interoperability directory, maker note,
-// second directory, thumbnail. A directory's block is its entries, the offset of the next one and its values outside.
+// The parts follow each other without gaps in the order of kExifParts. A directory's part is its entries, the offset of
+// the next one and its values outside.
 
 /// Lays out `exif`, an Exif element. Returns the size of its TIFF structure in bytes. Errors are reported, with what
 /// could not be done, and raised.

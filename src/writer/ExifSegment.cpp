@@ -3,6 +3,7 @@
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
 #include "document/DataType.h"
+#include "document/Directories.h"
 #include "document/NodePath.h"
 #include "document/TagNumbers.h"
 #include "writer/ExifLayout.h"
@@ -19,12 +20,12 @@ void writeHexValue(SegmentWriter& writer, std::string_view text)
     writer.WriteHex(text);
 }
 
-void writeStringValue(SegmentWriter& writer, std::string_view text)
+void writeTextValue(SegmentWriter& writer, std::string_view text)
 {
     writer.WriteNarrowString(text);
 }
 
-void writeUnicodeValue(SegmentWriter& writer, std::string_view text)
+void writeWideTextValue(SegmentWriter& writer, std::string_view text)
 {
     writer.WriteWideString(text);
 }
@@ -57,23 +58,15 @@ void writeRationalValue(SegmentWriter& writer, std::string_view text)
 }
 
 struct ValueWriter {
-    int dataType;
+    ValueForm form;
     void (*write)(SegmentWriter&, std::string_view);
 };
 
-// A type that is not here has no value to write.
 constexpr ValueWriter kValueWriters[] = {
-    {kByte, writeHexValue},
-    {kSignedByte, writeHexValue},
-    {kString, writeStringValue},
-    {kUndefined, writeStringValue},
-    {kShort, writeShortValue},
-    {kSignedShort, writeShortValue},
-    {kLong, writeLongValue},
-    {kSignedLong, writeLongValue},
-    {kRational, writeRationalValue},
-    {kSignedRational, writeRationalValue},
-    {kUnicodeString, writeUnicodeValue},
+    {ValueForm::Hexadecimal, writeHexValue},   {ValueForm::Text, writeTextValue},
+    {ValueForm::WideText, writeWideTextValue}, {ValueForm::RawText, writeTextValue},
+    {ValueForm::Short, writeShortValue},       {ValueForm::Long, writeLongValue},
+    {ValueForm::Rational, writeRationalValue},
 };
 
 /// Writes the value of an entry. What cannot be written is reported with the value, and raised.
@@ -88,6 +81,14 @@ void writeEntryValue(SegmentWriter& writer, const XmlNode& entry, int dataType)
 bool standsInside(const XmlNode& entry)
 {
     return AttributeGet(entry, "s") == "1";
+}
+
+void writePart(SegmentWriter& writer, const ExifPart& part, const XmlNode& node)
+{
+    if (part.kind == PartKind::Directory)
+        WriteIFD(writer, node);
+    else
+        writer.WriteHex(node.text());
 }
 
 } // namespace
@@ -106,20 +107,10 @@ void WriteExif(SegmentWriter& writer, XmlNode exif)
     trap.run([&] { writer.WriteHex("457869660000"); }); // "Exif" and two zero bytes
     trap.run([&] { writer.WriteHex(writer.IntelOrder ? "49492A0008000000" : "4D4D002A00000008"); });
 
-    const auto writeDirectory = [&](const XmlNode& directory) {
-        if (directory)
-            trap.run([&] { WriteIFD(writer, directory); });
-    };
-    const auto writeBytes = [&](const XmlNode& element) {
-        if (element)
-            trap.run([&] { writer.WriteHex(element.text()); });
-    };
-    writeDirectory(exif);
-    writeDirectory(exif.childElement("IFDE"));
-    writeDirectory(exif.childElement("IFDI"));
-    writeBytes(exif.childElement("IFDE").childElement("MAKE"));
-    writeDirectory(exif.childElement("IFD1"));
-    writeBytes(exif.childElement("IFD1").childElement("THUM"));
+    for (const ExifPart& part : kExifParts) {
+        if (const XmlNode node = partNode(exif, part))
+            trap.run([&] { writePart(writer, part, node); });
+    }
 
     // A value that does not fill its entry, or is of a type that cannot be written, is shorter than it was laid out.
     if (!trap.pending())
@@ -154,13 +145,15 @@ void WriteIFD(SegmentWriter& writer, const XmlNode& directory)
 void WriteValue(SegmentWriter& writer, std::string_view text, int dataType, std::string_view id)
 {
     const int tag = Hex4ToLong(id);
-    if (dataType == kUndefined && tag == kMakerNote)
+    if (dataType == kUndefined && bytesCountedBy(tag) != nullptr)
         return writer.WriteLong(toLong(text));
     if (dataType == kUndefined && isFourByteTag(tag))
         return writer.WriteHex(text);
-    const auto* row = std::ranges::find(kValueWriters, dataType, &ValueWriter::dataType);
-    if (row != std::end(kValueWriters))
-        row->write(writer, text);
+    const DataType* type = findDataType(dataType);
+    if (type == nullptr)
+        return; // a value of an unknown type cannot be written
+    const auto* row = std::ranges::find(kValueWriters, type->form, &ValueWriter::form);
+    row->write(writer, text);
 }
 
 } // namespace ovisto
