@@ -1,6 +1,7 @@
 #include "document/Directories.h"
 
 #include "common/text/Hex.h"
+#include "document/NodePaths.h"
 
 #include <algorithm>
 #include <iterator>
@@ -28,10 +29,10 @@ const ExifPart* exifPart(std::string_view element)
 
 const ExifPart* exifPartAt(std::string_view nodePath)
 {
-    constexpr std::string_view kExif = "/JPEG/Exif[@id='FFE1']";
-    if (!nodePath.starts_with(kExif))
+    if (!nodePath.starts_with(kExifPath))
         return nullptr;
-    const auto* row = std::ranges::find(kExifParts, nodePath.substr(kExif.size()), pathInExif);
+    nodePath.remove_prefix(std::string_view(kExifPath).size());
+    const auto* row = std::ranges::find(kExifParts, nodePath, pathInExif);
     return row != std::end(kExifParts) ? row : nullptr;
 }
 
@@ -51,7 +52,7 @@ XmlNode partNode(const XmlNode& exif, const ExifPart& part)
 
 std::string partPath(const ExifPart& part)
 {
-    return "/JPEG/Exif" + pathInExif(part);
+    return kAnyExifPath + pathInExif(part);
 }
 
 std::string entryPath(const ExifPart& directory, std::uint16_t tag)

@@ -4,6 +4,7 @@
 #include "document/Directories.h"
 #include "document/NodeCreation.h"
 #include "document/NodePath.h"
+#include "document/NodePaths.h"
 #include "document/TagDictionary.h"
 
 #include <algorithm>
@@ -37,7 +38,7 @@ XmlNode createNode(XmlDocument& document, const NodeChange& change, ErrorReporte
 /// Whether the image itself cannot be decoded without the node: it is required, and no part of the metadata.
 bool isPartOfImage(const XmlNode& entry)
 {
-    return protection(entry) == Protection::Required && !NodeXPath(entry).starts_with("/JPEG/Exif");
+    return protection(entry) == Protection::Required && !NodeXPath(entry).starts_with(kAnyExifPath);
 }
 
 } // namespace

@@ -5,7 +5,9 @@
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
 #include "document/DataType.h"
+#include "document/Directories.h"
 #include "document/NodePath.h"
+#include "document/NodePaths.h"
 #include "ui/ControlForm/OsProperties.h"
 
 #include <QCoreApplication>
@@ -65,14 +67,14 @@ std::vector<std::uint8_t> bytesOf(const std::string& hexadecimal)
 
 bool isThumbnail(const XmlNode& node)
 {
-    return node.name() == "THUM";
+    return node.name() == kThumbnailBytes;
 }
 
 int thumbnailOrientation(const XmlDocument& JpegDoc)
 {
     int orientation = 1;
     ErrorTrap trap;
-    for (const char* path : {"/JPEG/Exif/IFD[@id='0112']", "/JPEG/Exif/IFD1/IFD[@id='0112']"}) {
+    for (const char* path : {kAnyOrientationPath, kAnyThumbnailOrientationPath}) {
         if (const XmlNode node = JpegDoc.selectSingleNode(path))
             trap.run([&] { orientation = toLong(node.text()); });
     }

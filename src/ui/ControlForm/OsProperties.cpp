@@ -1,6 +1,7 @@
 #include "ui/ControlForm/OsProperties.h"
 
 #include "document/NodeCreation.h"
+#include "document/NodePaths.h"
 
 #include <cstddef>
 
@@ -11,20 +12,15 @@ namespace {
 struct Row {
     OsProperty property;
     XmlNode OsProperties::*node;
-    const char* path;           ///< in a document
-    const char* dictionaryPath; ///< of the entry that a missing node is made from
+    const char* path;
     bool lines;
 };
 
 constexpr Row kRows[] = {
-    {OsProperty::Title, &OsProperties::TitleNode, "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']",
-     "/JPEG/Exif/IFD[@id='9C9B']", false},
-    {OsProperty::Subject, &OsProperties::SubjectNode, "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9F']",
-     "/JPEG/Exif/IFD[@id='9C9F']", false},
-    {OsProperty::Comments, &OsProperties::CommentsNode, "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9C']",
-     "/JPEG/Exif/IFD[@id='9C9C']", true},
-    {OsProperty::Keywords, &OsProperties::KeywordsNode, "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9E']",
-     "/JPEG/Exif/IFD[@id='9C9E']", true},
+    {OsProperty::Title, &OsProperties::TitleNode, kTitlePath, false},
+    {OsProperty::Subject, &OsProperties::SubjectNode, kSubjectPath, false},
+    {OsProperty::Comments, &OsProperties::CommentsNode, kCommentsPath, true},
+    {OsProperty::Keywords, &OsProperties::KeywordsNode, kKeywordsPath, true},
 };
 
 constexpr const Row& rowOf(OsProperty property)
@@ -71,7 +67,7 @@ bool OsProperties::leave(OsProperty property, const std::string& boxText, XmlDoc
             return false;
         // Whichever of the four is created, its node is kept as that of the keywords. So a first title, subject or
         // comment has its node now, but its text only once the document was opened and the box was filled again.
-        KeywordsNode = CreateNode(JpegDoc, Merovel.entry(row.dictionaryPath), reporter);
+        KeywordsNode = CreateNode(JpegDoc, Merovel.entry(row.path), reporter);
         if (!KeywordsNode.parent())
             return false;
     }

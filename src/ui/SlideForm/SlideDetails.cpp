@@ -1,5 +1,6 @@
 #include "ui/SlideForm/SlideDetails.h"
 
+#include "document/NodePaths.h"
 #include "ui/App/Text.h"
 
 #include <QDate>
@@ -14,12 +15,9 @@ namespace ovisto {
 
 namespace {
 
-constexpr const char* kTitle = "/JPEG/Exif/IFD[@id='9C9B']";
-constexpr const char* kDates[] = {"/JPEG/Exif/IFDE/IFD[@id='9003']",  // taken
-                                  "/JPEG/Exif/IFDE/IFD[@id='9004']"}; // digitised
-constexpr const char* kThumbnailSize[] = {"/JPEG/Exif/IFD1/IFD[@id='0100']", "/JPEG/Exif/IFD1/IFD[@id='0101']"};
-constexpr const char* kPictureSize[] = {"/JPEG/Exif/IFDE/IFD[@id='A002']", "/JPEG/Exif/IFDE/IFD[@id='A003']"};
-constexpr const char* kCamera = "/JPEG/Exif/IFD[@id='0110']";
+constexpr const char* kDates[] = {kAnyDateTakenPath, kAnyDateDigitisedPath};
+constexpr const char* kThumbnailSize[] = {kAnyThumbnailWidthPath, kAnyThumbnailHeightPath};
+constexpr const char* kPictureSize[] = {kAnyPictureWidthPath, kAnyPictureHeightPath};
 
 constexpr int kDateLength = 10; // of "2004:05:06"
 
@@ -31,7 +29,7 @@ std::optional<QString> textOf(const XmlDocument& JpegDoc, const char* path)
 
 std::optional<QString> title(const XmlDocument& JpegDoc)
 {
-    const auto text = textOf(JpegDoc, kTitle);
+    const auto text = textOf(JpegDoc, kAnyTitlePath);
     return text ? std::optional(QStringLiteral("\"%1\"").arg(text->trimmed())) : std::nullopt;
 }
 
@@ -92,7 +90,7 @@ QString detailsLine(const XmlDocument& JpegDoc, const QLocale& locale)
 {
     QStringList parts;
     for (const auto& part : {title(JpegDoc), dateTaken(JpegDoc, locale), size(JpegDoc, kThumbnailSize),
-                             size(JpegDoc, kPictureSize), textOf(JpegDoc, kCamera)}) {
+                             size(JpegDoc, kPictureSize), textOf(JpegDoc, kAnyCameraModelPath)}) {
         if (part)
             parts.append(*part);
     }
