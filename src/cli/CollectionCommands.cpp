@@ -132,7 +132,7 @@ NodeChange changeOf(const CommandLine& line, const TagDictionary& dictionary)
         change.action = NodeAction::Add;
     ErrorTrap trap;
     trap.run([&] { change.entry = dictionary.entry(line.nodePath); });
-    if (!change.entry.isElement())
+    if (!change.entry)
         throw Error{kInvalidCall, "The tag dictionary has no node " + line.nodePath};
     if (const std::string reason = objection(change); !reason.empty())
         throw Error{kInvalidCall, line.nodePath + ": " + reason};

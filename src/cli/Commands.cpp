@@ -81,7 +81,7 @@ FileWork exportWork(const CommandLine& /*line*/)
 std::vector<std::string> imageParts(const XmlDocument& document)
 {
     std::vector<std::string> parts;
-    for (const XmlNode& node : document.documentElement().childElements()) {
+    for (const ConstXmlNode& node : document.documentElement().childElements()) {
         const std::string id = AttributeGet(node, "id");
         const bool isTable = node.name() == "APP1" && id < "FFE0"; // frames, tables, restart interval
         if (isTable || node.name() == "SOS")

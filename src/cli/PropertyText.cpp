@@ -9,7 +9,7 @@ namespace ovisto {
 namespace {
 
 /// The value on one line; of long byte values (thumbnails, tables) only the beginning and the size.
-std::string valueText(const XmlNode& node, int dataType)
+std::string valueText(const ConstXmlNode& node, int dataType)
 {
     constexpr std::size_t kMostDigits = 64;
     constexpr std::size_t kMostCharacters = 1000;

@@ -66,7 +66,7 @@ std::int64_t componentCount(const DataType& type, const std::string& text)
     }
 }
 
-int dataTypeOf(const XmlNode& node)
+int dataTypeOf(const ConstXmlNode& node)
 {
     return attributeToLong(AttributeGet(node, "d"));
 }

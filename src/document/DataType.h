@@ -52,7 +52,7 @@ std::int64_t componentCount(const DataType& type, const std::string& text);
 
 /// The number of a node's data type, 0 when it has none. Raises kTypeMismatch for a "d" that is no number, kOverflow
 /// for one that is too large.
-int dataTypeOf(const XmlNode& node);
+int dataTypeOf(const ConstXmlNode& node);
 
 /// The name of a data type for people; empty for a number without one.
 std::string_view dataTypeName(int number);

@@ -19,6 +19,12 @@ std::string pathInExif(const ExifPart& part)
     return pathInExif(*parent).append("/").append(part.element);
 }
 
+template <class Node> Node partBelow(Node exif, const ExifPart& part)
+{
+    const ExifPart* parent = exifPart(part.parent);
+    return parent != nullptr ? partBelow(exif, *parent).childElement(part.element) : exif;
+}
+
 } // namespace
 
 const ExifPart* exifPart(std::string_view element)
@@ -44,10 +50,14 @@ const ExifPart* bytesCountedBy(int tag)
     return row != std::end(kExifParts) ? row : nullptr;
 }
 
-XmlNode partNode(const XmlNode& exif, const ExifPart& part)
+XmlNode partNode(XmlNode exif, const ExifPart& part)
 {
-    const ExifPart* parent = exifPart(part.parent);
-    return parent != nullptr ? partNode(exif, *parent).childElement(part.element) : exif;
+    return partBelow(exif, part);
+}
+
+ConstXmlNode partNode(ConstXmlNode exif, const ExifPart& part)
+{
+    return partBelow(exif, part);
 }
 
 std::string partPath(const ExifPart& part)

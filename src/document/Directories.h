@@ -85,7 +85,8 @@ const ExifPart* exifPartAt(std::string_view nodePath);
 const ExifPart* bytesCountedBy(int tag);
 
 /// The node of a part below `exif`, an Exif element, or no node.
-XmlNode partNode(const XmlNode& exif, const ExifPart& part);
+XmlNode partNode(XmlNode exif, const ExifPart& part);
+ConstXmlNode partNode(ConstXmlNode exif, const ExifPart& part);
 
 /// A path that selects the part in the first Exif element, whatever its id.
 std::string partPath(const ExifPart& part);

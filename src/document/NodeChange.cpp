@@ -3,9 +3,7 @@
 #include "common/FirstReport.h"
 #include "document/Directories.h"
 #include "document/NodeCreation.h"
-#include "document/NodePath.h"
 #include "document/NodePaths.h"
-#include "document/TagDictionary.h"
 
 #include <algorithm>
 #include <iterator>
@@ -36,27 +34,27 @@ XmlNode createNode(XmlDocument& document, const NodeChange& change, ErrorReporte
 }
 
 /// Whether the image itself cannot be decoded without the node: it is required, and no part of the metadata.
-bool isPartOfImage(const XmlNode& entry)
+bool isPartOfImage(const DictionaryEntry& entry)
 {
-    return protection(entry) == Protection::Required && !NodeXPath(entry).starts_with(kAnyExifPath);
+    return entry.protection() == Protection::Required && !entry.path().starts_with(kAnyExifPath);
 }
 
 } // namespace
 
 std::string objection(const NodeChange& change)
 {
-    if (change.action == NodeAction::Set && AttributeGet(change.entry, "d").empty())
+    if (change.action == NodeAction::Set && !change.entry.hasDataType())
         return "I don't know what type of data this node requires - can't set its value.";
     if (isPartOfImage(change.entry))
         return "The image cannot be shown without this node as it is.";
-    if (change.action == NodeAction::Delete && protection(change.entry) == Protection::Required)
+    if (change.action == NodeAction::Delete && change.entry.protection() == Protection::Required)
         return "This node is required by others and cannot be deleted by itself.";
     return {};
 }
 
 bool applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)
 {
-    const std::string path = NodeXPath(change.entry);
+    const std::string path = change.entry.path();
     XmlNode node = document.selectSingleNode(path);
     if (change.action == NodeAction::Delete) {
         if (!node)

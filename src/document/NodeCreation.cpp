@@ -11,13 +11,13 @@ namespace {
 
 /// Creates an entry of `directory`, without which its part would not be found in the file, where it is missing. It is
 /// found in any Exif element.
-void createCompanion(XmlDocument& document, const XmlNode& dictionary, const ExifPart& directory,
+void createCompanion(XmlDocument& document, const ConstXmlNode& dictionary, const ExifPart& directory,
                      const EntryText& companion, ErrorReporter& reporter)
 {
     const std::string path = entryPath(directory, companion.tag);
     if (document.selectSingleNode(path))
         return;
-    CreateNode(document, dictionary.selectSingleNode(path), reporter).setText(companion.text);
+    CreateNode(document, DictionaryEntry(dictionary.selectSingleNode(path)), reporter).setText(companion.text);
 }
 
 /// The entries that a part is created with. The offset and the length are placeholders that the layout overwrites.
@@ -30,22 +30,22 @@ std::vector<EntryText> companionsOf(const ExifPart& part)
 
 /// The element below `parent` that an element made from `templateNode` has to stand before: the first one that has the
 /// name of a later sibling in the dictionary. Names alone count, so a new IFD entry comes before all others.
-XmlNode nextSibling(const XmlNode& parent, const XmlNode& templateNode)
+XmlNode nextSibling(XmlNode parent, const ConstXmlNode& templateNode)
 {
-    const std::vector<XmlNode> siblings = templateNode.parent().childElements();
-    auto sibling = std::ranges::find(siblings, templateNode.baseName(), &XmlNode::baseName);
+    const std::vector<ConstXmlNode> siblings = templateNode.parent().childElements();
+    auto sibling = std::ranges::find(siblings, templateNode.baseName(), &ConstXmlNode::baseName);
     if (sibling == siblings.end())
         return {};
     const std::vector<XmlNode> existing = parent.childElements();
     while (++sibling != siblings.end()) {
-        const auto next = std::ranges::find(existing, sibling->baseName(), &XmlNode::baseName);
+        const auto next = std::ranges::find(existing, sibling->baseName(), &ConstXmlNode::baseName);
         if (next != existing.end())
             return *next;
     }
     return {};
 }
 
-XmlNode createElement(const XmlDocument& document, const XmlNode& templateNode)
+XmlNode createElement(XmlDocument& document, const ConstXmlNode& templateNode)
 {
     XmlNode element = document.node().createElement(templateNode.baseName());
     const std::string id = AttributeGet(templateNode, "id");
@@ -56,7 +56,7 @@ XmlNode createElement(const XmlDocument& document, const XmlNode& templateNode)
     return element;
 }
 
-void insert(XmlNode parent, const XmlNode& element, const XmlNode& next)
+void insert(XmlNode parent, XmlNode element, XmlNode next)
 {
     if (!parent)
         throw systemError(kObjectNotSet);
@@ -68,13 +68,14 @@ void insert(XmlNode parent, const XmlNode& element, const XmlNode& next)
 
 } // namespace
 
-XmlNode CreateNode(XmlDocument& document, const XmlNode& templateNode, ErrorReporter& reporter)
+XmlNode CreateNode(XmlDocument& document, const DictionaryEntry& entry, ErrorReporter& reporter)
 {
-    const std::string path = NodeXPath(templateNode);
+    const std::string path = entry.path();
+    const ConstXmlNode templateNode = entry.node();
     ErrorTrap trap;
     XmlNode element;
     trap.run([&] {
-        if (!templateNode)
+        if (!entry)
             throw systemError(kObjectNotSet);
     });
     if (const ExifPart* part = exifPartAt(path)) {
@@ -83,12 +84,12 @@ XmlNode CreateNode(XmlDocument& document, const XmlNode& templateNode, ErrorRepo
             trap.run([&] { createCompanion(document, templateNode.document(), directory, companion, reporter); });
         }
     }
-    if (templateNode) {
+    if (entry) {
         trap.run([&] {
-            const XmlNode parentTemplate = templateNode.parent();
-            XmlNode parent = document.selectSingleNode(NodeXPath(parentTemplate));
+            const DictionaryEntry parentEntry(templateNode.parent());
+            XmlNode parent = document.selectSingleNode(parentEntry.path());
             if (!parent)
-                parent = CreateNode(document, parentTemplate, reporter);
+                parent = CreateNode(document, parentEntry, reporter);
             element = createElement(document, templateNode);
             insert(parent, element, nextSibling(parent, templateNode));
         });

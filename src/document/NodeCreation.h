@@ -2,14 +2,15 @@
 
 #include "common/ErrorReport.h"
 #include "common/xml/XmlDocument.h"
+#include "document/TagDictionary.h"
 
 namespace ovisto {
 
-/// Makes in `document` the element that `templateNode`, an entry of the tag dictionary, describes, and returns it. What
-/// it needs is made as well: the elements above it, and for a directory, the maker note and the thumbnail the entries
-/// that point to them. The order of the dictionary decides where it stands among its siblings.
-/// An existing element of the same path is not looked for: the caller does that. On failure `reporter` is told, and the
-/// element may be missing.
-XmlNode CreateNode(XmlDocument& document, const XmlNode& templateNode, ErrorReporter& reporter);
+/// Creates in `document` the element that `entry` describes, and returns it. What it needs is created as well: the
+/// elements above it, and for a part of an Exif element the entries that point to it. The order of the dictionary
+/// decides where it stands among its siblings.
+/// An existing element of the same path is not looked for: the caller does that. A failure is reported; the element may
+/// then be missing.
+XmlNode CreateNode(XmlDocument& document, const DictionaryEntry& entry, ErrorReporter& reporter);
 
 } // namespace ovisto

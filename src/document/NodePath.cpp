@@ -2,7 +2,7 @@
 
 namespace ovisto {
 
-std::string AttributeGet(const XmlNode& node, const char* name)
+std::string AttributeGet(const ConstXmlNode& node, const char* name)
 {
     return node.attribute(name);
 }
@@ -15,10 +15,10 @@ void AttributeSet(XmlNode node, const char* name, const std::string& value)
         node.setAttribute(name, value);
 }
 
-std::string NodeXPath(const XmlNode& node)
+std::string NodeXPath(const ConstXmlNode& node)
 {
     std::string path;
-    for (XmlNode level = node; level && level.name() != "#document"; level = level.parent()) {
+    for (ConstXmlNode level = node; level && level.name() != "#document"; level = level.parent()) {
         if (level.name() == "#text")
             continue;
         const std::string id = AttributeGet(level, "id");

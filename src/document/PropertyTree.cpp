@@ -8,30 +8,41 @@ namespace ovisto {
 
 namespace {
 
-void appendItems(std::vector<PropertyItem>& items, const XmlNode& node, const TagDictionary& dictionary, bool technical,
+template <class Node>
+void appendItems(std::vector<ShownNode<Node>>& items, Node node, const TagDictionary& dictionary, bool technical,
                  int depth)
 {
     const std::string path = NodeXPath(node);
-    const XmlNode entry = dictionary.entry(path);
-    const Visibility visible = visibility(entry);
-    if (visible == Visibility::Hidden || (visible == Visibility::Technical && !technical))
+    const DictionaryEntry entry = dictionary.entry(path);
+    const Visibility visibility = entry.visibility();
+    if (visibility == Visibility::Hidden || (visibility == Visibility::Technical && !technical))
         return;
-    items.push_back({node, entry, path, AttributeGet(entry ? entry : node, entry ? "label" : "id"), depth});
-    for (const XmlNode& child : node.childElements())
+    items.push_back({node, entry, path, entry ? entry.label() : AttributeGet(node, "id"), depth});
+    for (const Node& child : node.childElements())
         appendItems(items, child, dictionary, technical, depth + 1);
 }
 
-} // namespace
-
-std::vector<PropertyItem> propertyTree(const XmlDocument& document, const TagDictionary& dictionary, bool technical)
+template <class Node> std::vector<ShownNode<Node>> itemsFrom(Node root, const TagDictionary& dictionary, bool technical)
 {
-    std::vector<PropertyItem> items;
-    if (const XmlNode root = document.documentElement())
+    std::vector<ShownNode<Node>> items;
+    if (root)
         appendItems(items, root, dictionary, technical, 0);
     return items;
 }
 
-int shownDataType(const XmlNode& node)
+} // namespace
+
+std::vector<ShownNode<XmlNode>> propertyTree(XmlDocument& document, const TagDictionary& dictionary, bool technical)
+{
+    return itemsFrom(document.documentElement(), dictionary, technical);
+}
+
+std::vector<PropertyItem> propertyTree(const XmlDocument& document, const TagDictionary& dictionary, bool technical)
+{
+    return itemsFrom(document.documentElement(), dictionary, technical);
+}
+
+int shownDataType(const ConstXmlNode& node)
 {
     int dataType = 0;
     ErrorTrap trap;

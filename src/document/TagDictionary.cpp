@@ -1,37 +1,76 @@
 #include "document/TagDictionary.h"
 
 #include "common/xml/XmlLoad.h"
+#include "document/DataType.h"
 #include "document/NodePath.h"
+
+#include <utility>
 
 namespace ovisto {
 
-TagDictionary::TagDictionary(const std::string& path)
+std::string DictionaryEntry::label() const
 {
-    XMLLoad(m_document, path);
-    for (const XmlNode& entry : m_document.selectNodes("//*"))
-        m_entries.emplace(NodeXPath(entry), entry);
+    return AttributeGet(m_node, "label");
 }
 
-XmlNode TagDictionary::entry(const std::string& nodePath) const
+std::string DictionaryEntry::help() const
 {
-    const auto found = m_entries.find(nodePath);
-    return found != m_entries.end() ? found->second : m_document.selectSingleNode(nodePath);
+    return AttributeGet(m_node, "help");
 }
 
-Visibility visibility(const XmlNode& entry)
+Visibility DictionaryEntry::visibility() const
 {
-    const std::string text = AttributeGet(entry, "vis");
+    const std::string text = AttributeGet(m_node, "vis");
     if (text == "2")
         return Visibility::Hidden;
     return text == "1" ? Visibility::Technical : Visibility::Shown;
 }
 
-Protection protection(const XmlNode& entry)
+Protection DictionaryEntry::protection() const
 {
-    const std::string text = AttributeGet(entry, "prot");
+    const std::string text = AttributeGet(m_node, "prot");
     if (text == "2")
         return Protection::Required;
     return text == "1" ? Protection::Protected : Protection::Free;
+}
+
+bool DictionaryEntry::hasDataType() const
+{
+    return !AttributeGet(m_node, "d").empty();
+}
+
+int DictionaryEntry::dataType() const
+{
+    return dataTypeOf(m_node);
+}
+
+std::string DictionaryEntry::path() const
+{
+    return NodeXPath(m_node);
+}
+
+TagDictionary::TagDictionary(const std::string& path)
+{
+    XMLLoad(m_document, path);
+    for (const ConstXmlNode& node : std::as_const(m_document).selectNodes("//*"))
+        m_entries.emplace(NodeXPath(node), node);
+}
+
+DictionaryEntry TagDictionary::entry(const std::string& nodePath) const
+{
+    const auto found = m_entries.find(nodePath);
+    if (found != m_entries.end())
+        return found->second;
+    const ConstXmlNode selected = m_document.selectSingleNode(nodePath);
+    return selected.isElement() ? DictionaryEntry(selected) : DictionaryEntry();
+}
+
+std::vector<DictionaryEntry> TagDictionary::entries(bool technical) const
+{
+    std::vector<DictionaryEntry> entries;
+    for (const ConstXmlNode& node : m_document.selectNodes(technical ? "//*[not(@vis='2')]" : "//*[not(@vis>'0')]"))
+        entries.emplace_back(node);
+    return entries;
 }
 
 } // namespace ovisto

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 namespace ovisto {
 
@@ -13,26 +14,57 @@ enum class Visibility { Shown, Technical, Hidden };
 /// Whether a node's value may be changed (Free only) and the node be deleted (not when Required).
 enum class Protection { Free, Protected, Required };
 
-/// What is known of the nodes of metadata documents: label, help, data type, visibility and protection. The dictionary
-/// mirrors a document, so a node's path leads to its entry.
+/// What the tag dictionary says of a node, or no entry. It is valid as long as the dictionary lives. No entry has no
+/// texts and no data type, and counts as Shown and Free.
+class DictionaryEntry {
+public:
+    DictionaryEntry() = default;
+    /// The entry of a dictionary that `node` is; no node is no entry.
+    explicit DictionaryEntry(const ConstXmlNode& node) : m_node(node) {}
+
+    explicit operator bool() const { return static_cast<bool>(m_node); }
+    bool operator==(const DictionaryEntry&) const = default;
+
+    /// The caption for people, in UTF-8.
+    std::string label() const;
+    /// What the value means, in UTF-8, for people.
+    std::string help() const;
+    Visibility visibility() const;
+    Protection protection() const;
+
+    /// Whether the node may have a value; a directory has none.
+    bool hasDataType() const;
+    /// The number of the data type that the node is created with, 0 without one. Raises what dataTypeOf() raises.
+    int dataType() const;
+
+    /// The path of the node in a metadata document, as NodeXPath() writes it.
+    std::string path() const;
+    /// The element of the dictionary.
+    ConstXmlNode node() const { return m_node; }
+
+private:
+    ConstXmlNode m_node;
+};
+
+/// What is known of the nodes of metadata documents. The dictionary mirrors a document, so a node's path leads to its
+/// entry.
 class TagDictionary {
 public:
     /// Loads the dictionary file. Raises what XMLLoad() raises.
     explicit TagDictionary(const std::string& path);
 
-    /// The entry for a node path, as NodeXPath() writes it or any other that selects it; or no node. Raises
-    /// kInvalidCall for what is no path.
-    XmlNode entry(const std::string& nodePath) const;
+    /// The entry for a node path, as NodeXPath() writes it or any other that selects it; no entry where it selects
+    /// no element. Raises kInvalidCall for what is no path.
+    DictionaryEntry entry(const std::string& nodePath) const;
+
+    /// The entries in the order of the dictionary: with `technical` all but the hidden ones, else the shown ones.
+    std::vector<DictionaryEntry> entries(bool technical) const;
 
     const XmlDocument& document() const { return m_document; }
 
 private:
     XmlDocument m_document;
-    std::unordered_map<std::string, XmlNode> m_entries; // by the path that NodeXPath() writes
+    std::unordered_map<std::string, DictionaryEntry> m_entries; // by the path that NodeXPath() writes
 };
-
-// No entry is shown, and free.
-Visibility visibility(const XmlNode& entry);
-Protection protection(const XmlNode& entry);
 
 } // namespace ovisto

@@ -21,27 +21,27 @@ constexpr std::int64_t kEntrySize = 12;
 constexpr std::int64_t kDirectoryFrameSize = 6; // the count before the entries, the link behind them
 
 /// The entry of `directory` that has this tag.
-XmlNode entryOf(const XmlNode& directory, std::uint16_t tag)
+XmlNode entryOf(XmlNode directory, std::uint16_t tag)
 {
     const std::vector<XmlNode> entries = directory.childElements("IFD");
-    const auto found =
-        std::ranges::find(entries, hexNumber(tag, 4), [](const XmlNode& entry) { return AttributeGet(entry, "id"); });
+    const auto found = std::ranges::find(entries, hexNumber(tag, 4),
+                                         [](const ConstXmlNode& entry) { return AttributeGet(entry, "id"); });
     return found != entries.end() ? *found : XmlNode();
 }
 
 /// The entry of this tag in the directory that points to `part`.
-XmlNode pointingEntry(const XmlNode& exif, const ExifPart& part, std::uint16_t tag)
+XmlNode pointingEntry(XmlNode exif, const ExifPart& part, std::uint16_t tag)
 {
     return entryOf(partNode(exif, *exifPart(part.pointedFrom)), tag);
 }
 
 /// Bytes that the hexadecimal text of an element stands for.
-std::int64_t hexLength(const XmlNode& element)
+std::int64_t hexLength(const ConstXmlNode& element)
 {
     return element ? hexByteCount(element.text()) : 0;
 }
 
-int tagOf(const XmlNode& entry)
+int tagOf(const ConstXmlNode& entry)
 {
     return Hex4ToLong(AttributeGet(entry, "id"));
 }
@@ -55,7 +55,7 @@ void advance(std::int64_t& pos, std::int64_t bytes)
 }
 
 /// Gives every entry below `exif` its component count and says whether its value stands inside.
-void countComponents(const XmlNode& exif)
+void countComponents(XmlNode exif)
 {
     std::string inside = "0"; // an entry of an unknown type takes over that of the one before
     for (XmlNode entry : exif.descendants("IFD")) {
@@ -79,7 +79,7 @@ void countComponents(const XmlNode& exif)
     }
 }
 
-std::int64_t sizeOutside(const XmlNode& entry)
+std::int64_t sizeOutside(const ConstXmlNode& entry)
 {
     const int tag = tagOf(entry);
     if (bytesCountedBy(tag) != nullptr || isFourByteTag(tag))
@@ -89,7 +89,7 @@ std::int64_t sizeOutside(const XmlNode& entry)
 }
 
 /// Lays out a directory, if it is there, and points at it what should; to 0 where it is not.
-void layOutDirectory(std::int64_t& pos, const XmlNode& exif, const ExifPart& part, ErrorReporter& reporter)
+void layOutDirectory(std::int64_t& pos, XmlNode exif, const ExifPart& part, ErrorReporter& reporter)
 {
     const XmlNode directory = partNode(exif, part);
     const std::string offset = directory ? std::to_string(pos) : "0";
@@ -102,7 +102,7 @@ void layOutDirectory(std::int64_t& pos, const XmlNode& exif, const ExifPart& par
 }
 
 /// Bytes without an entry that points to them are placed all the same, so that they are not lost.
-void layOutCountedBytes(std::int64_t& pos, const XmlNode& exif, const ExifPart& part, ErrorReporter& reporter)
+void layOutCountedBytes(std::int64_t& pos, XmlNode exif, const ExifPart& part, ErrorReporter& reporter)
 {
     const XmlNode bytes = partNode(exif, part);
     pointingEntry(exif, part, part.pointer.offset).setText(bytes ? std::to_string(pos) : "0");
@@ -116,7 +116,7 @@ void layOutCountedBytes(std::int64_t& pos, const XmlNode& exif, const ExifPart& 
 }
 
 /// Bytes whose number stands in an entry of its own.
-void layOutMeasuredBytes(std::int64_t& pos, const XmlNode& exif, const ExifPart& part)
+void layOutMeasuredBytes(std::int64_t& pos, XmlNode exif, const ExifPart& part)
 {
     const XmlNode bytes = partNode(exif, part);
     const std::int64_t length = hexLength(bytes);
@@ -132,7 +132,7 @@ void layOutMeasuredBytes(std::int64_t& pos, const XmlNode& exif, const ExifPart&
     advance(pos, length);
 }
 
-void layOutPart(std::int64_t& pos, const XmlNode& exif, const ExifPart& part, ErrorReporter& reporter)
+void layOutPart(std::int64_t& pos, XmlNode exif, const ExifPart& part, ErrorReporter& reporter)
 {
     if (part.kind == PartKind::Directory)
         layOutDirectory(pos, exif, part, reporter);
@@ -144,7 +144,7 @@ void layOutPart(std::int64_t& pos, const XmlNode& exif, const ExifPart& part, Er
 
 } // namespace
 
-std::int64_t layOutExif(const XmlNode& exif, ErrorReporter& reporter)
+std::int64_t layOutExif(XmlNode exif, ErrorReporter& reporter)
 {
     reported(reporter, "Exif section - calculate data length", [&] { countComponents(exif); });
 

@@ -17,7 +17,7 @@ namespace ovisto {
 
 /// Lays out `exif`, an Exif element. Returns the size of its TIFF structure in bytes. Errors are reported, with what
 /// could not be done, and raised.
-std::int64_t layOutExif(const XmlNode& exif, ErrorReporter& reporter);
+std::int64_t layOutExif(XmlNode exif, ErrorReporter& reporter);
 
 /// Gives `directory` the offset `pos`, and each of its values outside theirs. Moves `pos` behind all that. Reports and
 /// raises errors.

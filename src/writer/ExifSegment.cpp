@@ -70,7 +70,7 @@ constexpr ValueWriter kValueWriters[] = {
 };
 
 /// Writes the value of an entry. What cannot be written is reported with the value, and raised.
-void writeEntryValue(SegmentWriter& writer, const XmlNode& entry, int dataType)
+void writeEntryValue(SegmentWriter& writer, const ConstXmlNode& entry, int dataType)
 {
     const std::string text = entry.text();
     reported(
@@ -78,12 +78,12 @@ void writeEntryValue(SegmentWriter& writer, const XmlNode& entry, int dataType)
         [&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
 }
 
-bool standsInside(const XmlNode& entry)
+bool standsInside(const ConstXmlNode& entry)
 {
     return AttributeGet(entry, "s") == "1";
 }
 
-void writePart(SegmentWriter& writer, const ExifPart& part, const XmlNode& node)
+void writePart(SegmentWriter& writer, const ExifPart& part, const ConstXmlNode& node)
 {
     if (part.kind == PartKind::Directory)
         WriteIFD(writer, node);
@@ -121,11 +121,11 @@ void WriteExif(SegmentWriter& writer, XmlNode exif)
     trap.raise();
 }
 
-void WriteIFD(SegmentWriter& writer, const XmlNode& directory)
+void WriteIFD(SegmentWriter& writer, const ConstXmlNode& directory)
 {
-    const std::vector<XmlNode> entries = directory.childElements("IFD");
+    const std::vector<ConstXmlNode> entries = directory.childElements("IFD");
     writer.WriteInteger(static_cast<std::int64_t>(entries.size()));
-    for (const XmlNode& entry : entries) {
+    for (const ConstXmlNode& entry : entries) {
         const int dataType = dataTypeOf(entry);
         writer.WriteInteger(Hex4ToLong(AttributeGet(entry, "id")));
         writer.WriteInteger(dataType == kUnicodeString ? kByte : dataType); // in the file it is an array of bytes
@@ -136,7 +136,7 @@ void WriteIFD(SegmentWriter& writer, const XmlNode& directory)
             writer.WriteLong(attributeToLong(AttributeGet(entry, "o")));
     }
     writer.WriteLong(attributeToLong(AttributeGet(directory, "lo")));
-    for (const XmlNode& entry : entries) {
+    for (const ConstXmlNode& entry : entries) {
         if (!standsInside(entry))
             writeEntryValue(writer, entry, dataTypeOf(entry));
     }

@@ -13,7 +13,7 @@ namespace ovisto {
 void WriteExif(SegmentWriter& writer, XmlNode exif);
 
 /// Writes the entries of `directory`, laid out before, the offset of the next directory and the values outside.
-void WriteIFD(SegmentWriter& writer, const XmlNode& directory);
+void WriteIFD(SegmentWriter& writer, const ConstXmlNode& directory);
 
 /// Writes the bytes of a value: `dataType` is the attribute "d", `id` the tag in hexadecimal. Numbers are separated by
 /// commas, the parts of a fraction by a stroke.

@@ -23,7 +23,7 @@ std::string app1Text(const XmlNode& element)
 {
     std::string text;
     bool hasCData = false;
-    for (const XmlNode& child : element.children()) {
+    for (const ConstXmlNode& child : element.children()) {
         if (!child.isCData())
             continue;
         hasCData = true;
@@ -82,12 +82,12 @@ constexpr ElementWriter kElementWriters[] = {
 /// what a reader says of the file as it is now.
 void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& to)
 {
-    const std::vector<XmlNode> images = document.node().childElement("JPEG").childElements("IMG");
+    const std::vector<ConstXmlNode> images = document.node().childElement("JPEG").childElements("IMG");
     if (images.empty())
         throw systemError(kObjectNotSet);
     if (images.size() > 1)
         throw Error{kInvalidCall, "The document has more than one IMG element"};
-    const XmlNode& image = images.front();
+    const ConstXmlNode& image = images.front();
     const auto place = imagePlace(from);
     if (!place || AttributeGet(image, "offset") != numberText(place->offset) ||
         AttributeGet(image, "length") != numberText(place->length))

@@ -93,7 +93,7 @@ TEST(NodeChange, DoesNotWriteWhatCouldNotBeMadeInFull)
     XmlDocument poor; // a dictionary without the pointer to IFDE
     ASSERT_FALSE(poor.loadText("<JPEG><Exif id='FFE1'><IFDE><IFD id='9003' d='2'/></IFDE></Exif></JPEG>"));
     RecordingReporter reporter;
-    changeFile(path, {NodeAction::Set, poor.selectSingleNode("//IFD"), "x"}, reporter);
+    changeFile(path, {NodeAction::Set, DictionaryEntry(poor.selectSingleNode("//IFD")), "x"}, reporter);
     EXPECT_EQ(contentOf(path), before);
     EXPECT_EQ(reporter.contexts.size(), 1U);
 }

@@ -20,7 +20,7 @@ std::string created(const std::string& documentText, const std::string& path)
 {
     XmlDocument document = documentOf(documentText);
     RecordingReporter reporter;
-    const XmlNode node = CreateNode(document, dictionary().entry(path), reporter);
+    XmlNode node = CreateNode(document, dictionary().entry(path), reporter);
     EXPECT_TRUE(node.parent());
     EXPECT_TRUE(reporter.contexts.empty());
     const std::string xml = document.xml();
@@ -84,10 +84,10 @@ TEST(CreateNode, ReportsWhatTheDictionaryLacks)
     ASSERT_FALSE(poor.loadText("<JPEG><Exif id='FFE1'><IFDE/></Exif></JPEG>"));
     XmlDocument document = documentOf("<JPEG/>");
     RecordingReporter reporter;
-    EXPECT_TRUE(CreateNode(document, poor.selectSingleNode("//IFDE"), reporter)) << "made all the same";
+    EXPECT_TRUE(CreateNode(document, DictionaryEntry(poor.selectSingleNode("//IFDE")), reporter)) << "made all the same";
     EXPECT_EQ(reporter.contexts, std::vector<std::string>{"Create node failed "}) << "of the pointer entry";
     reporter.contexts.clear();
-    EXPECT_FALSE(CreateNode(document, XmlNode(), reporter));
+    EXPECT_FALSE(CreateNode(document, DictionaryEntry(), reporter));
     EXPECT_EQ(reporter.contexts, std::vector<std::string>{"Create node failed "});
 }
 

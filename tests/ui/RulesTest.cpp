@@ -75,7 +75,8 @@ private Q_SLOTS:
         QCOMPARE(loadLeaves(JpegDoc, Merovel, false).osProperties.boxText(OsProperty::Title), std::string("Sunset"));
 
         ErrorTrap trap;
-        trap.run([&] { loadLeaves(XmlDocument(), Merovel, false); });
+        XmlDocument nothing;
+        trap.run([&] { loadLeaves(nothing, Merovel, false); });
         QCOMPARE(trap.take().number, kObjectNotSet);
     }
 

@@ -260,14 +260,24 @@ std::optional<XmlParseError> XmlDocument::loadStyleSheet(const std::string& path
     return std::nullopt;
 }
 
-XmlNode XmlDocument::node() const
+XmlNode XmlDocument::node()
 {
     return XmlNode(m_content ? reinterpret_cast<xmlNode*>(m_content->doc.get()) : nullptr);
 }
 
-XmlNode XmlDocument::documentElement() const
+ConstXmlNode XmlDocument::node() const
+{
+    return ConstXmlNode(m_content ? reinterpret_cast<xmlNode*>(m_content->doc.get()) : nullptr);
+}
+
+XmlNode XmlDocument::documentElement()
 {
     return XmlNode(m_content ? xmlDocGetRootElement(m_content->doc.get()) : nullptr);
+}
+
+ConstXmlNode XmlDocument::documentElement() const
+{
+    return ConstXmlNode(m_content ? xmlDocGetRootElement(m_content->doc.get()) : nullptr);
 }
 
 std::string XmlDocument::xml() const

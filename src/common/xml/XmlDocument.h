@@ -26,8 +26,9 @@ enum class Validation { Off, On };
 /// Whether white space between elements counts as text.
 enum class WhiteSpace { Preserve, Strip };
 
-/// An XML document in memory. External entities are read for style sheets only, and nothing is fetched from a network;
-/// what a document type declaration names is read from regular local files where validation asks for it.
+/// An XML document in memory. Its nodes can be changed by way of one that is not const only. External entities are read
+/// for style sheets only, and nothing is fetched from a network; what a document type declaration names is read from
+/// regular local files where validation asks for it.
 class XmlDocument {
 public:
     XmlDocument();
@@ -48,11 +49,15 @@ public:
     std::optional<XmlParseError> loadStyleSheet(const std::string& path, FileKind kind);
 
     /// The document node, above the root element. No node when nothing is loaded.
-    XmlNode node() const;
-    XmlNode documentElement() const;
+    XmlNode node();
+    ConstXmlNode node() const;
+    XmlNode documentElement();
+    ConstXmlNode documentElement() const;
 
-    XmlNode selectSingleNode(const std::string& xpath) const { return node().selectSingleNode(xpath); }
-    std::vector<XmlNode> selectNodes(const std::string& xpath) const { return node().selectNodes(xpath); }
+    XmlNode selectSingleNode(const std::string& xpath) { return node().selectSingleNode(xpath); }
+    ConstXmlNode selectSingleNode(const std::string& xpath) const { return node().selectSingleNode(xpath); }
+    std::vector<XmlNode> selectNodes(const std::string& xpath) { return node().selectNodes(xpath); }
+    std::vector<ConstXmlNode> selectNodes(const std::string& xpath) const { return node().selectNodes(xpath); }
 
     /// The document as XML text in UTF-8, with an XML declaration only where it was loaded with one.
     std::string xml() const;

@@ -90,9 +90,90 @@ xmlXPathContext& threadContext()
     return *context;
 }
 
+// The nodes reached from one, for both kinds of handles.
+
+template <class Node> std::vector<Node> childNodes(const xmlNode* node)
+{
+    std::vector<Node> nodes;
+    for (xmlNode* child = node != nullptr ? node->children : nullptr; child != nullptr; child = child->next)
+        nodes.emplace_back(child);
+    return nodes;
+}
+
+template <class Node> std::vector<Node> elementsBelow(const xmlNode* node)
+{
+    std::vector<Node> elements = childNodes<Node>(node);
+    std::erase_if(elements, [](const Node& child) { return !child.isElement(); });
+    return elements;
+}
+
+template <class Node> std::vector<Node> elementsBelow(const xmlNode* node, std::string_view name)
+{
+    std::vector<Node> elements;
+    for (xmlNode* child = node != nullptr ? node->children : nullptr; child != nullptr; child = child->next) {
+        if (isNamed(child, name))
+            elements.emplace_back(child);
+    }
+    return elements;
+}
+
+xmlNode* firstElementBelow(const xmlNode* node, std::string_view name)
+{
+    xmlNode* child = node != nullptr ? node->children : nullptr;
+    while (child != nullptr && !isNamed(child, name))
+        child = child->next;
+    return child;
+}
+
+template <class Node> std::vector<Node> allElementsBelow(const xmlNode* top, std::string_view name)
+{
+    std::vector<Node> elements;
+    for (xmlNode* node = top != nullptr ? top->children : nullptr; node != nullptr; node = nextBelow(node, top)) {
+        if (isNamed(node, name))
+            elements.emplace_back(node);
+    }
+    return elements;
+}
+
+xmlNode* parentOf(const xmlNode* node)
+{
+    return node != nullptr ? node->parent : nullptr;
+}
+
+xmlNode* documentOf(const xmlNode* node)
+{
+    return node != nullptr ? reinterpret_cast<xmlNode*>(node->doc) : nullptr;
+}
+
+template <class Node> std::vector<Node> selectedNodes(xmlNode* from, const std::string& xpath)
+{
+    if (from == nullptr)
+        return {};
+    xmlXPathContext& context = threadContext();
+    context.doc = from->doc;
+    context.node = from;
+    const XmlPtr<xmlXPathObject> found(xmlXPathEval(xmlText(xpath.c_str()), &context));
+    if (!found || found->type != XPATH_NODESET)
+        throw Error{kInvalidCall, "Not a valid path: " + xpath};
+    std::vector<Node> nodes;
+    nodes.reserve(static_cast<std::size_t>(xmlXPathNodeSetGetLength(found->nodesetval)));
+    for (int i = 0; i < xmlXPathNodeSetGetLength(found->nodesetval); ++i) {
+        xmlNode* node = xmlXPathNodeSetItem(found->nodesetval, i);
+        if (node->type != XML_NAMESPACE_DECL) // those belong to the selection and go with it
+            nodes.emplace_back(node);
+    }
+    return nodes;
+}
+
+template <class Node> Node firstSelected(xmlNode* from, const std::string& xpath)
+{
+    const std::vector<Node> nodes = selectedNodes<Node>(from, xpath);
+    return nodes.empty() ? Node() : nodes.front();
+}
+
 } // namespace
 
-std::string XmlNode::name() const
+std::string ConstXmlNode::name() const
 {
     if (m_node == nullptr)
         return {};
@@ -113,41 +194,29 @@ std::string XmlNode::name() const
     return toString(m_node->ns->prefix) + ":" + toString(m_node->name);
 }
 
-std::string XmlNode::baseName() const
+std::string ConstXmlNode::baseName() const
 {
     return isElement() ? toString(m_node->name) : std::string();
 }
 
-bool XmlNode::isElement() const
+bool ConstXmlNode::isElement() const
 {
     return m_node != nullptr && m_node->type == XML_ELEMENT_NODE;
 }
 
-bool XmlNode::isCData() const
+bool ConstXmlNode::isCData() const
 {
     return m_node != nullptr && m_node->type == XML_CDATA_SECTION_NODE;
 }
 
-std::string XmlNode::text() const
+std::string ConstXmlNode::text() const
 {
     if (const xmlChar* content = isElement() ? onlyText(m_node->children) : nullptr)
         return toString(content);
     return toString(XmlPtr<xmlChar>(m_node != nullptr ? xmlNodeGetContent(m_node) : nullptr).get());
 }
 
-void XmlNode::setText(std::string_view text)
-{
-    if (m_node == nullptr)
-        return;
-    for (const XmlNode& child : children())
-        detach(child.m_node);
-    if (text.empty())
-        return;
-    const std::string content(text);
-    xmlAddChild(m_node, xmlNewDocText(m_node->doc, xmlText(content.c_str())));
-}
-
-std::string XmlNode::attribute(const char* name) const
+std::string ConstXmlNode::attribute(const char* name) const
 {
     if (!isElement())
         return {};
@@ -157,6 +226,108 @@ std::string XmlNode::attribute(const char* name) const
     if (const xmlChar* content = own != nullptr ? onlyText(own->children) : nullptr)
         return toString(content);
     return toString(XmlPtr<xmlChar>(xmlGetProp(m_node, xmlText(name))).get()); // such as a document type's default
+}
+
+ConstXmlNode ConstXmlNode::parent() const
+{
+    return ConstXmlNode(parentOf(m_node));
+}
+
+ConstXmlNode ConstXmlNode::document() const
+{
+    return ConstXmlNode(documentOf(m_node));
+}
+
+std::vector<ConstXmlNode> ConstXmlNode::children() const
+{
+    return childNodes<ConstXmlNode>(m_node);
+}
+
+std::vector<ConstXmlNode> ConstXmlNode::childElements() const
+{
+    return elementsBelow<ConstXmlNode>(m_node);
+}
+
+std::vector<ConstXmlNode> ConstXmlNode::childElements(std::string_view name) const
+{
+    return elementsBelow<ConstXmlNode>(m_node, name);
+}
+
+ConstXmlNode ConstXmlNode::childElement(std::string_view name) const
+{
+    return ConstXmlNode(firstElementBelow(m_node, name));
+}
+
+std::vector<ConstXmlNode> ConstXmlNode::descendants(std::string_view name) const
+{
+    return allElementsBelow<ConstXmlNode>(m_node, name);
+}
+
+ConstXmlNode ConstXmlNode::selectSingleNode(const std::string& xpath) const
+{
+    return firstSelected<ConstXmlNode>(m_node, xpath);
+}
+
+std::vector<ConstXmlNode> ConstXmlNode::selectNodes(const std::string& xpath) const
+{
+    return selectedNodes<ConstXmlNode>(m_node, xpath);
+}
+
+XmlNode XmlNode::parent()
+{
+    return XmlNode(parentOf(m_node));
+}
+
+XmlNode XmlNode::document()
+{
+    return XmlNode(documentOf(m_node));
+}
+
+std::vector<XmlNode> XmlNode::children()
+{
+    return childNodes<XmlNode>(m_node);
+}
+
+std::vector<XmlNode> XmlNode::childElements()
+{
+    return elementsBelow<XmlNode>(m_node);
+}
+
+std::vector<XmlNode> XmlNode::childElements(std::string_view name)
+{
+    return elementsBelow<XmlNode>(m_node, name);
+}
+
+XmlNode XmlNode::childElement(std::string_view name)
+{
+    return XmlNode(firstElementBelow(m_node, name));
+}
+
+std::vector<XmlNode> XmlNode::descendants(std::string_view name)
+{
+    return allElementsBelow<XmlNode>(m_node, name);
+}
+
+XmlNode XmlNode::selectSingleNode(const std::string& xpath)
+{
+    return firstSelected<XmlNode>(m_node, xpath);
+}
+
+std::vector<XmlNode> XmlNode::selectNodes(const std::string& xpath)
+{
+    return selectedNodes<XmlNode>(m_node, xpath);
+}
+
+void XmlNode::setText(std::string_view text)
+{
+    if (m_node == nullptr)
+        return;
+    for (xmlNode* child = m_node->children; child != nullptr; child = m_node->children)
+        detach(child);
+    if (text.empty())
+        return;
+    const std::string content(text);
+    xmlAddChild(m_node, xmlNewDocText(m_node->doc, xmlText(content.c_str())));
 }
 
 void XmlNode::setAttribute(const char* name, std::string_view value)
@@ -171,87 +342,7 @@ void XmlNode::removeAttribute(const char* name)
         xmlUnsetProp(m_node, xmlText(name));
 }
 
-XmlNode XmlNode::parent() const
-{
-    return XmlNode(m_node != nullptr ? m_node->parent : nullptr);
-}
-
-std::vector<XmlNode> XmlNode::children() const
-{
-    std::vector<XmlNode> nodes;
-    for (xmlNode* child = m_node != nullptr ? m_node->children : nullptr; child != nullptr; child = child->next)
-        nodes.emplace_back(child);
-    return nodes;
-}
-
-std::vector<XmlNode> XmlNode::childElements() const
-{
-    std::vector<XmlNode> elements = children();
-    std::erase_if(elements, [](const XmlNode& child) { return !child.isElement(); });
-    return elements;
-}
-
-std::vector<XmlNode> XmlNode::childElements(std::string_view name) const
-{
-    std::vector<XmlNode> elements;
-    for (xmlNode* child = m_node != nullptr ? m_node->children : nullptr; child != nullptr; child = child->next) {
-        if (isNamed(child, name))
-            elements.emplace_back(child);
-    }
-    return elements;
-}
-
-XmlNode XmlNode::childElement(std::string_view name) const
-{
-    xmlNode* child = m_node != nullptr ? m_node->children : nullptr;
-    while (child != nullptr && !isNamed(child, name))
-        child = child->next;
-    return XmlNode(child);
-}
-
-std::vector<XmlNode> XmlNode::descendants(std::string_view name) const
-{
-    std::vector<XmlNode> elements;
-    for (xmlNode* node = m_node != nullptr ? m_node->children : nullptr; node != nullptr;
-         node = nextBelow(node, m_node)) {
-        if (isNamed(node, name))
-            elements.emplace_back(node);
-    }
-    return elements;
-}
-
-XmlNode XmlNode::document() const
-{
-    return XmlNode(m_node != nullptr ? reinterpret_cast<xmlNode*>(m_node->doc) : nullptr);
-}
-
-std::vector<XmlNode> XmlNode::selectNodes(const std::string& xpath) const
-{
-    if (m_node == nullptr)
-        return {};
-    xmlXPathContext& context = threadContext();
-    context.doc = m_node->doc;
-    context.node = m_node;
-    const XmlPtr<xmlXPathObject> found(xmlXPathEval(xmlText(xpath.c_str()), &context));
-    if (!found || found->type != XPATH_NODESET)
-        throw Error{kInvalidCall, "Not a valid path: " + xpath};
-    std::vector<XmlNode> nodes;
-    nodes.reserve(static_cast<std::size_t>(xmlXPathNodeSetGetLength(found->nodesetval)));
-    for (int i = 0; i < xmlXPathNodeSetGetLength(found->nodesetval); ++i) {
-        xmlNode* node = xmlXPathNodeSetItem(found->nodesetval, i);
-        if (node->type != XML_NAMESPACE_DECL) // those belong to the selection and go with it
-            nodes.emplace_back(node);
-    }
-    return nodes;
-}
-
-XmlNode XmlNode::selectSingleNode(const std::string& xpath) const
-{
-    const std::vector<XmlNode> nodes = selectNodes(xpath);
-    return nodes.empty() ? XmlNode() : nodes.front();
-}
-
-XmlNode XmlNode::createElement(const std::string& name) const
+XmlNode XmlNode::createElement(const std::string& name)
 {
     if (m_node == nullptr)
         return {};

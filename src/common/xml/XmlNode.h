@@ -14,16 +14,15 @@ class XmlDocument;
 enum class TextEncoding;
 struct Transformation;
 
-/// A node of an XmlDocument, or no node. No node answers every question with nothing and lets every change pass by.
-/// The handle stays valid as long as the document lives and is not loaded anew, also after the node was removed.
-/// All texts are UTF-8.
-class XmlNode {
+/// A node of an XmlDocument for reading, or no node. No node answers every question with nothing. The handle stays
+/// valid as long as the document lives and is not loaded anew, also after the node was removed. All texts are UTF-8.
+class ConstXmlNode {
 public:
-    XmlNode() = default;
-    explicit XmlNode(_xmlNode* node) : m_node(node) {}
+    ConstXmlNode() = default;
+    explicit ConstXmlNode(_xmlNode* node) : m_node(node) {}
 
     explicit operator bool() const { return m_node != nullptr; }
-    bool operator==(const XmlNode&) const = default;
+    bool operator==(const ConstXmlNode&) const = default;
 
     /// Element or attribute name; "#text", "#cdata-section", "#comment" and "#document" for the others.
     std::string name() const;
@@ -34,45 +33,70 @@ public:
 
     /// The text of the node and all below it.
     std::string text() const;
-    /// Replaces all that is below the node by `text`.
-    void setText(std::string_view text);
-
     std::string attribute(const char* name) const;
-    void setAttribute(const char* name, std::string_view value);
-    void removeAttribute(const char* name);
 
     /// The node above; the document node for the root element; no node above that.
-    XmlNode parent() const;
-    /// The nodes below, in order, texts included.
-    std::vector<XmlNode> children() const;
-    std::vector<XmlNode> childElements() const;
-    /// Those that have this name, without a prefix.
-    std::vector<XmlNode> childElements(std::string_view name) const;
-    /// The first of them.
-    XmlNode childElement(std::string_view name) const;
-    /// All elements of this name, without a prefix, at any depth below, in document order.
-    std::vector<XmlNode> descendants(std::string_view name) const;
+    ConstXmlNode parent() const;
     /// The document node that the node belongs to.
-    XmlNode document() const;
+    ConstXmlNode document() const;
+    /// The nodes below, in order, texts included.
+    std::vector<ConstXmlNode> children() const;
+    std::vector<ConstXmlNode> childElements() const;
+    /// Those that have this name, without a prefix.
+    std::vector<ConstXmlNode> childElements(std::string_view name) const;
+    /// The first of them.
+    ConstXmlNode childElement(std::string_view name) const;
+    /// All elements of this name, without a prefix, at any depth below, in document order.
+    std::vector<ConstXmlNode> descendants(std::string_view name) const;
 
     /// The first node, in document order, that the XPath 1.0 expression selects from here. Raises kInvalidCall when it
     /// is no expression for nodes.
-    XmlNode selectSingleNode(const std::string& xpath) const;
-    std::vector<XmlNode> selectNodes(const std::string& xpath) const;
+    ConstXmlNode selectSingleNode(const std::string& xpath) const;
+    std::vector<ConstXmlNode> selectNodes(const std::string& xpath) const;
+
+protected:
+    friend Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding);
+    _xmlNode* m_node = nullptr;
+};
+
+/// A node for reading and writing; no node lets every change pass by. What is reached from one may be written too, but
+/// from a const one only read.
+class XmlNode : public ConstXmlNode {
+public:
+    using ConstXmlNode::ConstXmlNode;
+
+    using ConstXmlNode::childElement;
+    using ConstXmlNode::childElements;
+    using ConstXmlNode::children;
+    using ConstXmlNode::descendants;
+    using ConstXmlNode::document;
+    using ConstXmlNode::parent;
+    using ConstXmlNode::selectNodes;
+    using ConstXmlNode::selectSingleNode;
+
+    XmlNode parent();
+    XmlNode document();
+    std::vector<XmlNode> children();
+    std::vector<XmlNode> childElements();
+    std::vector<XmlNode> childElements(std::string_view name);
+    XmlNode childElement(std::string_view name);
+    std::vector<XmlNode> descendants(std::string_view name);
+    XmlNode selectSingleNode(const std::string& xpath);
+    std::vector<XmlNode> selectNodes(const std::string& xpath);
+
+    /// Replaces all that is below the node by `text`.
+    void setText(std::string_view text);
+    void setAttribute(const char* name, std::string_view value);
+    void removeAttribute(const char* name);
 
     /// A new element for the node's document, not yet in it.
-    XmlNode createElement(const std::string& name) const;
-    /// Adds `child`, made by createElement() of the same document, as the last one.
+    XmlNode createElement(const std::string& name);
+    /// Adds `child`, made by createElement() of the same document, as the last one. Raises kInvalidCall for another.
     void appendChild(XmlNode child);
     /// Adds `child` before `next`, which is below this node.
     void insertBefore(XmlNode child, XmlNode next);
     /// Takes the node, with all below it, out of its document.
     void remove();
-
-private:
-    friend class XmlDocument;
-    friend Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding);
-    _xmlNode* m_node = nullptr;
 };
 
 } // namespace ovisto

@@ -1,6 +1,5 @@
 #include "ui/BatchForm/BatchForm.h"
 
-#include "document/NodePath.h"
 #include "ui/App/Text.h"
 #include "ui/NodeAddForm/NodePicker.h"
 
@@ -10,8 +9,8 @@ BatchForm::BatchForm(const TagDictionary& Merovel, bool technical, Dialogs& dial
     : QDialog(owner), m_dialogs(dialogs), m_entries(pickableEntries(Merovel, technical))
 {
     ui.setupUi(this);
-    for (const XmlNode& entry : m_entries)
-        ui.NodeList->addItem(toQString(AttributeGet(entry, "label")));
+    for (const DictionaryEntry& entry : m_entries)
+        ui.NodeList->addItem(toQString(entry.label()));
     connect(ui.NodeList, &QListWidget::currentRowChanged, this,
             [this](int row) { ui.BatchStarter->setEnabled(row >= 0); });
     connect(ui.ActionSetOpt, &QRadioButton::toggled, ui.NodeValue, &QLineEdit::setEnabled);

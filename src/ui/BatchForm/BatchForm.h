@@ -29,7 +29,7 @@ private:
 
     Ui::BatchForm ui;
     Dialogs& m_dialogs;
-    std::vector<XmlNode> m_entries; ///< those in NodeList, row by row
+    std::vector<DictionaryEntry> m_entries; ///< those in NodeList, row by row
 };
 
 } // namespace ovisto

@@ -118,7 +118,7 @@ private:
     void RebuildTree();
     QTreeWidgetItem* LoadLeaf(const Leaf& leaf, QTreeWidgetItem* parent);
     std::string LeafXPathForItem(const QTreeWidgetItem& item) const;
-    XmlNode DocNodeForItem(const QTreeWidgetItem& item) const;
+    XmlNode DocNodeForItem(const QTreeWidgetItem& item);
     QTreeWidgetItem* selectedItem() const;
     void removeItem(const std::string& key);
 

@@ -86,7 +86,7 @@ std::string ControlForm::LeafXPathForItem(const QTreeWidgetItem& item) const
     return leafXPath(textOf(item, kKeyRole));
 }
 
-XmlNode ControlForm::DocNodeForItem(const QTreeWidgetItem& item) const
+XmlNode ControlForm::DocNodeForItem(const QTreeWidgetItem& item)
 {
     return JpegDoc.selectSingleNode(LeafXPathForItem(item));
 }
@@ -113,7 +113,7 @@ void ControlForm::nodeClicked(const QTreeWidgetItem* item)
     if (item == nullptr)
         return;
     CurrentXPath = textOf(*item, kPathRole);
-    const XmlNode entry = Merovel.entry(CurrentXPath);
+    const DictionaryEntry entry = Merovel.entry(CurrentXPath);
     CurrentNode = DocNodeForItem(*item);
     if (!CurrentNode) {
         m_surroundings.dialogs.show(tr("Unexpected error - Node '%1' not found. Please reload the file.")
@@ -134,7 +134,7 @@ void ControlForm::nodeClicked(const QTreeWidgetItem* item)
     ui.NodeText->putText(toQString(valueText(CurrentNode, dataType)));
     if (const auto caption = dataTypeCaption(dataType, CurrentProt))
         ui.NodeDataType->setText(*caption);
-    ui.NodeHelp->setPlainText(toQString(AttributeGet(entry, "help")));
+    ui.NodeHelp->setPlainText(toQString(entry.help()));
 }
 
 /// Shows the value as it is in the document, or, for reading, the characters or the picture that its digits stand for.

@@ -21,13 +21,13 @@ std::string leafKey(std::size_t LeafCounter)
 
 } // namespace
 
-LeafTree loadLeaves(const XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical)
+LeafTree loadLeaves(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical)
 {
     if (!JpegDoc.documentElement())
         throw systemError(kObjectNotSet);
     LeafTree tree;
     std::size_t LeafCounter = 0;
-    for (const PropertyItem& item : propertyTree(JpegDoc, Merovel, technical)) {
+    for (const ShownNode<XmlNode>& item : propertyTree(JpegDoc, Merovel, technical)) {
         AttributeSet(item.node, "label", item.label);
         if (XmlNode* node = tree.osProperties.nodeOf(item.path)) {
             *node = item.node;
@@ -45,7 +45,7 @@ std::string leafXPath(const std::string& key)
     return "//*[@leafIndex='" + key + "']";
 }
 
-void removeLeafKeys(const XmlDocument& JpegDoc)
+void removeLeafKeys(XmlDocument& JpegDoc)
 {
     for (XmlNode attribute : JpegDoc.selectNodes("//@leafIndex"))
         attribute.remove();

@@ -26,12 +26,12 @@ struct LeafTree {
 
 /// What the window shows of `JpegDoc`; technical nodes with `technical` only. The nodes shown receive their "label" and
 /// "leafIndex", numbered from x000001 on in document order. Raises kObjectNotSet when the document has no root element.
-LeafTree loadLeaves(const XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical);
+LeafTree loadLeaves(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical);
 
 /// Selects the node of the item with `key`.
 std::string leafXPath(const std::string& key);
 
 /// Removes all "leafIndex" attributes: the next build gives new ones.
-void removeLeafKeys(const XmlDocument& JpegDoc);
+void removeLeafKeys(XmlDocument& JpegDoc);
 
 } // namespace ovisto

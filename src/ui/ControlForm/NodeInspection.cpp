@@ -16,11 +16,11 @@
 
 namespace ovisto {
 
-ProtectionLevel protectionLevel(const XmlNode& entry)
+ProtectionLevel protectionLevel(const DictionaryEntry& entry)
 {
     ProtectionLevel level = 0;
     ErrorTrap trap;
-    trap.run([&] { level = static_cast<ProtectionLevel>(attributeToLong(AttributeGet(entry, "prot"))); });
+    trap.run([&] { level = static_cast<ProtectionLevel>(attributeToLong(AttributeGet(entry.node(), "prot"))); });
     return level;
 }
 
@@ -37,7 +37,7 @@ std::optional<QString> dataTypeCaption(int dataType, ProtectionLevel level)
     return caption;
 }
 
-std::string valueText(const XmlNode& node, int dataType)
+std::string valueText(const ConstXmlNode& node, int dataType)
 {
     const bool isText = dataType == kString || dataType == kUnicodeString;
     return isText ? withCrLf(node.text()) : node.text();
@@ -65,7 +65,7 @@ std::vector<std::uint8_t> bytesOf(const std::string& hexadecimal)
     return hexRunBytes(std::string_view(hexadecimal).substr(0, 2 * wholeBytes));
 }
 
-bool isThumbnail(const XmlNode& node)
+bool isThumbnail(const ConstXmlNode& node)
 {
     return node.name() == kThumbnailBytes;
 }
@@ -75,7 +75,7 @@ int thumbnailOrientation(const XmlDocument& JpegDoc)
     int orientation = 1;
     ErrorTrap trap;
     for (const char* path : {kAnyOrientationPath, kAnyThumbnailOrientationPath}) {
-        if (const XmlNode node = JpegDoc.selectSingleNode(path))
+        if (const ConstXmlNode node = JpegDoc.selectSingleNode(path))
             trap.run([&] { orientation = toLong(node.text()); });
     }
     return orientation;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/xml/XmlDocument.h"
+#include "document/TagDictionary.h"
 
 #include <QString>
 
@@ -15,7 +16,7 @@ namespace ovisto {
 /// it may not be deleted either.
 using ProtectionLevel = std::uint8_t;
 
-ProtectionLevel protectionLevel(const XmlNode& entry);
+ProtectionLevel protectionLevel(const DictionaryEntry& entry);
 constexpr bool isLocked(ProtectionLevel level)
 {
     return level > 0;
@@ -29,7 +30,7 @@ constexpr bool isDeletable(ProtectionLevel level)
 std::optional<QString> dataTypeCaption(int dataType, ProtectionLevel level);
 
 /// The value of a node as the box shows it at first: the lines of a text end with CR LF.
-std::string valueText(const XmlNode& node, int dataType);
+std::string valueText(const ConstXmlNode& node, int dataType);
 
 /// The characters of the bytes that a text names in hexadecimal, for reading only. The bytes 0 and 10 are dropped, 13
 /// becomes CR LF, and any other byte below 32 but the tab is shown as character 140.
@@ -39,7 +40,7 @@ std::string translatedText(const std::string& hexadecimal);
 std::vector<std::uint8_t> bytesOf(const std::string& hexadecimal);
 
 /// Whether the node holds a thumbnail.
-bool isThumbnail(const XmlNode& node);
+bool isThumbnail(const ConstXmlNode& node);
 
 /// How the thumbnail has to be turned, as an Exif orientation: by its own, or where it has none by that of the picture.
 int thumbnailOrientation(const XmlDocument& JpegDoc);

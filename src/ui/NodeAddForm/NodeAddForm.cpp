@@ -10,8 +10,8 @@ NodeAddForm::NodeAddForm(XmlDocument& document, const TagDictionary& Merovel, bo
     : QDialog(owner), JpegDoc(document), m_reporter(reporter), m_entries(pickableEntries(Merovel, technical))
 {
     ui.setupUi(this);
-    for (const XmlNode& entry : m_entries)
-        ui.NodeList->addItem(toQString(AttributeGet(entry, "label")));
+    for (const DictionaryEntry& entry : m_entries)
+        ui.NodeList->addItem(toQString(entry.label()));
     ui.NodeAdder->setEnabled(false);
     connect(ui.NodeList, &QListWidget::itemSelectionChanged, this,
             [this] { ui.NodeAdder->setEnabled(!ui.NodeList->selectedItems().isEmpty()); });

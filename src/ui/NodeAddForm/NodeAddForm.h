@@ -27,7 +27,7 @@ private:
     Ui::NodeAddForm ui;
     XmlDocument& JpegDoc;
     ErrorReporter& m_reporter;
-    std::vector<XmlNode> m_entries; ///< those in NodeList, row by row
+    std::vector<DictionaryEntry> m_entries; ///< those in NodeList, row by row
 };
 
 } // namespace ovisto

@@ -1,18 +1,17 @@
 #include "ui/NodeAddForm/NodePicker.h"
 
 #include "document/NodeCreation.h"
-#include "document/NodePath.h"
 
 namespace ovisto {
 
-std::vector<XmlNode> pickableEntries(const TagDictionary& Merovel, bool technical)
+std::vector<DictionaryEntry> pickableEntries(const TagDictionary& Merovel, bool technical)
 {
-    return Merovel.document().selectNodes(technical ? "//*[not(@vis='2')]" : "//*[not(@vis>'0')]");
+    return Merovel.entries(technical);
 }
 
-std::string addEntry(XmlDocument& JpegDoc, const XmlNode& entry, ErrorReporter& reporter)
+std::string addEntry(XmlDocument& JpegDoc, const DictionaryEntry& entry, ErrorReporter& reporter)
 {
-    std::string path = NodeXPath(entry);
+    std::string path = entry.path();
     if (JpegDoc.selectSingleNode(path))
         return {};
     CreateNode(JpegDoc, entry, reporter);

@@ -23,7 +23,7 @@ constexpr int kDateLength = 10; // of "2004:05:06"
 
 std::optional<QString> textOf(const XmlDocument& JpegDoc, const char* path)
 {
-    const XmlNode node = JpegDoc.selectSingleNode(path);
+    const ConstXmlNode node = JpegDoc.selectSingleNode(path);
     return node ? std::optional(toQString(node.text())) : std::nullopt;
 }
 
