@@ -1,8 +1,9 @@
 // Times the engine's steps on one photograph: build/release/bin/reader-bench PHOTOGRAPH
 // bench/compare.sh holds whole commands against other programs.
 
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "common/ErrorReport.h"
+#include "document/MetadataDocument.h"
 #include "writer/JpegDocument.h"
 
 #include <benchmark/benchmark.h>

@@ -1,7 +1,7 @@
 // Reads any bytes as a JPEG file and writes what can be read back:
 //   cmake --preset fuzz && cmake --build --preset fuzz && build/fuzz/bin/jpeg-fuzz -max_len=4096 CORPUS samples
 
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "common/ErrorReport.h"
 #include "writer/JpegDocument.h"
 

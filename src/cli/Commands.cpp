@@ -7,7 +7,7 @@
 #include "cli/PropertyText.h"
 #include "cli/TerminalText.h"
 #include "collection/BatchAction.h"
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "collection/XmlExport.h"
 #include "common/FirstReport.h"
 #include "common/system/File.h"

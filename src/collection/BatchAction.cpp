@@ -1,6 +1,6 @@
 #include "collection/BatchAction.h"
 
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "common/FirstReport.h"
 #include "common/system/File.h"
 #include "common/text/PathText.h"

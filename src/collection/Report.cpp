@@ -1,11 +1,12 @@
 #include "collection/Report.h"
 
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "common/system/File.h"
 #include "common/text/CodePage.h"
 #include "common/text/PathText.h"
 #include "common/xml/XmlLoad.h"
 #include "common/xml/XmlTransform.h"
+#include "document/MetadataDocument.h"
 
 #include <algorithm>
 #include <optional>

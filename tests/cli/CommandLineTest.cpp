@@ -1,4 +1,4 @@
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "support/CommandRun.h"
 #include "support/JpegBytes.h"
 

@@ -1,5 +1,5 @@
 #include "collection/BatchAction.h"
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "document/TagDictionary.h"
 #include "support/CountingProgress.h"
 #include "support/JpegBytes.h"

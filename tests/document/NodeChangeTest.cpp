@@ -1,9 +1,12 @@
 #include "document/NodeChange.h"
 #include "collection/BatchAction.h"
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "collection/XmlExport.h"
+#include "document/MetadataDocument.h"
+#include "document/NodePaths.h"
 #include "document/PropertyTree.h"
 #include "support/CountingProgress.h"
+#include "support/Dictionary.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 
@@ -12,12 +15,6 @@
 namespace ovisto::test {
 
 namespace {
-
-const TagDictionary& dictionary()
-{
-    static const TagDictionary dictionary(OVISTO_DATA_FOLDER "Merovel.xml");
-    return dictionary;
-}
 
 NodeChange changeOf(NodeAction action, const std::string& path, const std::string& value = {})
 {
@@ -32,7 +29,7 @@ void changeFile(const std::string& path, const NodeChange& change, ErrorReporter
     BatchAction(files, change).run(progress, reporter);
 }
 
-const std::string kExif = "/JPEG/Exif[@id='FFE1']";
+const std::string kExif = kExifPath;
 
 } // namespace
 

@@ -1,6 +1,6 @@
 #include "document/NodeCreation.h"
-#include "collection/MetadataDocument.h"
-#include "document/TagDictionary.h"
+#include "document/MetadataDocument.h"
+#include "support/Dictionary.h"
 #include "support/RecordingReporter.h"
 
 #include <gtest/gtest.h>
@@ -8,12 +8,6 @@
 namespace ovisto::test {
 
 namespace {
-
-const TagDictionary& dictionary()
-{
-    static const TagDictionary dictionary(OVISTO_DATA_FOLDER "Merovel.xml");
-    return dictionary;
-}
 
 /// The document after the node of `path` was created in it.
 std::string created(const std::string& documentText, const std::string& path)
@@ -74,8 +68,9 @@ TEST(CreateNode, KeepsTheOrderOfTheDictionary)
 
 TEST(CreateNode, LeavesExistingCompanionsAlone)
 {
-    const std::string text = "<JPEG><Exif id=\"FFE1\"><IFDE><IFD id=\"927C\" d=\"7\">5</IFD></IFDE></Exif></JPEG>";
-    EXPECT_NE(created(text, "/JPEG/Exif[@id='FFE1']/IFDE/MAKE").find("\"7\">5</IFD><MAKE"), std::string::npos);
+    const std::string before = "<JPEG><Exif id=\"FFE1\"><IFDE><IFD id=\"927C\" d=\"7\">5</IFD>";
+    EXPECT_EQ(created(before + "</IFDE></Exif></JPEG>", "/JPEG/Exif[@id='FFE1']/IFDE/MAKE"),
+              before + "<MAKE d=\"1\"/></IFDE></Exif></JPEG>");
 }
 
 TEST(CreateNode, ReportsWhatTheDictionaryLacks)
@@ -84,7 +79,8 @@ TEST(CreateNode, ReportsWhatTheDictionaryLacks)
     ASSERT_FALSE(poor.loadText("<JPEG><Exif id='FFE1'><IFDE/></Exif></JPEG>"));
     XmlDocument document = documentOf("<JPEG/>");
     RecordingReporter reporter;
-    EXPECT_TRUE(CreateNode(document, DictionaryEntry(poor.selectSingleNode("//IFDE")), reporter)) << "made all the same";
+    EXPECT_TRUE(CreateNode(document, DictionaryEntry(poor.selectSingleNode("//IFDE")), reporter))
+        << "made all the same";
     EXPECT_EQ(reporter.contexts, std::vector<std::string>{"Create node failed "}) << "of the pointer entry";
     reporter.contexts.clear();
     EXPECT_FALSE(CreateNode(document, DictionaryEntry(), reporter));

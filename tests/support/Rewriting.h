@@ -1,6 +1,6 @@
 #pragma once
 
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "writer/JpegDocument.h"
 
 #include <string>

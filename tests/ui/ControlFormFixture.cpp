@@ -1,6 +1,6 @@
 #include "ControlFormFixture.h"
 
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "writer/JpegDocument.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "ControlFormFixture.h"
 
-#include "collection/MetadataDocument.h"
+#include "collection/DocumentLoad.h"
 #include "common/system/File.h"
 #include "ui/ControlForm/PictureBox.h"
 #include "ui/NodeAddForm/NodeAddForm.h"

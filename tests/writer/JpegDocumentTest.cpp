@@ -1,3 +1,4 @@
+#include "document/MetadataDocument.h"
 #include "document/TagDictionary.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"

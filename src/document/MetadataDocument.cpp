@@ -1,5 +1,6 @@
-#include "collection/MetadataDocument.h"
+#include "document/MetadataDocument.h"
 
+#include "common/Error.h"
 #include "common/xml/XmlLoad.h"
 
 namespace ovisto {
@@ -13,14 +14,6 @@ XmlDocument documentOf(std::string_view text)
     if (root != "JPEG")
         throw Error{kOpenFailed, "The root element is " + root + ", not JPEG"};
     return document;
-}
-
-XmlDocument loadDocument(const std::string& path, const KeepOptions& keep)
-{
-    const Translation translation = JpegXml().XMLtranslate(path, keep);
-    if (translation.error)
-        throw Error(*translation.error);
-    return documentOf(translation.text);
 }
 
 } // namespace ovisto
