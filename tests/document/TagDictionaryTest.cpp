@@ -1,24 +1,18 @@
 #include "document/TagDictionary.h"
 #include "common/text/Hex.h"
 #include "document/DataType.h"
+#include "document/Directories.h"
 #include "document/NodePath.h"
+#include "document/NodePaths.h"
 #include "support/CommandRun.h"
+#include "support/Dictionary.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
+#include <utility>
 
 namespace ovisto::test {
-
-namespace {
-
-const TagDictionary& dictionary()
-{
-    static const TagDictionary dictionary(OVISTO_DATA_FOLDER "Merovel.xml");
-    return dictionary;
-}
-
-} // namespace
 
 TEST(TagDictionary, IsCompleteForEveryEntry)
 {
@@ -46,23 +40,46 @@ TEST(TagDictionary, IsCompleteForEveryEntry)
 
 TEST(TagDictionary, HoldsWhatTheProgramLooksUp)
 {
-    const char* required[] = {"/JPEG/Exif/IFD[@id='8769']",
-                              "/JPEG/Exif/IFDE/IFD[@id='A005']",
-                              "/JPEG/Exif/IFDE/IFD[@id='927C']",
-                              "/JPEG/Exif/IFD1/IFD[@id='0201']",
-                              "/JPEG/Exif/IFD1/IFD[@id='0202']",
-                              "/JPEG/SOS",
-                              "/JPEG/IMG",
-                              "/JPEG"};
-    for (const char* path : required)
+    const auto isRequired = [](const std::string& path) {
         EXPECT_EQ(dictionary().entry(path).protection(), Protection::Required) << path;
-    const char* present[] = {"/JPEG/Exif[@id='FFE1']/IFDE/MAKE", "/JPEG/Exif[@id='FFE1']/IFDI",
-                             "/JPEG/Exif[@id='FFE1']/IFD1/THUM", "/JPEG/Exif/IFD1/IFD[@id='0103']",
-                             "/JPEG/Exif1[@id='FFE1']",          "/JPEG/APP0"};
-    for (const char* path : present)
+    };
+    for (const ExifPart& part : kExifParts) {
+        const DictionaryEntry entry = dictionary().entry(partPath(part));
+        EXPECT_EQ(exifPartAt(entry.path()), &part) << part.element;
+        for (const std::uint16_t tag : {part.pointer.offset, part.pointer.length}) {
+            if (tag != 0)
+                isRequired(entryPath(*exifPart(part.pointedFrom), tag));
+        }
+        if (part.property.tag != 0) {
+            EXPECT_TRUE(dictionary().entry(entryPath(*exifPart(part.pointedFrom), part.property.tag)));
+        }
+    }
+    EXPECT_EQ(exifPartAt("/JPEG/Exif/IFDE"), nullptr) << "another Exif element";
+    for (const char* path : {"/JPEG/SOS", "/JPEG/IMG", "/JPEG"})
+        isRequired(path);
+    for (const char* path : {"/JPEG/Exif1[@id='FFE1']", "/JPEG/APP0"})
         EXPECT_TRUE(dictionary().entry(path)) << path;
+    const std::pair<const char*, const char*> named[] = {
+        {kTitlePath, "Title"},
+        {kCommentsPath, "Comments"},
+        {kKeywordsPath, "Keywords"},
+        {kSubjectPath, "Subject"},
+        {kAnyTitlePath, "Title"},
+        {kAnyCameraModelPath, "Camera Model"},
+        {kAnyOrientationPath, "Orientation"},
+        {kAnyDateTakenPath, "Date Taken"},
+        {kAnyDateDigitisedPath, "Date Digitised"},
+        {kAnyPictureWidthPath, "Picture Width"},
+        {kAnyPictureHeightPath, "Picture Height"},
+        {kAnyThumbnailWidthPath, "Thumbnail Width"},
+        {kAnyThumbnailHeightPath, "Thumbnail Height"},
+        {kAnyThumbnailOrientationPath, "Thumbnail Orientation"},
+    };
+    for (const auto& [path, label] : named)
+        EXPECT_EQ(dictionary().entry(path).label(), label) << path;
     for (const char* id : {"9C9B", "9C9C", "9C9D", "9C9E", "9C9F"})
-        EXPECT_EQ(dictionary().entry("/JPEG/Exif[@id='FFE1']/IFD[@id='" + std::string(id) + "']").dataType(), kUnicodeString);
+        EXPECT_EQ(dictionary().entry("/JPEG/Exif[@id='FFE1']/IFD[@id='" + std::string(id) + "']").dataType(),
+                  kUnicodeString);
     for (std::uint32_t marker = 0xFFC0; marker <= 0xFFFE; ++marker) {
         const bool hasElement = marker == 0xFFDA || marker == 0xFFE0 || marker == 0xFFE1;
         const DictionaryEntry entry = dictionary().entry("/JPEG/APP1[@id='" + hexNumber(marker) + "']");
