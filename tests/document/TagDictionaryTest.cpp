@@ -54,7 +54,8 @@ TEST(TagDictionary, HoldsWhatTheProgramLooksUp)
             EXPECT_TRUE(dictionary().entry(entryPath(*exifPart(part.pointedFrom), part.property.tag)));
         }
     }
-    EXPECT_EQ(exifPartAt("/JPEG/Exif/IFDE"), nullptr) << "another Exif element";
+    EXPECT_EQ(exifPartAt("/JPEG/Exif[@id='FFE2']/IFDE"), nullptr) << "another Exif element";
+    EXPECT_FALSE(dictionary().entry("//@label")) << "an attribute is no entry";
     for (const char* path : {"/JPEG/SOS", "/JPEG/IMG", "/JPEG"})
         isRequired(path);
     for (const char* path : {"/JPEG/Exif1[@id='FFE1']", "/JPEG/APP0"})
