@@ -4,8 +4,8 @@
 #include "common/text/NumberText.h"
 #include "common/text/PathText.h"
 #include "document/NodePath.h"
+#include "jpeg/Segments.h"
 #include "writer/ExifSegment.h"
-#include "writer/ImagePlace.h"
 #include "writer/SegmentWriter.h"
 
 #include <algorithm>
