@@ -1,4 +1,4 @@
-// The part of JpegXml that turns APP1 segments into Exif and Exif1 elements.
+#include "reader/ExifDecoding.h"
 
 #include "common/text/CodePage.h"
 #include "common/text/Hex.h"
@@ -7,37 +7,31 @@
 #include "document/TagNumbers.h"
 #include "document/XmlText.h"
 #include "reader/EntryValue.h"
-#include "reader/JpegXml.h"
 
 namespace ovisto {
 
 namespace {
 
 constexpr int kMostEntries = 200; // cameras write some dozens; more means that this is no directory
-constexpr std::int64_t kEntrySize = 12;
 
 } // namespace
 
 /// Appends an element that is closed whatever happens inside it.
 template <class Content>
-void JpegXml::appendContainer(const std::string& openingTag, Content content, std::string_view closingTag)
+void ExifDecoding::appendContainer(const std::string& openingTag, Content content, std::string_view closingTag)
 {
-    append(openingTag);
-    m_decoding.run(content);
-    m_text += closingTag;
+    m_text.append(openingTag);
+    m_errors.run(content);
+    m_text.appendTag(closingTag);
 }
 
-/// Reads one APP1 segment. `pointer`: its marker; `markLen`: its length field.
-void JpegXml::ExifScan(std::uint16_t markLen, FilePos pointer)
+void ExifDecoding::ExifScan(std::uint16_t markLen, FilePos pointer)
 {
-    m_pointers = {};
-    m_decoding.clear();
-
-    const std::string identifier = reader().ReadStringNull(pointer + 4);
+    const std::string identifier = m_reader.ReadStringNull(pointer + 4);
     if (identifier == "Exif") {
         const FilePos base = pointer + 10;
-        const std::string byteOrder = reader().ReadString(base, 2);
-        reader().littleEndian = byteOrder == "II";
+        const std::string byteOrder = m_reader.ReadString(base, 2);
+        m_reader.littleEndian = byteOrder == "II";
         appendContainer(
             "<Exif" + xmlAtt("id", "FFE1") + xmlAtt("byteSeq", byteOrder) + xmlAtt("d", "7") + ">\r\n",
             [&] { scanDirectories(base); }, "</Exif>\r\n");
@@ -49,14 +43,14 @@ void JpegXml::ExifScan(std::uint16_t markLen, FilePos pointer)
 }
 
 /// Reads the directories of an Exif segment, each only as long as nothing went wrong before.
-void JpegXml::scanDirectories(FilePos base)
+void ExifDecoding::scanDirectories(FilePos base)
 {
-    const TiffOffset first{reader().ReadLong(base + 4)};
-    const std::int64_t entries = reader().ReadInteger(filePos(base, first));
-    const TiffOffset second{reader().ReadLong(filePos(base, first) + 2 + kEntrySize * entries)};
+    const TiffOffset first{m_reader.ReadLong(base + 4)};
+    const int entries = m_reader.ReadInteger(filePos(base, first));
+    const TiffOffset second{m_reader.ReadLong(ifdEntryPosition(filePos(base, first), entries))};
     IFDScan(base, first);
 
-    if (!m_decoding.pending() && m_pointers.exif.value > 0) {
+    if (!m_errors.pending() && m_pointers.exif.value > 0) {
         const auto content = [&] {
             IFDScan(base, m_pointers.exif);
             if (m_pointers.makerNote.value > 0)
@@ -64,11 +58,11 @@ void JpegXml::scanDirectories(FilePos base)
         };
         appendContainer("<IFDE" + xmlAtt("d", "2") + ">", content, "</IFDE>");
     }
-    if (!m_decoding.pending() && m_pointers.interoperability.value > 0) {
+    if (!m_errors.pending() && m_pointers.interoperability.value > 0) {
         const auto content = [&] { IFDScan(base, m_pointers.interoperability); };
         appendContainer("<IFDI" + xmlAtt("d", "2") + ">", content, "</IFDI>");
     }
-    if (m_decoding.pending() || second.value == 0)
+    if (m_errors.pending() || second.value == 0)
         return;
     if (!m_keep.pCodifyThumb) {
         m_changesMade = true;
@@ -83,64 +77,62 @@ void JpegXml::scanDirectories(FilePos base)
 }
 
 /// Appends an element of plain bytes; it is empty where they cannot be read.
-void JpegXml::appendBytes(std::string_view name, FilePos first, std::int64_t length, std::string_view end)
+void ExifDecoding::appendBytes(std::string_view name, FilePos first, std::int64_t length, std::string_view end)
 {
     std::string bytes;
-    m_decoding.run([&] { bytes = reader().ReadHexString(first, length); });
+    m_errors.run([&] { bytes = m_reader.ReadHexString(first, length); });
     const std::string element(name);
-    appendElement("<" + element + xmlAtt("d", "1") + ">", bytes, "</" + element + ">" + std::string(end));
+    m_text.appendElement("<" + element + xmlAtt("d", "1") + ">", bytes, "</" + element + ">" + std::string(end));
 }
 
 /// An APP1 segment of another kind (XMP, say) is kept as text, as it stands.
-void JpegXml::scanOtherApp1(std::uint16_t markLen, FilePos pointer, const std::string& identifier)
+void ExifDecoding::scanOtherApp1(std::uint16_t markLen, FilePos pointer, const std::string& identifier)
 {
     const auto identifierLength = static_cast<std::int64_t>(characterCount(identifier));
-    const std::string payload = reader().ReadString(pointer + 5 + identifierLength, markLen - identifierLength - 3);
-    appendElement("<Exif1" + xmlAtt("id", "FFE1") + xmlAtt("ns", identifier) + xmlAtt("d", "2") + ">\r\n<![CDATA[",
-                  payload, "]]></Exif1>\r\n");
+    const std::string payload = m_reader.ReadString(pointer + 5 + identifierLength, markLen - identifierLength - 3);
+    m_text.appendElement("<Exif1" + xmlAtt("id", "FFE1") + xmlAtt("ns", identifier) + xmlAtt("d", "2") +
+                             ">\r\n<![CDATA[",
+                         payload, "]]></Exif1>\r\n");
 }
 
 /// Reads one directory.
-void JpegXml::IFDScan(FilePos base, TiffOffset ifdOffset)
+void ExifDecoding::IFDScan(FilePos base, TiffOffset ifdOffset)
 {
     const FilePos directory = filePos(base, ifdOffset);
-    const int entries = reader().ReadInteger(directory);
+    const int entries = m_reader.ReadInteger(directory);
     if (entries > kMostEntries) {
         constexpr std::int64_t kShownBytes = 100;
-        append("IFD directory seems corrupted: more than 200 entries! " +
-               reader().ReadHexString(directory, kShownBytes));
+        m_text.append("IFD directory seems corrupted: more than 200 entries! " +
+                      m_reader.ReadHexString(directory, kShownBytes));
         return;
     }
     for (int i = 0; i < entries; ++i) {
-        IfdEntry entry{.base = base, .position = directory + 2 + i * kEntrySize};
-        entry.tag = reader().ReadInteger(entry.position);
+        const IfdEntry entry = readIfdEntry(m_reader, base, ifdEntryPosition(directory, i));
         if (entry.tag == kMakerNote && !m_keep.pCodifyMakerNote) {
             m_changesMade = true;
             continue;
         }
         if (entry.tag == 0)
             return;
-        entry.format = reader().ReadInteger(entry.position + 2);
-        entry.count = reader().ReadLong(entry.position + 4);
         appendEntry(entry);
     }
 }
 
 /// A value that cannot be read is empty; the entry stays.
-void JpegXml::appendEntry(const IfdEntry& entry)
+void ExifDecoding::appendEntry(const IfdEntry& entry)
 {
     EntryValue value{.dataType = entryDataType(entry), .text = {}};
-    m_decoding.run([&] { value = entryValue(reader(), entry); });
-    m_decoding.run([&] { recordPointer(entry, value.dataType, value.text); });
+    m_errors.run([&] { value = entryValue(m_reader, entry); });
+    m_errors.run([&] { recordPointer(entry, value.dataType, value.text); });
     std::string openingTag = "<IFD";
     openingTag.append(xmlAtt("id", hexNumber(entry.tag, 4)))
         .append(xmlAtt("d", std::int64_t{value.dataType}))
         .append(">");
-    appendElement(openingTag, value.text, "</IFD>\r\n");
+    m_text.appendElement(openingTag, value.text, "</IFD>\r\n");
 }
 
-/// Remembers where an entry says that other parts of the segment are. The text counts, as it is what a document tells.
-void JpegXml::recordPointer(const IfdEntry& entry, int dataType, std::string_view value)
+/// Remembers where an entry says that other parts of the segment are. The text counts, as it is what the document says.
+void ExifDecoding::recordPointer(const IfdEntry& entry, int dataType, std::string_view value)
 {
     switch (entry.tag) {
     case kExifDirectory:
@@ -155,7 +147,7 @@ void JpegXml::recordPointer(const IfdEntry& entry, int dataType, std::string_vie
             m_pointers.makerNoteLength = entry.count;
         }
         break;
-    case kStripOffsets: // strips stand one behind the other, so the first one is where they begin
+    case kStripOffsets: // strips stand one after the other, so the first one is where they begin
     case kThumbnailOffset:
         m_pointers.thumbnail.value = toLong(split(value, ',').front());
         break;

@@ -4,112 +4,124 @@
 #include "common/text/Hex.h"
 #include "common/text/PathText.h"
 #include "document/XmlText.h"
+#include "jpeg/Markers.h"
+#include "jpeg/Segments.h"
+#include "reader/DocumentText.h"
+#include "reader/ExifDecoding.h"
+
+#include <cstdint>
+#include <string_view>
+#include <utility>
 
 namespace ovisto {
 
 namespace {
 
-// Marker codes of JPEG (ITU-T T.81, table B.1).
-constexpr std::uint16_t kStartOfImage = 0xFFD8;
-constexpr std::uint16_t kStartOfScan = 0xFFDA;
-constexpr std::uint16_t kApp0 = 0xFFE0;
-constexpr std::uint16_t kApp1 = 0xFFE1;
-constexpr std::uint16_t kFirstMarker = 0xFF01;
+/// One translation of an open file.
+class FileTranslation {
+public:
+    FileTranslation(const InputFile& file, const std::string& fileName, const KeepOptions& keep)
+        : m_fileName(fileName), m_keep(keep), m_reader(file), m_text(m_reader)
+    {
+    }
+
+    Translation run();
+
+private:
+    void checkStart();
+    void scanSegments();
+    void scanSegment(const Segment& segment);
+    void MarkerScan(std::uint16_t markNo, std::uint16_t markLen, std::string_view markName, FilePos pointer);
+    void appendImage(FilePos firstByte);
+
+    const std::string& m_fileName;
+    const KeepOptions& m_keep;
+    ByteReader m_reader;
+    DocumentText m_text;
+    bool m_changesMade = false;
+};
+
+Translation FileTranslation::run()
+{
+    ErrorTrap trap;
+    trap.run([&] { checkStart(); });
+    if (trap.pending())
+        return {.text = {}, .error = trap.take()};
+
+    const auto [folder, name] = splitPath(m_fileName);
+    m_text.appendTag("<JPEG" + xmlAtt("d", "1") + xmlAtt("folder", folder) + xmlAtt("fileName", name) + ">\r\n");
+    trap.run([&] { scanSegments(); });
+    m_text.appendTag("</JPEG>");
+    Translation result{.text = m_text.take(), .ChangesMade = m_changesMade, .error = {}};
+    if (trap.pending())
+        result.error = trap.take();
+    return result;
+}
+
+void FileTranslation::checkStart()
+{
+    if (m_reader.ReadInteger({1}) != kStartOfImage)
+        throw Error{kStructureError, "Not a JPEG file - hFFD8 expected at start of file " + m_fileName};
+}
+
+void FileTranslation::scanSegments()
+{
+    const SegmentsResult segments = walkSegments(m_reader, [&](const Segment& segment) { scanSegment(segment); });
+    switch (segments.end) {
+    case SegmentsEnd::Scan:
+        return appendImage(segments.position);
+    case SegmentsEnd::UnknownMarker:
+        throw Error{kStructureError,
+                    "Header seems corrupted - unknown Marker " + hexNumber(segments.marker) + " " + m_fileName};
+    case SegmentsEnd::EndOfFile:
+        throw Error{kStructureError, "No StartOfStream marker found " + m_fileName};
+    }
+}
+
+void FileTranslation::scanSegment(const Segment& segment)
+{
+    if (segment.marker == kApp1) {
+        ExifDecoding exif(m_reader, m_text, m_keep);
+        exif.ExifScan(segment.length, segment.position);
+        m_changesMade = m_changesMade || exif.changesMade();
+    } else if (segment.marker == kApp0) {
+        MarkerScan(segment.marker, segment.length, "APP0", segment.position);
+    } else if (segment.marker == kStartOfScan) {
+        MarkerScan(segment.marker, segment.length, "SOS", segment.position);
+    } else {
+        MarkerScan(segment.marker, segment.length, "APP1", segment.position);
+    }
+    if (m_reader.failure())
+        throw Error(*m_reader.failure());
+}
+
+/// Appends one segment with its payload in hexadecimal.
+void FileTranslation::MarkerScan(std::uint16_t markNo, std::uint16_t markLen, std::string_view markName,
+                                 FilePos pointer)
+{
+    const std::string name(markName);
+    const std::string id = name == "APP1" ? xmlAtt("id", hexNumber(markNo)) : std::string();
+    const std::string payload = m_reader.ReadHexString(pointer + 4, std::int64_t{markLen} - 2);
+    m_text.appendElement("<" + name + id + xmlAtt("d", "1") + ">", payload, "</" + name + ">\r\n");
+}
+
+void FileTranslation::appendImage(FilePos firstByte)
+{
+    const ImagePlace image = imagePlaceFrom(firstByte, m_reader.fileSize());
+    m_text.append("<IMG" + xmlAtt("offset", image.offset) + xmlAtt("length", image.length) + xmlAtt("d", "1") +
+                  "></IMG>");
+}
 
 } // namespace
 
-Translation JpegXml::XMLtranslate(const std::string& FileName, const KeepOptions& keep)
+Translation JpegXml::XMLtranslate(const std::string& FileName, const KeepOptions& keep) const
 {
-    m_keep = keep;
-    m_reader.reset();
-    m_text.clear();
-    m_changesMade = false;
-    m_structureError.reset();
-
     ErrorTrap trap;
     std::optional<InputFile> file;
     trap.run([&] { file.emplace(FileName); });
     if (trap.pending())
         return {.text = {}, .error = Error{kOpenFailed, trap.take().description + "  file=" + FileName}};
-
-    m_reader.emplace(*file);
-    std::uint16_t start = 0;
-    trap.run([&] { start = reader().ReadInteger({1}); });
-    if (trap.pending())
-        return {.text = {}, .error = trap.take()};
-    if (start != kStartOfImage)
-        return {.text = {},
-                .error = Error{kStructureError, "Not a JPEG file - hFFD8 expected at start of file " + FileName}};
-
-    constexpr std::size_t kUsualSize = std::size_t{64} * 1024;
-    m_text.reserve(kUsualSize);
-    const auto [folder, name] = splitPath(FileName);
-    m_text += "<JPEG" + xmlAtt("d", "1") + xmlAtt("folder", folder) + xmlAtt("fileName", name) + ">\r\n";
-    trap.run([&] { scanSegments(FileName); });
-    m_text += "</JPEG>";
-    if (!m_structureError && trap.pending())
-        m_structureError = trap.take();
-    m_reader.reset();
-    return {.text = std::move(m_text), .ChangesMade = m_changesMade, .error = m_structureError};
-}
-
-/// Walks the segments from behind the start-of-image marker to the first scan.
-void JpegXml::scanSegments(const std::string& FileName)
-{
-    FilePos position{3};
-    for (;;) {
-        reader().littleEndian = false;
-        const std::uint16_t marker = reader().ReadInteger(position);
-        const std::uint16_t length = reader().ReadInteger(position + 2);
-        if (marker < kFirstMarker) {
-            m_structureError =
-                Error{kStructureError, "Header seems corrupted - unknown Marker " + hexNumber(marker) + " " + FileName};
-            return;
-        }
-        if (marker == kApp1)
-            ExifScan(length, position);
-        else if (marker == kApp0)
-            MarkerScan(marker, length, "APP0", position);
-        else if (marker == kStartOfScan)
-            MarkerScan(marker, length, "SOS", position);
-        else
-            MarkerScan(marker, length, "APP1", position);
-        if (reader().failure())
-            throw Error(*reader().failure());
-        position = position + 2 + length;
-        if (marker == kStartOfScan)
-            break;
-        if (position.value > reader().fileSize()) {
-            m_structureError = Error{kStructureError, "No StartOfStream marker found " + FileName};
-            return;
-        }
-    }
-    appendImage(position);
-}
-
-/// Appends one segment with its payload in hexadecimal.
-void JpegXml::MarkerScan(std::uint16_t markNo, std::uint16_t markLen, std::string_view markName, FilePos pointer)
-{
-    const std::string name(markName);
-    const std::string id = name == "APP1" ? xmlAtt("id", hexNumber(markNo)) : std::string();
-    const std::string payload = reader().ReadHexString(pointer + 4, std::int64_t{markLen} - 2);
-    appendElement("<" + name + id + xmlAtt("d", "1") + ">", payload, "</" + name + ">\r\n");
-}
-
-void JpegXml::appendImage(FilePos firstByte)
-{
-    const std::int64_t length = reader().fileSize() - firstByte.value - 2;
-    append("<IMG" + xmlAtt("offset", firstByte.value) + xmlAtt("length", length) + xmlAtt("d", "1") + "></IMG>");
-}
-
-/// Appends the whole of an element, or nothing when the text has reached its limit.
-void JpegXml::appendElement(std::string_view openingTag, std::string_view content, std::string_view closingTag)
-{
-    const std::size_t size = openingTag.size() + content.size() + closingTag.size();
-    reader().charge(static_cast<std::int64_t>(size));
-    if (content.size() > m_text.size())
-        m_text.reserve(2 * m_text.size() + size); // so that the few characters behind a huge value do not double it
-    m_text.append(openingTag).append(content).append(closingTag);
+    return FileTranslation(*file, FileName, keep).run();
 }
 
 } // namespace ovisto

@@ -1,5 +1,6 @@
 #include "reader/JpegXml.h"
 #include "common/xml/XmlDocument.h"
+#include "jpeg/ByteReader.h"
 #include "support/JpegBytes.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace ovisto {
+
+/// What a translation keeps of the parts of a file that not everybody wants.
+struct KeepOptions {
+    bool pCodifyMakerNote = true; ///< the maker note: tag 927C and its bytes
+    bool pCodifyThumb = true;     ///< the second directory with the thumbnail
+    bool pCodifyExif1 = true;     ///< APP1 segments that are not Exif
+};
+
+} // namespace ovisto
