@@ -6,13 +6,24 @@
 #include "document/DataType.h"
 #include "document/TagNumbers.h"
 #include "document/XmlText.h"
-#include "reader/EntryValue.h"
 
 namespace ovisto {
 
 namespace {
 
 constexpr int kMostEntries = 200; // cameras write some dozens; more means that this is no directory
+
+/// Whether the link to the next directory that ends `directory` leads to `part`.
+bool isLinkedFrom(const ExifPart& part, const ExifPart& directory)
+{
+    return part.pointer.offset == 0 && part.pointedFrom == directory.element;
+}
+
+/// Whether a run of bytes has an entry that says how long it is.
+bool hasLengthEntry(const ExifPart& part)
+{
+    return part.pointer.length != 0;
+}
 
 } // namespace
 
@@ -34,7 +45,7 @@ void ExifDecoding::ExifScan(std::uint16_t markLen, FilePos pointer)
         m_reader.littleEndian = byteOrder == "II";
         appendContainer(
             "<Exif" + xmlAtt("id", "FFE1") + xmlAtt("byteSeq", byteOrder) + xmlAtt("d", "7") + ">\r\n",
-            [&] { scanDirectories(base); }, "</Exif>\r\n");
+            [&] { scanFirstDirectory(base); }, "</Exif>\r\n");
     } else if (m_keep.pCodifyExif1) {
         scanOtherApp1(markLen, pointer, identifier);
     } else {
@@ -42,47 +53,61 @@ void ExifDecoding::ExifScan(std::uint16_t markLen, FilePos pointer)
     }
 }
 
-/// Reads the directories of an Exif segment, each only as long as nothing went wrong before.
-void ExifDecoding::scanDirectories(FilePos base)
+/// Follows the TIFF header to the first directory, and from there on to all that the segment has.
+void ExifDecoding::scanFirstDirectory(FilePos base)
 {
-    const TiffOffset first{m_reader.ReadLong(base + 4)};
-    const int entries = m_reader.ReadInteger(filePos(base, first));
-    const TiffOffset second{m_reader.ReadLong(ifdEntryPosition(filePos(base, first), entries))};
-    IFDScan(base, first);
+    const ExifPart& first = *exifPart(kFirstDirectory);
+    placeOf(first).offset.value = m_reader.ReadLong(base + 4);
+    scanDirectory(first, base);
+}
 
-    if (!m_errors.pending() && m_pointers.exif.value > 0) {
-        const auto content = [&] {
-            IFDScan(base, m_pointers.exif);
-            if (m_pointers.makerNote.value > 0)
-                appendBytes("MAKE", filePos(base, m_pointers.makerNote), m_pointers.makerNoteLength, "\r\n");
-        };
-        appendContainer("<IFDE" + xmlAtt("d", "2") + ">", content, "</IFDE>");
+/// Reads the entries of a directory, then the parts that stand below it in the document.
+void ExifDecoding::scanDirectory(const ExifPart& directory, FilePos base)
+{
+    const TiffOffset offset = placeOf(directory).offset;
+    const FilePos position = filePos(base, offset);
+    for (const ExifPart& part : kExifParts) {
+        if (isLinkedFrom(part, directory))
+            placeOf(part).offset.value = m_reader.ReadLong(ifdEntryPosition(position, m_reader.ReadInteger(position)));
     }
-    if (!m_errors.pending() && m_pointers.interoperability.value > 0) {
-        const auto content = [&] { IFDScan(base, m_pointers.interoperability); };
-        appendContainer("<IFDI" + xmlAtt("d", "2") + ">", content, "</IFDI>");
+    IFDScan(base, offset);
+    for (const ExifPart& part : kExifParts) {
+        if (part.parent == directory.element && isThere(part))
+            appendPart(part, base);
     }
-    if (m_errors.pending() || second.value == 0)
+}
+
+/// Whether the segment says that it has the part.
+bool ExifDecoding::isThere(const ExifPart& part)
+{
+    return hasLengthEntry(part) ? placeOf(part).length > 0 : placeOf(part).offset.value > 0;
+}
+
+/// Appends the element of a part. After an error, no further directory is read.
+void ExifDecoding::appendPart(const ExifPart& part, FilePos base)
+{
+    if (part.kind == PartKind::Bytes)
+        return appendBytes(part, base);
+    if (m_errors.pending())
         return;
-    if (!m_keep.pCodifyThumb) {
+    if (part.purpose == kThumbnailBytes && !m_keep.pCodifyThumb) {
         m_changesMade = true;
         return;
     }
-    const auto content = [&] {
-        IFDScan(base, second);
-        if (m_pointers.thumbnailLength > 0)
-            appendBytes("THUM", filePos(base, m_pointers.thumbnail), m_pointers.thumbnailLength, "");
-    };
-    appendContainer("<IFD1" + xmlAtt("d", "2") + ">", content, "</IFD1>");
+    const std::string name(part.element);
+    appendContainer(
+        "<" + name + xmlAtt("d", "2") + ">", [&] { scanDirectory(part, base); }, "</" + name + ">");
 }
 
 /// Appends an element of plain bytes; it is empty where they cannot be read.
-void ExifDecoding::appendBytes(std::string_view name, FilePos first, std::int64_t length, std::string_view end)
+void ExifDecoding::appendBytes(const ExifPart& part, FilePos base)
 {
+    const Place& place = placeOf(part);
     std::string bytes;
-    m_errors.run([&] { bytes = m_reader.ReadHexString(first, length); });
-    const std::string element(name);
-    m_text.appendElement("<" + element + xmlAtt("d", "1") + ">", bytes, "</" + element + ">" + std::string(end));
+    m_errors.run([&] { bytes = m_reader.ReadHexString(filePos(base, place.offset), place.length); });
+    const std::string name(part.element);
+    const std::string end = part.element == kMakerNoteBytes ? "\r\n" : ""; // the layout of the document
+    m_text.appendElement("<" + name + xmlAtt("d", "1") + ">", bytes, "</" + name + ">" + end);
 }
 
 /// An APP1 segment of another kind (XMP, say) is kept as text, as it stands.
@@ -123,7 +148,7 @@ void ExifDecoding::appendEntry(const IfdEntry& entry)
 {
     EntryValue value{.dataType = entryDataType(entry), .text = {}};
     m_errors.run([&] { value = entryValue(m_reader, entry); });
-    m_errors.run([&] { recordPointer(entry, value.dataType, value.text); });
+    m_errors.run([&] { recordPointer(entry, value); });
     std::string openingTag = "<IFD";
     openingTag.append(xmlAtt("id", hexNumber(entry.tag, 4)))
         .append(xmlAtt("d", std::int64_t{value.dataType}))
@@ -131,35 +156,32 @@ void ExifDecoding::appendEntry(const IfdEntry& entry)
     m_text.appendElement(openingTag, value.text, "</IFD>\r\n");
 }
 
-/// Remembers where an entry says that other parts of the segment are. The text counts, as it is what the document says.
-void ExifDecoding::recordPointer(const IfdEntry& entry, int dataType, std::string_view value)
+/// Remembers where an entry, in whichever directory, says that other parts of the segment are. The text counts, as it
+/// is what the document says.
+void ExifDecoding::recordPointer(const IfdEntry& entry, const EntryValue& value)
 {
-    switch (entry.tag) {
-    case kExifDirectory:
-        m_pointers.exif.value = toLong(value);
-        break;
-    case kInteroperabilityDirectory:
-        m_pointers.interoperability.value = toLong(value);
-        break;
-    case kMakerNote:
-        if (dataType == kUndefined) {
-            m_pointers.makerNote.value = toLong(value);
-            m_pointers.makerNoteLength = entry.count;
+    for (const ExifPart& part : kExifParts) {
+        if (entry.tag == part.pointer.offset || entry.tag == part.strips.offset) {
+            recordOffset(part, entry, value);
+        } else if (entry.tag == part.pointer.length) {
+            placeOf(part).length = toLong(value.text);
+        } else if (entry.tag == part.strips.length) {
+            for (const std::string_view length : split(value.text, ','))
+                placeOf(part).length += toLong(length);
         }
-        break;
-    case kStripOffsets: // strips stand one after the other, so the first one is where they begin
-    case kThumbnailOffset:
-        m_pointers.thumbnail.value = toLong(split(value, ',').front());
-        break;
-    case kThumbnailLength:
-        m_pointers.thumbnailLength = toLong(value);
-        break;
-    case kStripByteCounts:
-        for (const std::string_view length : split(value, ','))
-            m_pointers.thumbnailLength += toLong(length);
-        break;
-    default:
-        break;
+    }
+}
+
+void ExifDecoding::recordOffset(const ExifPart& part, const IfdEntry& entry, const EntryValue& value)
+{
+    Place& place = placeOf(part);
+    if (part.kind == PartKind::Directory) {
+        place.offset.value = toLong(value.text);
+    } else if (hasLengthEntry(part)) { // strips stand one after the other, so the first one is where they begin
+        place.offset.value = toLong(split(value.text, ',').front());
+    } else if (value.dataType == kUndefined) { // in any other format the value is not an offset
+        place.offset.value = toLong(value.text);
+        place.length = entry.count;
     }
 }
 

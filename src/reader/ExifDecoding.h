@@ -1,13 +1,18 @@
 #pragma once
 
 #include "common/Error.h"
+#include "document/Directories.h"
 #include "jpeg/ByteReader.h"
 #include "jpeg/FilePosition.h"
 #include "jpeg/IfdEntry.h"
 #include "reader/DocumentText.h"
+#include "reader/EntryValue.h"
 #include "reader/KeepOptions.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -30,28 +35,32 @@ public:
     bool changesMade() const { return m_changesMade; }
 
 private:
-    void scanDirectories(FilePos base);
+    /// Where a part of the segment stands; 0 where no entry says so.
+    struct Place {
+        TiffOffset offset;
+        std::int64_t length = 0;
+    };
+
+    void scanFirstDirectory(FilePos base);
+    void scanDirectory(const ExifPart& directory, FilePos base);
     void scanOtherApp1(std::uint16_t markLen, FilePos pointer, const std::string& identifier);
     void IFDScan(FilePos base, TiffOffset ifdOffset);
     void appendEntry(const IfdEntry& entry);
-    void appendBytes(std::string_view name, FilePos first, std::int64_t length, std::string_view end);
-    void recordPointer(const IfdEntry& entry, int dataType, std::string_view value);
+    void appendPart(const ExifPart& part, FilePos base);
+    void appendBytes(const ExifPart& part, FilePos base);
     template <class Content>
     void appendContainer(const std::string& openingTag, Content content, std::string_view closingTag);
-
-    /// What the entries say of the places of the other parts of the segment; 0 where they say nothing.
-    struct Pointers {
-        TiffOffset exif, interoperability, makerNote, thumbnail;
-        std::int64_t makerNoteLength = 0;
-        std::int64_t thumbnailLength = 0;
-    };
+    void recordPointer(const IfdEntry& entry, const EntryValue& value);
+    void recordOffset(const ExifPart& part, const IfdEntry& entry, const EntryValue& value);
+    bool isThere(const ExifPart& part);
+    Place& placeOf(const ExifPart& part) { return m_places[static_cast<std::size_t>(&part - kExifParts)]; }
 
     ByteReader& m_reader;
     DocumentText& m_text;
     const KeepOptions& m_keep;
     bool m_changesMade = false;
-    Pointers m_pointers;
-    ErrorTrap m_errors; // of what could not be read
+    std::array<Place, std::size(kExifParts)> m_places; // a place for each row of the table
+    ErrorTrap m_errors;                                // of what could not be read
 };
 
 } // namespace ovisto
