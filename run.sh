@@ -6,7 +6,7 @@ cd "$(dirname "$0")"
 . tools/install.sh
 install_packages "${BUILD_PACKAGES[@]}"
 
-cmake --preset release -D OVISTO_TESTS=OFF -D OVISTO_BENCH=OFF -B build/run >/dev/null
+cmake -G Ninja -D OVISTO_TESTS=OFF -D OVISTO_BENCH=OFF -B build/run >/dev/null
 cmake --build build/run
 
 target=${1:-samples}

@@ -4,6 +4,10 @@ BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libxml2-dev libxslt1-dev libpcr
     libmimalloc-dev qt6-base-dev)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libxml2-utils libimage-exiftool-perl)
 LINT_PACKAGES=(clang-format clang-tidy)
+FUZZ_PACKAGES=(clang libclang-rt-dev)
+
+# Where ccache is installed, CMake uses it, and a checkout in another folder finds what an earlier one compiled.
+export CCACHE_BASEDIR=${CCACHE_BASEDIR:-$PWD} CCACHE_NOHASHDIR=1
 
 # Installs those of the packages that are missing, as root or with sudo, and says which.
 install_packages() {
