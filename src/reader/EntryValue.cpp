@@ -5,89 +5,44 @@
 #include "document/TagNumbers.h"
 #include "document/XmlText.h"
 
-#include <algorithm>
-#include <iterator>
+#include <cstdint>
 
 namespace ovisto {
 
 namespace {
-
-constexpr std::int64_t kFirstOutside = 5; // values of fewer bytes stand in the entry
 
 TiffOffset valueOffset(ByteReader& reader, const IfdEntry& entry)
 {
     return {reader.ReadLong(entry.valueField())};
 }
 
-FilePos valueAtOffset(ByteReader& reader, const IfdEntry& entry)
+/// Whether the value, of components of `size` bytes, fits into the entry and hence stands there.
+bool isInside(const IfdEntry& entry, std::int64_t size)
 {
-    return filePos(entry.base, valueOffset(reader, entry));
+    return entry.count * size <= kValueFieldSize;
 }
 
-/// Where the bytes of a byte array or a text stand.
-FilePos bytesOf(ByteReader& reader, const IfdEntry& entry)
+FilePos valuePosition(ByteReader& reader, const IfdEntry& entry, std::int64_t size = 1)
 {
-    return entry.count < kFirstOutside ? entry.valueField() : valueAtOffset(reader, entry);
+    return isInside(entry, size) ? entry.valueField() : filePos(entry.base, valueOffset(reader, entry));
 }
 
 /// The characters of a text. A text in the entry may fill it; one outside ends with a zero byte, which is left out.
 std::string textOf(ByteReader& reader, const IfdEntry& entry)
 {
-    const std::int64_t length = entry.count < kFirstOutside ? entry.count : std::int64_t{entry.count} - 1;
-    return reader.ReadString(bytesOf(reader, entry), length);
-}
-
-/// The numbers of an array, `size` bytes each, as `number` renders the one at a place, with commas between them.
-template <class Number>
-std::string joined(ByteReader& reader, FilePos first, std::int64_t count, std::int64_t size, Number number)
-{
-    reader.checkLength(count * size);
-    std::string text;
-    for (std::int64_t i = 0; i < count; ++i) {
-        if (i > 0)
-            text += ',';
-        text += number(first + i * size);
-    }
-    reader.charge(static_cast<std::int64_t>(text.size()));
-    return text;
+    const std::int64_t length = isInside(entry, 1) ? entry.count : std::int64_t{entry.count} - 1;
+    return reader.ReadString(valuePosition(reader, entry), length);
 }
 
 // The last byte of an array is left out; files that this program wrote are read by others with that in mind.
-EntryValue byteValue(ByteReader& reader, const IfdEntry& entry)
+std::string byteText(ByteReader& reader, const IfdEntry& entry)
 {
-    const FilePos bytes = bytesOf(reader, entry);
-    if (isWindowsText(entry.tag))
-        return {entryDataType(entry), XMLSanitize(reader.ReadUnicode(bytes, std::int64_t{entry.count} - 2))};
-    return {entry.format, reader.ReadHexString(bytes, std::int64_t{entry.count} - 1)};
+    return reader.ReadHexString(valuePosition(reader, entry), std::int64_t{entry.count} - 1);
 }
 
-EntryValue stringValue(ByteReader& reader, const IfdEntry& entry)
+std::string wideText(ByteReader& reader, const IfdEntry& entry)
 {
-    return {entry.format, XMLSanitize(textOf(reader, entry))};
-}
-
-// Two values fit into the entry and are read from there; none at all is read as an array.
-EntryValue shortValue(ByteReader& reader, const IfdEntry& entry)
-{
-    const bool inEntry = entry.count == 1 || entry.count == 2;
-    const FilePos first = inEntry ? entry.valueField() : valueAtOffset(reader, entry);
-    return {entry.format, joined(reader, first, entry.count, 2,
-                                 [&](FilePos place) { return numberText(reader.ReadInteger(place)); })};
-}
-
-EntryValue longValue(ByteReader& reader, const IfdEntry& entry)
-{
-    const FilePos first = entry.count == 1 ? entry.valueField() : valueAtOffset(reader, entry);
-    return {entry.format,
-            joined(reader, first, entry.count, 4, [&](FilePos place) { return numberText(reader.ReadLong(place)); })};
-}
-
-EntryValue rationalValue(ByteReader& reader, const IfdEntry& entry)
-{
-    const auto fraction = [&](FilePos place) {
-        return numberText(reader.ReadLong(place)) + "/" + numberText(reader.ReadLong(place + 4));
-    };
-    return {entry.format, joined(reader, valueAtOffset(reader, entry), entry.count, 8, fraction)};
+    return XMLSanitize(reader.ReadUnicode(valuePosition(reader, entry), std::int64_t{entry.count} - 2));
 }
 
 EntryValue undefinedValue(ByteReader& reader, const IfdEntry& entry)
@@ -95,25 +50,43 @@ EntryValue undefinedValue(ByteReader& reader, const IfdEntry& entry)
     if (entry.tag == kMakerNote)
         return {entry.format, numberText(valueOffset(reader, entry).value)};
     if (isFourByteTag(entry.tag))
-        return {entry.format, reader.ReadHexString(entry.valueField(), 4)};
+        return {entry.format, reader.ReadHexString(entry.valueField(), kValueFieldSize)};
     const std::string text = textOf(reader, entry);
     if (StringHasControlChars(text))
-        return {kByte, reader.ReadHexString(bytesOf(reader, entry), std::int64_t{entry.count} - 1)};
+        return {kByte, byteText(reader, entry)};
     return {entry.format, XMLSanitize(text)};
 }
 
-struct ValueFormat {
-    int number;
-    EntryValue (*value)(ByteReader&, const IfdEntry&);
-};
+std::string shortText(ByteReader& reader, FilePos place)
+{
+    return numberText(reader.ReadInteger(place));
+}
 
-constexpr ValueFormat kValueFormats[] = {
-    {kByte, byteValue},           {kString, stringValue},
-    {kShort, shortValue},         {kLong, longValue},
-    {kRational, rationalValue},   {kSignedByte, byteValue},
-    {kUndefined, undefinedValue}, {kSignedShort, shortValue},
-    {kSignedLong, longValue},     {kSignedRational, rationalValue},
-};
+std::string longText(ByteReader& reader, FilePos place)
+{
+    return numberText(reader.ReadLong(place));
+}
+
+std::string rationalText(ByteReader& reader, FilePos place)
+{
+    return longText(reader, place) + "/" + longText(reader, place + 4);
+}
+
+/// The numbers of an array, `size` bytes each, as `number` renders the one at a place, with commas between them.
+std::string joined(ByteReader& reader, const IfdEntry& entry, std::int64_t size,
+                   std::string (*number)(ByteReader&, FilePos))
+{
+    const FilePos first = valuePosition(reader, entry, size);
+    reader.checkLength(entry.count * size);
+    std::string text;
+    for (std::int64_t i = 0; i < entry.count; ++i) {
+        if (i > 0)
+            text += ',';
+        text += number(reader, first + i * size);
+    }
+    reader.charge(static_cast<std::int64_t>(text.size()));
+    return text;
+}
 
 } // namespace
 
@@ -125,8 +98,27 @@ int entryDataType(const IfdEntry& entry)
 
 EntryValue entryValue(ByteReader& reader, const IfdEntry& entry)
 {
-    const auto* row = std::ranges::find(kValueFormats, int{entry.format}, &ValueFormat::number);
-    return row != std::end(kValueFormats) ? row->value(reader, entry) : EntryValue{entry.format, {}};
+    const DataType* type = findDataType(entry.format);
+    const int dataType = entryDataType(entry);
+    if (type == nullptr)
+        return {dataType, {}};
+    switch (type->form) {
+    case ValueForm::Hexadecimal:
+        return {dataType, dataType == kUnicodeString ? wideText(reader, entry) : byteText(reader, entry)};
+    case ValueForm::Text:
+        return {dataType, XMLSanitize(textOf(reader, entry))};
+    case ValueForm::RawText:
+        return undefinedValue(reader, entry);
+    case ValueForm::Short:
+        return {dataType, joined(reader, entry, type->size, shortText)};
+    case ValueForm::Long:
+        return {dataType, joined(reader, entry, type->size, longText)};
+    case ValueForm::Rational:
+        return {dataType, joined(reader, entry, type->size, rationalText)};
+    case ValueForm::WideText:
+        break; // of the document only: a file that has this number means another type, which is not read
+    }
+    return {dataType, {}};
 }
 
 } // namespace ovisto
