@@ -1,6 +1,6 @@
 #include "jpeg/ByteReader.h"
 #include "common/text/CodePage.h"
-#include "document/XmlText.h"
+#include "common/text/Hex.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 
@@ -79,13 +79,13 @@ TEST_F(ByteReaderTest, ReadsAcrossThePiecesThatItKeepsInMemory)
     for (std::size_t i = 0; i < content.size(); ++i)
         content[i] = static_cast<std::uint8_t>(i % 251 + 1);
     ByteReader& reader = over(content);
-    const std::string run = reader.ReadHexString({1}, 200'000);
-    for (const std::int64_t place : {std::int64_t{0}, std::int64_t{16382}, std::int64_t{65534}, std::int64_t{131071},
-                                     std::int64_t{16383}, std::int64_t{199'996}}) {
-        EXPECT_EQ(reader.ReadHexString({place + 1}, 4), run.substr(static_cast<std::size_t>(2 * place), 8));
-        const auto byte = [&](std::int64_t i) { return content[static_cast<std::size_t>(place + i)]; };
-        EXPECT_EQ(reader.ReadLong({place + 1}),
-                  (std::uint32_t{byte(0)} << 24) + (std::uint32_t{byte(1)} << 16) + (byte(2) << 8) + byte(3));
+    std::string run;
+    appendHexRun(run, content);
+    EXPECT_EQ(reader.ReadHexString({1}, 200'000), run);
+    for (const std::int64_t place : {0, 16382, 65534, 131071, 16383, 199'996}) {
+        const std::string bytes = run.substr(static_cast<std::size_t>(2 * place), 8);
+        EXPECT_EQ(reader.ReadHexString({place + 1}, 4), bytes);
+        EXPECT_EQ(hexNumber(reader.ReadLong({place + 1}), 8), bytes);
     }
     EXPECT_EQ(characterCount(reader.ReadStringNull({1})), 200'000U);
 }
@@ -99,29 +99,6 @@ TEST_F(ByteReaderTest, StopsWhenTheSameBytesAreReadWithoutEnd)
     EXPECT_EQ(reads, textLimit(100) / 131072);
     ASSERT_TRUE(reader.failure());
     EXPECT_EQ(reader.failure()->number, kOutOfMemory);
-}
-
-TEST(XmlText, EscapesMarkupAndEverythingOutsideAscii)
-{
-    const struct {
-        const char* text;
-        const char* escaped;
-    } cases[] = {{"a<b & 'c'", "a&lt;b &amp; &apos;c&apos;"},
-                 {"\">", "&quot;&gt;"},
-                 {"a\nb\t", "a&#10;b&#9;"},
-                 {"é", "&#233;"},
-                 {"€\x7F", "€\x7F"},
-                 {"\u201A", "&#130;"},
-                 {"\u0081", "&#129;"},
-                 {"Ж😀", "??"},
-                 {"\xFFz", "?z"}};
-    for (const auto& c : cases)
-        EXPECT_EQ(XMLSanitize(c.text), c.escaped);
-    EXPECT_EQ(xmlAtt("id", "010F"), " id=\"010F\"");
-    EXPECT_EQ(xmlAtt("offset", 12'345'678), " offset=\"1.234568E+07\"");
-    EXPECT_FALSE(StringHasControlChars(""));
-    EXPECT_FALSE(StringHasControlChars("é"));
-    EXPECT_TRUE(StringHasControlChars("a\tb"));
 }
 
 } // namespace ovisto::test

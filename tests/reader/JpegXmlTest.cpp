@@ -1,4 +1,5 @@
 #include "reader/JpegXml.h"
+#include "common/text/Hex.h"
 #include "common/xml/XmlDocument.h"
 #include "jpeg/ByteReader.h"
 #include "support/JpegBytes.h"
@@ -7,6 +8,7 @@
 
 #include <random>
 #include <regex>
+#include <span>
 
 namespace ovisto::test {
 
@@ -18,29 +20,32 @@ Translation translate(const Bytes& jpeg, const KeepOptions& keep = {})
     return JpegXml().XMLtranslate(folder.file("a.jpg", jpeg), keep);
 }
 
-/// The document of a file without its first line, which names a temporary folder.
+/// A document without its first line, which names a temporary folder.
+std::string withoutFirstLine(const std::string& text)
+{
+    const auto end = text.find("\r\n");
+    return end == std::string::npos ? text : text.substr(end + 2);
+}
+
 std::string body(const Bytes& jpeg, const KeepOptions& keep = {})
 {
     const Translation translation = translate(jpeg, keep);
     EXPECT_FALSE(translation.error) << translation.error->description;
-    return translation.text.substr(translation.text.find("\r\n") + 2);
+    return withoutFirstLine(translation.text);
 }
 
-std::string between(const std::string& text, const std::string& start, const std::string& end)
+/// What the Exif element of a file has in it, when `payload` is the segment.
+std::string exifContent(const Bytes& payload)
 {
-    const auto from = text.find(start);
-    const auto to = text.find(end, from);
-    return from == std::string::npos || to == std::string::npos
-               ? "nothing in " + text
-               : text.substr(from + start.size(), to - from - start.size());
+    const std::string text = body(JpegBytes().segment(0xFFE1, payload).end());
+    const auto start = text.find("\r\n") + 2;
+    return text.substr(start, text.find("</Exif>") - start);
 }
 
-/// How one entry of the first directory is rendered.
-std::string entryText(const Tag& tag, bool littleEndian = true)
+/// The element of an entry.
+std::string ifd(std::uint16_t tag, int d, const std::string& text)
 {
-    ExifBytes exif(littleEndian);
-    exif.ifd0({tag});
-    return between(body(JpegBytes().exif(exif).end()), "d=\"7\">\r\n", "\r\n</Exif>");
+    return "<IFD id=\"" + hexNumber(tag, 4) + "\" d=\"" + std::to_string(d) + "\">" + text + "</IFD>\r\n";
 }
 
 /// Whether the elements of a document nest. Wide texts may hold controls, which XML has no way to say.
@@ -52,41 +57,39 @@ bool isWellFormed(const std::string& text)
 
 } // namespace
 
-TEST(JpegXml, TellsAPhotographInFullInEitherByteOrder)
+TEST(JpegXml, ReadsAPhotographInFullInEitherByteOrder)
 {
-    for (const bool littleEndian : {true, false}) {
-        const Bytes jpeg = fullPhotograph(littleEndian);
-        const std::string expected = "<APP0 d=\"1\">4A46494600010100000100010000</APP0>\r\n"
-                                     "<Exif id=\"FFE1\" byteSeq=\"" +
-                                     std::string(littleEndian ? "II" : "MM") +
-                                     "\" d=\"7\">\r\n"
-                                     "<IFD id=\"010F\" d=\"2\">Acme</IFD>\r\n"
-                                     "<IFD id=\"0110\" d=\"2\">M1</IFD>\r\n"
-                                     "<IFD id=\"0112\" d=\"3\">1</IFD>\r\n"
-                                     "<IFD id=\"011A\" d=\"5\">180/1</IFD>\r\n"
-                                     "<IFD id=\"8769\" d=\"4\">131</IFD>\r\n"
-                                     "<IFD id=\"9C9B\" d=\"11\">H&#233;llo</IFD>\r\n"
-                                     "<IFD id=\"9C9C\" d=\"11\">A&lt;B</IFD>\r\n"
-                                     "<IFDE d=\"2\"><IFD id=\"829A\" d=\"5\">1/250</IFD>\r\n"
-                                     "<IFD id=\"9000\" d=\"7\">0220</IFD>\r\n"
-                                     "<IFD id=\"9003\" d=\"2\">2024:05:06 07:08:09</IFD>\r\n"
-                                     "<IFD id=\"9101\" d=\"7\">01020300</IFD>\r\n"
-                                     "<IFD id=\"9214\" d=\"3\">10,20,30</IFD>\r\n"
-                                     "<IFD id=\"927C\" d=\"7\">278</IFD>\r\n"
-                                     "<IFD id=\"A005\" d=\"4\">260</IFD>\r\n"
-                                     "<MAKE d=\"1\">DEADBEEF00</MAKE>\r\n"
-                                     "</IFDE><IFDI d=\"2\"><IFD id=\"0001\" d=\"2\">R98</IFD>\r\n"
-                                     "</IFDI><IFD1 d=\"2\"><IFD id=\"0103\" d=\"3\">6</IFD>\r\n"
-                                     "<IFD id=\"0201\" d=\"4\">325</IFD>\r\n"
-                                     "<IFD id=\"0202\" d=\"4\">5</IFD>\r\n"
-                                     "<THUM d=\"1\">FFD801FFD9</THUM></IFD1></Exif>\r\n"
-                                     "<Exif1 id=\"FFE1\" ns=\"http://ns.adobe.com/xap/1.0/\" d=\"2\">\r\n"
-                                     "<![CDATA[<x:xmpmeta/>]]></Exif1>\r\n"
-                                     "<APP1 id=\"FFDB\" d=\"1\">000102</APP1>\r\n"
-                                     "<SOS d=\"1\">010100003F00</SOS>\r\n"
-                                     "<IMG offset=\"" +
-                                     std::to_string(jpeg.size() - 6) + "\" length=\"4\" d=\"1\"></IMG></JPEG>";
-        EXPECT_EQ(body(jpeg), expected);
+    const std::string expected = R"(<APP0 d="1">4A46494600010100000100010000</APP0>
+<Exif id="FFE1" byteSeq="II" d="7">
+<IFD id="010F" d="2">Acme</IFD>
+<IFD id="0110" d="2">M1</IFD>
+<IFD id="0112" d="3">1</IFD>
+<IFD id="011A" d="5">180/1</IFD>
+<IFD id="8769" d="4">131</IFD>
+<IFD id="9C9B" d="11">H&#233;llo</IFD>
+<IFD id="9C9C" d="11">A&lt;B</IFD>
+<IFDE d="2"><IFD id="829A" d="5">1/250</IFD>
+<IFD id="9000" d="7">0220</IFD>
+<IFD id="9003" d="2">2024:05:06 07:08:09</IFD>
+<IFD id="9101" d="7">01020300</IFD>
+<IFD id="9214" d="3">10,20,30</IFD>
+<IFD id="927C" d="7">278</IFD>
+<IFD id="A005" d="4">260</IFD>
+<MAKE d="1">DEADBEEF00</MAKE>
+</IFDE><IFDI d="2"><IFD id="0001" d="2">R98</IFD>
+</IFDI><IFD1 d="2"><IFD id="0103" d="3">6</IFD>
+<IFD id="0201" d="4">325</IFD>
+<IFD id="0202" d="4">5</IFD>
+<THUM d="1">FFD801FFD9</THUM></IFD1></Exif>
+<Exif1 id="FFE1" ns="http://ns.adobe.com/xap/1.0/" d="2">
+<![CDATA[<x:xmpmeta/>]]></Exif1>
+<APP1 id="FFDB" d="1">000102</APP1>
+<SOS d="1">010100003F00</SOS>
+<IMG offset="423" length="4" d="1"></IMG></JPEG>)";
+    for (const char* byteOrder : {"II", "MM"}) {
+        std::string text = std::regex_replace(expected, std::regex("\n"), "\r\n");
+        text.replace(text.find("II"), 2, byteOrder);
+        EXPECT_EQ(body(fullPhotograph(byteOrder == std::string("II"))), text);
     }
 }
 
@@ -101,66 +104,75 @@ TEST(JpegXml, NamesFolderAndFileEscaped)
 TEST(JpegXml, RendersEachDataFormatByItsRule)
 {
     const ExifBytes tiff;
-    const auto ifd = [](const std::string& id, int d, const std::string& text) {
-        return "<IFD id=\"" + id + "\" d=\"" + std::to_string(d) + "\">" + text + "</IFD>";
-    };
     const struct {
         Tag tag;
-        std::string text;
+        int d;
+        const char* text;
     } cases[] = {
-        {ExifBytes::raw(0x0001, 1, {7}), ifd("0001", 1, "")},
-        {ExifBytes::raw(0x0001, 1, {2, 2, 0, 0}), ifd("0001", 1, "020200")},
-        {ExifBytes::raw(0x0001, 6, {1, 2, 3, 4, 5, 6}), ifd("0001", 6, "0102030405")},
-        {ExifBytes::raw(0x9C9B, 1, {'H', 0, 0, 0}), ifd("9C9B", 11, "H")},
-        {ExifBytes::raw(0x9C9F, 6, {'H', 0, 0x16, 0x04, 'i', 0, 0, 0}), ifd("9C9F", 11, "H?i")},
-        {ExifBytes::raw(0x010E, 2, bytes("ABCD")), ifd("010E", 2, "ABCD")},
-        {ExifBytes::raw(0x010E, 2, bytes("ABCDE")), ifd("010E", 2, "ABCD")},
-        {ExifBytes::raw(0x010E, 2, {'A', 0, 'B', 'C', 'D', 0}), ifd("010E", 2, "A")},
-        {ExifBytes::raw(0x010E, 2, {'l', '\r', '\n', 3, 0x93, 0}), ifd("010E", 2, "l&#13;&#10;&#147;")},
-        {tiff.shorts(0x0102, {}), ifd("0102", 3, "")},
-        {tiff.shorts(0x0102, {8, 65535}, 8), ifd("0102", 8, "8,65535")},
-        {tiff.shorts(0x0102, {8, 9, 10}), ifd("0102", 3, "8,9,10")},
-        {tiff.longs(0x0100, {0xFFFFFFFF}, 9), ifd("0100", 9, "4.294967E+09")},
-        {tiff.longs(0x0100, {1, 12345678}), ifd("0100", 4, "1,1.234568E+07")},
-        {tiff.rationals(0x011A, {1, 2, 3, 4}), ifd("011A", 5, "1/2,3/4")},
-        {tiff.rationals(0x9204, {0xFFFFFFFF, 3}, 10), ifd("9204", 10, "4.294967E+09/3")},
-        {ExifBytes::raw(0x9286, 7, bytes("ASCII") + Bytes{0, 0, 0, 'x', 'y'}), ifd("9286", 7, "ASCII")},
-        {ExifBytes::raw(0x9286, 7, {'a', '\n', 'b'}), ifd("9286", 1, "610A")},
-        {ExifBytes::raw(0x9286, 7, {'a', 'b', 'c', '\t', 'e', 'f'}), ifd("9286", 1, "6162630965")},
-        {ExifBytes::raw(0xA300, 7, {3}), ifd("A300", 7, "03000000")},
-        {ExifBytes::raw(0xA302, 7, {1, 2, 3, 4, 5, 6, 7, 8}), ifd("A302", 7, "1A000000")},
-        {ExifBytes::raw(0x0001, 12, Bytes(8)), ifd("0001", 12, "")},
-        {ExifBytes::raw(0x0001, 11, Bytes(4)), ifd("0001", 11, "")},
-        {ExifBytes::raw(0x0001, 129, bytes("utf")), ifd("0001", 129, "")},
-        {{0x0001, 1, 70000, bytes("long!")}, ifd("0001", 1, "")},
+        {ExifBytes::raw(0x0001, 1, {7}), 1, ""},
+        {ExifBytes::raw(0x0001, 1, {2, 2, 0, 0}), 1, "020200"},
+        {ExifBytes::raw(0x0001, 6, {1, 2, 3, 4, 5, 6}), 6, "0102030405"},
+        {ExifBytes::raw(0x9C9B, 1, {'H', 0, 0, 0}), 11, "H"},
+        {ExifBytes::raw(0x9C9F, 6, {'H', 0, 0x16, 0x04, 'i', 0, 0, 0}), 11, "H?i"},
+        {ExifBytes::raw(0x010E, 2, bytes("ABCD")), 2, "ABCD"},
+        {ExifBytes::raw(0x010E, 2, bytes("ABCDE")), 2, "ABCD"},
+        {ExifBytes::raw(0x010E, 2, {'A', 0, 'B', 'C', 'D', 0}), 2, "A"},
+        {ExifBytes::raw(0x010E, 2, {'l', '\r', '\n', 3, 0x93, 0}), 2, "l&#13;&#10;&#147;"},
+        {tiff.shorts(0x0102, {}), 3, ""},
+        {tiff.shorts(0x0102, {8, 65535}, 8), 8, "8,65535"},
+        {tiff.shorts(0x0102, {8, 9, 10}), 3, "8,9,10"},
+        {tiff.longs(0x0100, {0xFFFFFFFF}, 9), 9, "4.294967E+09"},
+        {tiff.longs(0x0100, {1, 12345678}), 4, "1,1.234568E+07"},
+        {tiff.rationals(0x011A, {1, 2, 3, 4}), 5, "1/2,3/4"},
+        {tiff.rationals(0x9204, {0xFFFFFFFF, 3}, 10), 10, "4.294967E+09/3"},
+        {ExifBytes::raw(0x9286, 7, bytes("ASCII") + Bytes{0, 0, 0, 'x', 'y'}), 7, "ASCII"},
+        {ExifBytes::raw(0x9286, 7, {'a', '\n', 'b'}), 1, "610A"},
+        {ExifBytes::raw(0x9286, 7, {'a', 'b', 'c', '\t', 'e', 'f'}), 1, "6162630965"},
+        {ExifBytes::raw(0xA300, 7, {3}), 7, "03000000"},
+        {ExifBytes::raw(0xA302, 7, {1, 2, 3, 4, 5, 6, 7, 8}), 7, "1A000000"},
+        {ExifBytes::raw(0x0001, 12, Bytes(8)), 12, ""},
+        {ExifBytes::raw(0x0001, 11, Bytes(4)), 11, ""},
+        {ExifBytes::raw(0x0001, 129, bytes("utf")), 129, ""},
+        {{0x0001, 1, 70000, bytes("long!")}, 1, ""},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(entryText(c.tag), c.text);
-    const Bytes wide = {0, 'H', 0, 'i', 0, 0};
-    EXPECT_EQ(entryText(ExifBytes::raw(0x9C9B, 1, wide), false), ifd("9C9B", 11, "Hi"));
+        EXPECT_EQ(exifContent(ExifBytes().ifd0({c.tag}).payload()), ifd(c.tag.number, c.d, c.text));
 }
 
-TEST(JpegXml, EndsADirectoryAtAZeroTagAndRefusesOver200Entries)
+TEST(JpegXml, ReadsDirectoriesAsFarAsTheyCanBeTrusted)
 {
-    ExifBytes exif;
-    exif.ifd0({exif.shorts(0x0112, {1}), exif.shorts(0, {2}), exif.shorts(0x0113, {3})});
-    EXPECT_EQ(between(body(JpegBytes().exif(exif).end()), "\"7\">\r\n", "</Exif>"),
-              "<IFD id=\"0112\" d=\"3\">1</IFD>\r\n");
-
-    for (const std::uint16_t count : {std::uint16_t{200}, std::uint16_t{201}}) {
-        std::vector<Tag> tags;
-        for (std::uint16_t i = 1; i <= count; ++i)
-            tags.push_back(exif.shorts(i, {i}));
-        ExifBytes many;
-        many.ifd0(tags);
-        const std::string content = between(body(JpegBytes().exif(many).end()), "\"7\">\r\n", "</Exif>");
-        if (count == 200) {
-            EXPECT_TRUE(content.ends_with("<IFD id=\"00C8\" d=\"3\">200</IFD>\r\n"));
-        } else {
-            EXPECT_EQ(content.find("IFD directory seems corrupted: more than 200 entries! C900010003000100"), 0U);
-            EXPECT_EQ(content.size(), 54U + 200U);
-        }
-    }
+    const ExifBytes tiff;
+    const Tag one = tiff.shorts(1, {1});
+    std::string mostText;
+    for (int i = 0; i < 200; ++i)
+        mostText += ifd(1, 3, "1");
+    const Bytes tooMany = ExifBytes().ifd0(std::vector<Tag>(201, one)).payload();
+    std::string shown;
+    appendHexRun(shown, std::span(tooMany).subspan(14, 100));
+    const Tag unreadable{0x0001, 3, 0x7FFFFFFF, Bytes(5)};
+    const struct {
+        const char* name;
+        Bytes payload;
+        std::string content;
+    } cases[] = {
+        {"up to a zero tag",
+         ExifBytes().ifd0({tiff.shorts(0x0112, {1}), tiff.shorts(0, {2}), tiff.shorts(0x0113, {3})}).payload(),
+         ifd(0x0112, 3, "1")},
+        {"the most entries", ExifBytes().ifd0(std::vector<Tag>(200, one)).payload(), mostText},
+        {"too many entries", tooMany, "IFD directory seems corrupted: more than 200 entries! " + shown},
+        {"none after an error, but the entry itself",
+         ExifBytes().ifd0({unreadable}).exif({tiff.shorts(0x8822, {1})}).payload(),
+         ifd(0x0001, 3, "") + ifd(0x8769, 4, "43")},
+        {"a maker note that is not Undefined is an entry like others",
+         ExifBytes().ifd0({}).exif({tiff.longs(0x927C, {8})}).payload(),
+         ifd(0x8769, 4, "26") + "<IFDE d=\"2\">" + ifd(0x927C, 4, "8") + "</IFDE>"},
+        {"a thumbnail in strips, from the first one on",
+         ExifBytes().ifd0({}).ifd1({tiff.longs(0x0111, {52, 54}), tiff.shorts(0x0117, {2, 3})}).payload() +
+             Bytes{1, 2, 3, 4, 5},
+         "<IFD1 d=\"2\">" + ifd(0x0111, 4, "52,54") + ifd(0x0117, 3, "2,3") + "<THUM d=\"1\">0102030405</THUM></IFD1>"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(exifContent(c.payload), c.content) << c.name;
 }
 
 TEST(JpegXml, LeavesOutWhatIsNotToBeKeptAndSaysSo)
@@ -182,25 +194,7 @@ TEST(JpegXml, LeavesOutWhatIsNotToBeKeptAndSaysSo)
     EXPECT_EQ(body(jpeg, {.pCodifyMakerNote = false}).find("MAKE"), std::string::npos);
 }
 
-TEST(JpegXml, SkipsTheOtherDirectoriesAfterAnErrorInTheFirst)
-{
-    ExifBytes exif;
-    exif.ifd0({{0x0001, 3, 0x7FFFFFFF, Bytes(5)}}).exif({exif.shorts(0x8822, {1})});
-    const std::string text = body(JpegBytes().exif(exif).end());
-    EXPECT_EQ(text.find("IFDE"), std::string::npos);
-    EXPECT_NE(text.find("<IFD id=\"0001\" d=\"3\"></IFD>"), std::string::npos) << "the entry itself stays";
-}
-
-TEST(JpegXml, TakesThumbnailsInStripsFromTheirFirstStripOn)
-{
-    ExifBytes exif;
-    exif.ifd0({}).ifd1({exif.longs(0x0111, {52, 54}), exif.shorts(0x0117, {2, 3})});
-    const std::string text = body(JpegBytes().segment(0xFFE1, exif.payload() + Bytes{1, 2, 3, 4, 5}).end());
-    EXPECT_NE(text.find("<IFD id=\"0117\" d=\"3\">2,3</IFD>"), std::string::npos);
-    EXPECT_EQ(between(text, "<THUM d=\"1\">", "</THUM>"), "0102030405");
-}
-
-TEST(JpegXml, TellsSegmentsOfAnyMarkerUpToTheScan)
+TEST(JpegXml, ReadsSegmentsOfAnyMarkerUpToTheScan)
 {
     const Bytes jpeg = JpegBytes().segment(0xFFFE, bytes("hi")).segment(0xFFD9, {}).segment(0xFF01, {5}).end({});
     EXPECT_EQ(body(jpeg).find("<APP1 id=\"FFFE\" d=\"1\">6869</APP1>\r\n<APP1 id=\"FFD9\" d=\"1\"></APP1>\r\n"
@@ -213,51 +207,46 @@ TEST(JpegXml, TellsSegmentsOfAnyMarkerUpToTheScan)
         std::string::npos);
 }
 
-TEST(JpegXml, ReportsTheFourErrorsWithTheTextSoFar)
+TEST(JpegXml, ReportsItsErrorsWithTheTextSoFar)
 {
     const TemporaryFolder folder;
-    const std::string missing = folder.path("none.jpg");
+    const std::string path = folder.path("a.jpg");
+    const auto expectError = [&](int number, const std::string& description, const std::string& text) {
+        const Translation translation = JpegXml().XMLtranslate(path);
+        ASSERT_TRUE(translation.error) << description;
+        EXPECT_EQ(translation.error->number, number);
+        EXPECT_EQ(translation.error->description, description + path);
+        EXPECT_EQ(withoutFirstLine(translation.text), text);
+    };
+    expectError(kOpenFailed, "File not found  file=", "");
     const struct {
-        std::string path;
-        int number;
-        std::string description;
-        std::string text;
+        Bytes file;
+        const char* description;
+        const char* text;
     } cases[] = {
-        {missing, kOpenFailed, "File not found  file=" + missing, ""},
-        {folder.file("empty", Bytes{}), kStructureError,
-         "Not a JPEG file - hFFD8 expected at start of file " + folder.path("empty"), ""},
-        {folder.file("marker", JpegBytes().app0().raw({0, 0, 0, 0}).unfinished()), kStructureError,
-         "Header seems corrupted - unknown Marker 0 " + folder.path("marker"),
-         "<APP0 d=\"1\">4A46494600010100000100010000</APP0>\r\n</JPEG>"},
-        {folder.file("noscan", JpegBytes().raw({0xFF, 0xDB, 0, 9, 1}).unfinished()), kStructureError,
-         "No StartOfStream marker found " + folder.path("noscan"),
+        {{}, "Not a JPEG file - hFFD8 expected at start of file ", ""},
+        {{0xFF, 0xD8}, "Header seems corrupted - unknown Marker 0 ", "</JPEG>"},
+        {JpegBytes().segment(0xFFFE, {7}).raw({0xFF, 0, 0, 0}).unfinished(),
+         "Header seems corrupted - unknown Marker FF00 ", "<APP1 id=\"FFFE\" d=\"1\">07</APP1>\r\n</JPEG>"},
+        {JpegBytes().raw({0xFF, 0xDB, 0, 9, 1}).unfinished(), "No StartOfStream marker found ",
          "<APP1 id=\"FFDB\" d=\"1\">01000000000000</APP1>\r\n</JPEG>"},
     };
     for (const auto& c : cases) {
-        const Translation translation = JpegXml().XMLtranslate(c.path);
-        ASSERT_TRUE(translation.error) << c.path;
-        EXPECT_EQ(translation.error->number, c.number);
-        EXPECT_EQ(translation.error->description, c.description);
-        const auto firstLine = translation.text.find("\r\n");
-        EXPECT_EQ(firstLine == std::string::npos ? "" : translation.text.substr(firstLine + 2), c.text);
+        folder.file("a.jpg", c.file);
+        expectError(kStructureError, c.description, c.text);
     }
 }
 
 TEST(JpegXml, SurvivesAFileCutShortAtAnyLength)
 {
     const TemporaryFolder folder;
-    for (const bool littleEndian : {true, false}) {
-        const Bytes whole = fullPhotograph(littleEndian);
-        for (std::size_t length = 0; length < whole.size(); ++length) {
-            const Translation translation = JpegXml().XMLtranslate(
-                folder.file("a.jpg", Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length))));
-            if (length >= 2) {
-                EXPECT_TRUE(isWellFormed(translation.text)) << length;
-            }
-            if (length < whole.size() - 17) { // into the scan header
-                EXPECT_TRUE(translation.error) << length;
-            }
-        }
+    const Bytes whole = fullPhotograph(false);
+    const std::size_t scanHeader = whole.size() - 17;
+    for (Bytes cut = whole; cut.size() > 2;) {
+        cut.pop_back();
+        const Translation translation = JpegXml().XMLtranslate(folder.file("a.jpg", cut));
+        EXPECT_TRUE(isWellFormed(translation.text)) << cut.size();
+        EXPECT_TRUE(translation.error || cut.size() >= scanHeader) << cut.size();
     }
 }
 
@@ -276,13 +265,10 @@ TEST(JpegXml, SurvivesSpoiltBytes)
     }
 }
 
-TEST(JpegXml, GivesUpOnDirectoriesThatTellTheSameBytesAgainAndAgain)
+TEST(JpegXml, GivesUpOnDirectoriesThatRepeatTheSameBytesAgainAndAgain)
 {
     ExifBytes exif;
-    std::vector<Tag> tags;
-    for (std::uint16_t i = 1; i <= 200; ++i)
-        tags.push_back({i, 1, 60000, Bytes(5)});
-    exif.ifd0(tags);
+    exif.ifd0(std::vector<Tag>(200, {1, 1, 60000, Bytes(5)}));
     JpegBytes jpeg;
     for (int i = 0; i < 20; ++i)
         jpeg.exif(exif);
