@@ -32,7 +32,7 @@ Kind kindOf(mode_t mode)
 Kind kindOf(int folder, const dirent& entry)
 {
     if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)
-        return kindOf(DTTOIF(entry.d_type));
+        return kindOf(static_cast<mode_t>(DTTOIF(entry.d_type)));
     struct stat status = {};
     return fstatat(folder, entry.d_name, &status, 0) == 0 ? kindOf(status.st_mode) : Kind::Other;
 }
