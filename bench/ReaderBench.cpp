@@ -21,7 +21,7 @@ public:
 
 void translate(benchmark::State& state)
 {
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(ovisto::JpegXml().XMLtranslate(photograph).text);
 }
 BENCHMARK(translate);
@@ -29,7 +29,7 @@ BENCHMARK(translate);
 void parseDocument(benchmark::State& state)
 {
     const std::string text = ovisto::JpegXml().XMLtranslate(photograph).text;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(ovisto::documentOf(text));
 }
 BENCHMARK(parseDocument);
@@ -38,7 +38,7 @@ void rewriteSynced(benchmark::State& state)
 {
     ovisto::XmlDocument document = ovisto::loadDocument(photograph);
     Silent reporter;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         ovisto::JpegDocument(reporter).WriteJpeg(document, photograph);
 }
 

@@ -10,6 +10,7 @@ echo "clang-format: clean"
 
 cmake --preset release >/dev/null
 cmake --build --preset release
-git ls-files 'src/*.cpp' |
+# fuzz/ is not in that build; clang-tidy takes the options of a similar file.
+git ls-files '*.cpp' |
     xargs -P "$(nproc)" -n 4 clang-tidy -p build/release --quiet --extra-arg=-Wno-unknown-warning-option
 echo "clang-tidy: clean"

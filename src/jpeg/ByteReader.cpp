@@ -4,6 +4,7 @@
 #include "common/text/Hex.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ovisto {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/Error.h"
 #include "common/system/File.h"
 #include "jpeg/FilePosition.h"
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/system/File.h"
 #include "jpeg/ByteReader.h"
 #include "jpeg/FilePosition.h"
 

@@ -4,6 +4,7 @@
 #include "document/DataType.h"
 #include "document/TagNumbers.h"
 #include "document/XmlText.h"
+#include "jpeg/FilePosition.h"
 
 #include <cstdint>
 

@@ -4,6 +4,8 @@
 #include "common/text/Hex.h"
 #include "common/text/PathText.h"
 #include "document/XmlText.h"
+#include "jpeg/ByteReader.h"
+#include "jpeg/FilePosition.h"
 #include "jpeg/Markers.h"
 #include "jpeg/Segments.h"
 #include "reader/DocumentText.h"
@@ -11,7 +13,6 @@
 
 #include <cstdint>
 #include <string_view>
-#include <utility>
 
 namespace ovisto {
 

@@ -1,10 +1,14 @@
 #include "jpeg/ByteReader.h"
+#include "common/Error.h"
 #include "common/text/CodePage.h"
 #include "common/text/Hex.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 
 #include <gtest/gtest.h>
+
+#include <cstdint>
+#include <optional>
 
 namespace ovisto::test {
 

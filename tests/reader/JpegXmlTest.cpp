@@ -6,9 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <random>
 #include <regex>
 #include <span>
+#include <string>
+#include <vector>
 
 namespace ovisto::test {
 
