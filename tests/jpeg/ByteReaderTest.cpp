@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 
 namespace ovisto::test {
@@ -22,6 +23,8 @@ protected:
         m_file.emplace(m_folder.file("a", content));
         return m_reader.emplace(*m_file);
     }
+
+    std::string path() const { return m_folder.path("a"); }
 
 private:
     TemporaryFolder m_folder;
@@ -103,6 +106,14 @@ TEST_F(ByteReaderTest, StopsWhenTheSameBytesAreReadWithoutEnd)
     EXPECT_EQ(reads, textLimit(100) / 131072);
     ASSERT_TRUE(reader.failure());
     EXPECT_EQ(reader.failure()->number, kOutOfMemory);
+}
+
+TEST_F(ByteReaderTest, ReadsZerosWhereTheFileWasCutMeanwhile)
+{
+    ByteReader& reader = over(Bytes(40'000, 'x'));
+    std::filesystem::resize_file(path(), 20'000);
+    EXPECT_EQ(reader.ReadHexString({20'000}, 3), "780000");
+    EXPECT_EQ(reader.ReadHexString({39'000}, 2), "0000");
 }
 
 } // namespace ovisto::test

@@ -1,13 +1,12 @@
 #include "reader/JpegXml.h"
 #include "common/text/Hex.h"
 #include "common/xml/XmlDocument.h"
-#include "jpeg/ByteReader.h"
 #include "support/JpegBytes.h"
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
-#include <random>
 #include <regex>
 #include <span>
 #include <string>
@@ -62,7 +61,9 @@ bool isWellFormed(const std::string& text)
 
 TEST(JpegXml, ReadsAPhotographInFullInEitherByteOrder)
 {
-    const std::string expected = R"(<APP0 d="1">4A46494600010100000100010000</APP0>
+    const TemporaryFolder folder;
+    const std::string expected = "<JPEG d=\"1\" folder=\"" + folder.path("") + R"(" fileName="&#233;&amp;?.jpg">
+<APP0 d="1">4A46494600010100000100010000</APP0>
 <Exif id="FFE1" byteSeq="II" d="7">
 <IFD id="010F" d="2">Acme</IFD>
 <IFD id="0110" d="2">M1</IFD>
@@ -92,16 +93,9 @@ TEST(JpegXml, ReadsAPhotographInFullInEitherByteOrder)
     for (const char* byteOrder : {"II", "MM"}) {
         std::string text = std::regex_replace(expected, std::regex("\n"), "\r\n");
         text.replace(text.find("II"), 2, byteOrder);
-        EXPECT_EQ(body(fullPhotograph(byteOrder == std::string("II"))), text);
+        const std::string path = folder.file("é&Ж.jpg", fullPhotograph(byteOrder == std::string("II")));
+        EXPECT_EQ(JpegXml().XMLtranslate(path).text, text);
     }
-}
-
-TEST(JpegXml, NamesFolderAndFileEscaped)
-{
-    const TemporaryFolder folder;
-    const std::string path = folder.file("é&Ж.jpg", JpegBytes().end());
-    const std::string start = JpegXml().XMLtranslate(path).text;
-    EXPECT_EQ(start.find("<JPEG d=\"1\" folder=\"" + folder.path("") + "\" fileName=\"&#233;&amp;?.jpg\">\r\n"), 0U);
 }
 
 TEST(JpegXml, RendersEachDataFormatByItsRule)
@@ -166,9 +160,10 @@ TEST(JpegXml, ReadsDirectoriesAsFarAsTheyCanBeTrusted)
         {"none after an error, but the entry itself",
          ExifBytes().ifd0({unreadable}).exif({tiff.shorts(0x8822, {1})}).payload(),
          ifd(0x0001, 3, "") + ifd(0x8769, 4, "43")},
-        {"a maker note that is not Undefined is an entry like others",
-         ExifBytes().ifd0({}).exif({tiff.longs(0x927C, {8})}).payload(),
-         ifd(0x8769, 4, "26") + "<IFDE d=\"2\">" + ifd(0x927C, 4, "8") + "</IFDE>"},
+        {"no maker note that is not Undefined, no thumbnail without a length",
+         ExifBytes().ifd0({}).exif({tiff.longs(0x927C, {8})}).ifd1({tiff.longs(0x0201, {8})}).payload(),
+         ifd(0x8769, 4, "26") + "<IFDE d=\"2\">" + ifd(0x927C, 4, "8") + "</IFDE><IFD1 d=\"2\">" + ifd(0x0201, 4, "8") +
+             "</IFD1>"},
         {"a thumbnail in strips, from the first one on",
          ExifBytes().ifd0({}).ifd1({tiff.longs(0x0111, {52, 54}), tiff.shorts(0x0117, {2, 3})}).payload() +
              Bytes{1, 2, 3, 4, 5},
@@ -229,8 +224,8 @@ TEST(JpegXml, ReportsItsErrorsWithTheTextSoFar)
     } cases[] = {
         {{}, "Not a JPEG file - hFFD8 expected at start of file ", ""},
         {{0xFF, 0xD8}, "Header seems corrupted - unknown Marker 0 ", "</JPEG>"},
-        {JpegBytes().segment(0xFFFE, {7}).raw({0xFF, 0, 0, 0}).unfinished(),
-         "Header seems corrupted - unknown Marker FF00 ", "<APP1 id=\"FFFE\" d=\"1\">07</APP1>\r\n</JPEG>"},
+        {JpegBytes().segment(0xFFFE, {7}).raw({0xFF}).unfinished(), "Header seems corrupted - unknown Marker FF00 ",
+         "<APP1 id=\"FFFE\" d=\"1\">07</APP1>\r\n</JPEG>"},
         {JpegBytes().raw({0xFF, 0xDB, 0, 9, 1}).unfinished(), "No StartOfStream marker found ",
          "<APP1 id=\"FFDB\" d=\"1\">01000000000000</APP1>\r\n</JPEG>"},
     };
@@ -240,31 +235,19 @@ TEST(JpegXml, ReportsItsErrorsWithTheTextSoFar)
     }
 }
 
-TEST(JpegXml, SurvivesAFileCutShortAtAnyLength)
+TEST(JpegXml, SurvivesAFileCutShortOrSpoiltAnywhere)
 {
     const TemporaryFolder folder;
     const Bytes whole = fullPhotograph(false);
     const std::size_t scanHeader = whole.size() - 17;
-    for (Bytes cut = whole; cut.size() > 2;) {
-        cut.pop_back();
+    for (std::size_t i = 2; i < whole.size(); ++i) {
+        const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(i));
         const Translation translation = JpegXml().XMLtranslate(folder.file("a.jpg", cut));
-        EXPECT_TRUE(isWellFormed(translation.text)) << cut.size();
-        EXPECT_TRUE(translation.error || cut.size() >= scanHeader) << cut.size();
-    }
-}
-
-TEST(JpegXml, SurvivesSpoiltBytes)
-{
-    const TemporaryFolder folder;
-    std::mt19937 random(20240506);
-    const Bytes whole = fullPhotograph(true);
-    for (int round = 0; round < 3000; ++round) {
+        EXPECT_TRUE(isWellFormed(translation.text)) << i;
+        EXPECT_TRUE(translation.error || i >= scanHeader) << i;
         Bytes spoilt = whole;
-        for (int i = 0; i < 4; ++i)
-            spoilt[random() % (spoilt.size() - 8)] = static_cast<std::uint8_t>(random() % 5 == 0 ? 0xFF : random());
-        const Translation translation = JpegXml().XMLtranslate(folder.file("a.jpg", spoilt));
-        EXPECT_LT(translation.text.size(), static_cast<std::size_t>(textLimit(2000)));
-        EXPECT_TRUE(translation.text.empty() || translation.text.ends_with("</JPEG>"));
+        spoilt[i] ^= 0xFF;
+        EXPECT_TRUE(JpegXml().XMLtranslate(folder.file("a.jpg", spoilt)).text.ends_with("</JPEG>")) << i;
     }
 }
 
