@@ -10,7 +10,7 @@
 namespace ovisto {
 
 // The parts of an Exif element. Reading, layout, writing, creation and deletion all walk this table, so a further
-// directory is a row here and entries in the tag dictionary.
+// directory is a row here, and entries in the tag dictionary and its document type.
 
 /// The names of the elements that stand for a part.
 inline constexpr std::string_view kFirstDirectory = "Exif"; ///< its own entries: what TIFF calls IFD0
@@ -36,6 +36,7 @@ struct EntryText {
     std::string_view text = {};
 };
 
+/// A row of the table.
 struct ExifPart {
     std::string_view element = {};
     /// The element that it is a child of; empty for the first directory, which is Exif itself.

@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::int64_t kTiffHeaderSize = 8;
 constexpr std::int64_t kEntrySize = 12;
-constexpr std::int64_t kDirectoryFrameSize = 6; // the count before the entries, the link behind them
+constexpr std::int64_t kDirectoryFrameSize = 6; // the count before the entries, the link after them
 
 /// The entry of `directory` that has this tag.
 XmlNode entryOf(XmlNode directory, std::uint16_t tag)

@@ -19,7 +19,7 @@ namespace ovisto {
 /// could not be done, and raised.
 std::int64_t layOutExif(XmlNode exif, ErrorReporter& reporter);
 
-/// Gives `directory` the offset `pos`, and each of its values outside theirs. Moves `pos` behind all that. Reports and
+/// Gives `directory` the offset `pos`, and each of its values outside theirs. Moves `pos` past all that. Reports and
 /// raises errors.
 void CalcOffsets(std::int64_t& pos, XmlNode directory, ErrorReporter& reporter);
 

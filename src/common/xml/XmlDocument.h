@@ -26,9 +26,9 @@ enum class Validation { Off, On };
 /// Whether white space between elements counts as text.
 enum class WhiteSpace { Preserve, Strip };
 
-/// An XML document in memory. Its nodes can be changed by way of one that is not const only. External entities are read
-/// for style sheets only, and nothing is fetched from a network; what a document type declaration names is read from
-/// regular local files where validation asks for it.
+/// An XML document in memory. The nodes of a const one can only be read. External entities are read for style sheets
+/// only, and nothing is fetched from a network; what a document type declaration names is read from regular local files
+/// where validation asks for it.
 class XmlDocument {
 public:
     XmlDocument();

@@ -59,11 +59,12 @@ protected:
     _xmlNode* m_node = nullptr;
 };
 
-/// A node for reading and writing; no node lets every change pass by. What is reached from one may be written too, but
-/// from a const one only read.
+/// A node for reading and writing; no node lets every change pass by. The nodes reached from one can be written too;
+/// those reached from a const one can only be read.
 class XmlNode : public ConstXmlNode {
 public:
-    using ConstXmlNode::ConstXmlNode;
+    XmlNode() = default;
+    explicit XmlNode(_xmlNode* node) : ConstXmlNode(node) {}
 
     using ConstXmlNode::childElement;
     using ConstXmlNode::childElements;
