@@ -10,6 +10,7 @@
 #include "collection/Report.h"
 #include "common/system/File.h"
 #include "common/system/Interruption.h"
+#include "common/system/TemporaryFile.h"
 #include "common/text/CodePage.h"
 #include "common/xml/XmlLoad.h"
 #include "common/xml/XmlTransform.h"

@@ -2,8 +2,8 @@
 
 #include "cli/TerminalText.h"
 
-#include "common/system/File.h"
 #include "common/system/Interruption.h"
+#include "common/system/Process.h"
 #include "common/text/PathText.h"
 
 #include <cstdio>

@@ -3,6 +3,8 @@
 #include "collection/DocumentLoad.h"
 #include "common/FirstReport.h"
 #include "common/system/File.h"
+#include "common/system/FileReplacement.h"
+#include "common/system/Process.h"
 #include "common/text/PathText.h"
 #include "writer/JpegDocument.h"
 

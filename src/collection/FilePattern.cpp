@@ -1,6 +1,6 @@
 #include "collection/FilePattern.h"
 
-#include "common/system/FileListing.h"
+#include "common/text/CaseFolding.h"
 #include "common/text/NumberText.h"
 
 #include <algorithm>

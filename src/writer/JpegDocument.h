@@ -2,6 +2,7 @@
 
 #include "common/ErrorReport.h"
 #include "common/system/File.h"
+#include "common/system/FileReplacement.h"
 #include "common/xml/XmlDocument.h"
 
 #include <optional>

@@ -1,5 +1,6 @@
 #include "collection/KeywordFile.h"
 #include "common/system/File.h"
+#include "common/system/TemporaryFile.h"
 #include "support/RecordingReporter.h"
 
 #include <gtest/gtest.h>

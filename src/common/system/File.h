@@ -4,18 +4,15 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace ovisto {
 
 // Files as the program needs them. All functions raise an Error with one of the system numbers when the system refuses.
 // Paths are bytes as the system gives them; nothing here depends on the locale.
-
-/// The reason that the system gave last, as an error.
-Error lastSystemError();
 
 /// The system's handle of an open file, closed with its owner.
 class FileHandle {
@@ -101,53 +98,14 @@ private:
     std::int64_t m_written = 0; // bytes that the system has
 };
 
-enum class ReplaceStep { Delete, Rename };
-
-/// Where and why a file could not be replaced.
-struct ReplaceFailure {
-    ReplaceStep step;
-    Error error;
-};
-
-/// Puts the complete file `replacement` in the place of `path`, so that at every instant `path` names a whole old or a
-/// whole new file. A file that may not be deleted (marked read-only, or its folder denies it) fails at the deletion.
-/// Which of the two survives a power failure is open until syncFolder() was called.
-std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path);
-
-/// Why replaceFile() will fail, where that is known before the replacement is written: `path` is marked read-only.
-std::optional<ReplaceFailure> replaceObstacle(const std::string& path);
-
-/// Makes what was replaced, created or deleted in `folder` survive a power failure, where the file system can.
-void syncFolder(const std::string& folder);
-
-/// Where `path` leads to when it is a symbolic link, else `path` itself.
-std::string linkTarget(const std::string& path);
-
-/// Writes a text file as a whole: `path` names its old or its new content, never a part of it.
-void writeTextFile(const std::string& path, std::string_view content);
-
-/// A file of a name that nobody has, for as long as the object lives.
-class TemporaryFile {
-public:
-    TemporaryFile();
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile();
-
-    const std::string& path() const { return m_path; }
-
-private:
-    std::string m_path;
-};
-
 /// What a file may be that is read as a whole, from its start to its end.
 enum class FileKind { Regular, RegularOrPipe };
 
 /// A whole file. A pipe, where it may be one, is waited for, and read until its other end closes it.
 std::string readTextFile(const std::string& path, FileKind kind = FileKind::Regular);
 
-/// How many files the process may have open at the same time. Where it is allowed to, it is made `wanted` at least.
-std::size_t openFilesAllowed(std::size_t wanted);
+/// Writes a text file as a whole: `path` names its old or its new content, never a part of it.
+void writeTextFile(const std::string& path, std::string_view content);
 
 bool fileExists(const std::string& path);
 
@@ -159,14 +117,5 @@ void createFolders(const std::string& folder);
 
 /// One text for all names that lead to the same file: its real path, or `path` when there is no such file.
 std::string realPath(const std::string& path);
-
-/// Whether standard error is shown on a terminal.
-bool isErrorOutputTerminal();
-
-/// Full path of the running program.
-std::string executablePath();
-
-/// The folder in which the system keeps a user's program data.
-std::string userDataRoot();
 
 } // namespace ovisto

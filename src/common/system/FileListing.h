@@ -25,7 +25,4 @@ FolderListing listFolder(const std::string& folder);
 /// The path of what is called `name` in `folder`.
 std::string pathIn(const std::string& folder, std::string_view name);
 
-/// The characters of a name with the difference of letter case taken away.
-std::u32string foldedCase(std::string_view name);
-
 } // namespace ovisto

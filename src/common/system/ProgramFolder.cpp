@@ -1,6 +1,7 @@
 #include "common/system/ProgramFolder.h"
 
 #include "common/system/File.h"
+#include "common/system/Process.h"
 #include "common/text/PathText.h"
 
 namespace ovisto {

@@ -1,4 +1,6 @@
 #include "common/system/File.h"
+#include "common/system/FileReplacement.h"
+#include "common/system/Process.h"
 #include "common/system/ProgramFolder.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"

@@ -1,9 +1,10 @@
 #include "common/system/File.h"
 
+#include "common/system/FileReplacement.h"
+#include "common/system/posix/SystemError.h"
 #include "common/text/PathText.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
@@ -11,9 +12,7 @@
 #include <vector>
 
 #include <fcntl.h>
-#include <pwd.h>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -23,40 +22,6 @@ namespace ovisto {
 namespace {
 
 constexpr std::size_t kBufferSize = std::size_t{64} * 1024;
-
-Error errorOf(int errorNumber)
-{
-    switch (errorNumber) {
-    case ENOENT:
-        return systemError(kFileNotFound);
-    case ENOTDIR:
-        return systemError(kPathNotFound);
-    case EACCES:
-    case EPERM:
-    case EROFS:
-    case EBUSY:
-    case ETXTBSY:
-        return systemError(kPermissionDenied);
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-        return systemError(kDiskFull);
-    case EIO:
-        return systemError(kDeviceError);
-    case ENOMEM:
-        return systemError(kOutOfMemory);
-    default:
-        return systemError(kPathAccessError);
-    }
-}
-
-/// Raises the system's latest error where `result` tells of one; else hands it on.
-template <class Result> Result checked(Result result)
-{
-    if (result < 0)
-        throw errorOf(errno);
-    return result;
-}
 
 /// Calls again what a signal interrupted.
 template <class Call> auto uninterrupted(Call call)
@@ -160,20 +125,7 @@ std::string pipeText(const std::string& path)
     }
 }
 
-bool isMarkedReadOnly(const std::string& path)
-{
-    constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
-    struct stat status = {};
-    return stat(path.c_str(), &status) == 0 &&
-           ((status.st_mode & kAnyWriteBit) == 0 || access(path.c_str(), W_OK) != 0);
-}
-
 } // namespace
-
-Error lastSystemError()
-{
-    return errorOf(errno);
-}
 
 FileHandle& FileHandle::operator=(FileHandle&& other) noexcept
 {
@@ -339,36 +291,14 @@ void OutputFile::discard()
         unlink(m_path.c_str());
 }
 
-std::optional<ReplaceFailure> replaceObstacle(const std::string& path)
+std::string readTextFile(const std::string& path, FileKind kind)
 {
-    if (isMarkedReadOnly(path))
-        return ReplaceFailure{ReplaceStep::Delete, systemError(kPermissionDenied)};
-    return std::nullopt;
-}
-
-std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path)
-{
-    if (auto obstacle = replaceObstacle(path))
-        return obstacle;
-    if (rename(replacement.c_str(), path.c_str()) != 0) {
-        const int renameError = errno;
-        const bool denied = renameError == EACCES || renameError == EPERM;
-        return ReplaceFailure{denied ? ReplaceStep::Delete : ReplaceStep::Rename, errorOf(renameError)};
-    }
-    return std::nullopt;
-}
-
-void syncFolder(const std::string& folder)
-{
-    const FileHandle handle(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (handle.get() >= 0)
-        fsync(handle.get());
-}
-
-std::string linkTarget(const std::string& path)
-{
-    struct stat status = {};
-    return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode) ? realPath(path) : path;
+    if (kind == FileKind::RegularOrPipe && isPipe(path))
+        return pipeText(path);
+    const InputFile file(path);
+    std::string content(static_cast<std::size_t>(file.size()), '\0');
+    content.resize(file.readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
+    return content;
 }
 
 void writeTextFile(const std::string& path, std::string_view content)
@@ -390,40 +320,6 @@ void writeTextFile(const std::string& path, std::string_view content)
     if (trap.pending())
         unlink(temporaryName.c_str());
     trap.raise();
-}
-
-TemporaryFile::TemporaryFile()
-{
-    const char* folder = std::getenv("TMPDIR");
-    m_path = std::string(folder != nullptr && *folder != '\0' ? folder : "/tmp") + "/ovisto.XXXXXX";
-    const FileHandle reserved(checked(mkstemp(m_path.data())));
-}
-
-TemporaryFile::~TemporaryFile()
-{
-    unlink(m_path.c_str());
-}
-
-std::string readTextFile(const std::string& path, FileKind kind)
-{
-    if (kind == FileKind::RegularOrPipe && isPipe(path))
-        return pipeText(path);
-    const InputFile file(path);
-    std::string content(static_cast<std::size_t>(file.size()), '\0');
-    content.resize(file.readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
-    return content;
-}
-
-std::size_t openFilesAllowed(std::size_t wanted)
-{
-    rlimit limit{};
-    if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
-        return wanted;
-    rlimit raised = limit;
-    raised.rlim_cur = std::min<rlim_t>(wanted, limit.rlim_max);
-    if (raised.rlim_cur > limit.rlim_cur && setrlimit(RLIMIT_NOFILE, &raised) == 0)
-        return raised.rlim_cur;
-    return limit.rlim_cur;
 }
 
 bool fileExists(const std::string& path)
@@ -451,30 +347,6 @@ std::string realPath(const std::string& path)
     };
     const std::unique_ptr<char, Free> resolved(realpath(path.c_str(), nullptr));
     return resolved ? resolved.get() : path;
-}
-
-bool isErrorOutputTerminal()
-{
-    return isatty(STDERR_FILENO) == 1;
-}
-
-std::string executablePath()
-{
-    std::array<char, 4096> path{};
-    const auto length = checked(readlink("/proc/self/exe", path.data(), path.size()));
-    return {path.data(), static_cast<std::size_t>(length)};
-}
-
-std::string userDataRoot()
-{
-    if (const char* root = std::getenv("XDG_DATA_HOME"); root != nullptr && *root == '/')
-        return root;
-    const char* home = std::getenv("HOME");
-    if (home == nullptr || *home == '\0') {
-        const passwd* user = getpwuid(getuid());
-        home = user != nullptr ? user->pw_dir : "";
-    }
-    return std::string(home) + "/.local/share";
 }
 
 } // namespace ovisto

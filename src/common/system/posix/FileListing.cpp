@@ -1,16 +1,13 @@
 #include "common/system/FileListing.h"
 
-#include "common/Error.h"
-#include "common/system/File.h"
-#include "common/text/CodePage.h"
+#include "common/system/posix/SystemError.h"
+#include "common/text/CaseFolding.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cwctype>
 #include <memory>
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace ovisto {
@@ -54,7 +51,7 @@ FolderListing listFolder(const std::string& folder)
     const std::unique_ptr<DIR, CloseFolder> opened(opendir(folder.c_str()));
     struct stat status = {};
     if (!opened || fstat(dirfd(opened.get()), &status) != 0)
-        throw lastSystemError();
+        throw errorOf(errno);
     FolderListing listing{.identity = {status.st_dev, status.st_ino}, .files = {}, .folders = {}};
     for (;;) {
         errno = 0;
@@ -70,7 +67,7 @@ FolderListing listFolder(const std::string& folder)
             listing.folders.emplace_back(entry->d_name);
     }
     if (errno != 0)
-        throw lastSystemError();
+        throw errorOf(errno);
     sortAsPeopleDo(listing.files);
     sortAsPeopleDo(listing.folders);
     return listing;
@@ -79,19 +76,6 @@ FolderListing listFolder(const std::string& folder)
 std::string pathIn(const std::string& folder, std::string_view name)
 {
     return std::string(folder).append(folder.ends_with('/') ? "" : "/").append(name);
-}
-
-std::u32string foldedCase(std::string_view name)
-{
-    static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-    std::u32string folded = characters(name);
-    for (char32_t& character : folded) {
-        if (character >= U'A' && character <= U'Z')
-            character += U'a' - U'A';
-        else if (character >= 128 && unicode != nullptr)
-            character = static_cast<char32_t>(towlower_l(static_cast<wint_t>(character), unicode));
-    }
-    return folded;
 }
 
 } // namespace ovisto

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "common/Error.h"
+
+#include <optional>
+#include <string>
+
+namespace ovisto {
+
+enum class ReplaceStep { Delete, Rename };
+
+/// Where and why a file could not be replaced.
+struct ReplaceFailure {
+    ReplaceStep step;
+    Error error;
+};
+
+/// Puts the complete file `replacement` in the place of `path`, so that at every instant `path` names a whole old or a
+/// whole new file. A file that may not be deleted (marked read-only, or its folder denies it) fails at the deletion.
+/// Which of the two survives a power failure is open until syncFolder() was called.
+std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path);
+
+/// Why replaceFile() will fail, where that is known before the replacement is written: `path` is marked read-only.
+std::optional<ReplaceFailure> replaceObstacle(const std::string& path);
+
+/// Makes what was replaced, created or deleted in `folder` survive a power failure, where the file system can.
+void syncFolder(const std::string& folder);
+
+/// Where `path` leads to when it is a symbolic link, else `path` itself.
+std::string linkTarget(const std::string& path);
+
+} // namespace ovisto

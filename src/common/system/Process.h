@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace ovisto {
+
+// What the system says of the running program and its user.
+
+/// How many files the process may have open at the same time. Raises the limit to `wanted` where that is allowed.
+std::size_t openFilesAllowed(std::size_t wanted);
+
+/// Whether standard error is shown on a terminal.
+bool isErrorOutputTerminal();
+
+/// Full path of the running program.
+std::string executablePath();
+
+/// The folder in which the system keeps a user's program data.
+std::string userDataRoot();
+
+} // namespace ovisto

@@ -1,0 +1,59 @@
+#include "common/system/FileReplacement.h"
+
+#include "common/system/File.h"
+#include "common/system/posix/SystemError.h"
+
+#include <cerrno>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace ovisto {
+
+namespace {
+
+bool isMarkedReadOnly(const std::string& path)
+{
+    constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
+    struct stat status = {};
+    return stat(path.c_str(), &status) == 0 &&
+           ((status.st_mode & kAnyWriteBit) == 0 || access(path.c_str(), W_OK) != 0);
+}
+
+} // namespace
+
+std::optional<ReplaceFailure> replaceObstacle(const std::string& path)
+{
+    if (isMarkedReadOnly(path))
+        return ReplaceFailure{ReplaceStep::Delete, systemError(kPermissionDenied)};
+    return std::nullopt;
+}
+
+std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path)
+{
+    if (auto obstacle = replaceObstacle(path))
+        return obstacle;
+    if (rename(replacement.c_str(), path.c_str()) != 0) {
+        const int renameError = errno;
+        const bool denied = renameError == EACCES || renameError == EPERM;
+        return ReplaceFailure{denied ? ReplaceStep::Delete : ReplaceStep::Rename, errorOf(renameError)};
+    }
+    return std::nullopt;
+}
+
+void syncFolder(const std::string& folder)
+{
+    const FileHandle handle(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (handle.get() >= 0)
+        fsync(handle.get());
+}
+
+std::string linkTarget(const std::string& path)
+{
+    struct stat status = {};
+    return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode) ? realPath(path) : path;
+}
+
+} // namespace ovisto

@@ -1,0 +1,51 @@
+#include "common/system/Process.h"
+
+#include "common/system/posix/SystemError.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+#include <pwd.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace ovisto {
+
+std::size_t openFilesAllowed(std::size_t wanted)
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
+        return wanted;
+    rlimit raised = limit;
+    raised.rlim_cur = std::min<rlim_t>(wanted, limit.rlim_max);
+    if (raised.rlim_cur > limit.rlim_cur && setrlimit(RLIMIT_NOFILE, &raised) == 0)
+        return raised.rlim_cur;
+    return limit.rlim_cur;
+}
+
+bool isErrorOutputTerminal()
+{
+    return isatty(STDERR_FILENO) == 1;
+}
+
+std::string executablePath()
+{
+    std::array<char, 4096> path{};
+    const auto length = checked(readlink("/proc/self/exe", path.data(), path.size()));
+    return {path.data(), static_cast<std::size_t>(length)};
+}
+
+std::string userDataRoot()
+{
+    if (const char* root = std::getenv("XDG_DATA_HOME"); root != nullptr && *root == '/')
+        return root;
+    const char* home = std::getenv("HOME");
+    if (home == nullptr || *home == '\0') {
+        const passwd* user = getpwuid(getuid());
+        home = user != nullptr ? user->pw_dir : "";
+    }
+    return std::string(home) + "/.local/share";
+}
+
+} // namespace ovisto
