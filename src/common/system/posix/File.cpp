@@ -1,6 +1,7 @@
 #include "common/system/File.h"
 
 #include "common/system/FileReplacement.h"
+#include "common/system/posix/SystemCalls.h"
 #include "common/system/posix/SystemError.h"
 #include "common/text/PathText.h"
 
@@ -23,19 +24,9 @@ namespace {
 
 constexpr std::size_t kBufferSize = std::size_t{64} * 1024;
 
-/// Calls again what a signal interrupted.
-template <class Call> auto uninterrupted(Call call)
-{
-    for (;;) {
-        const auto result = call();
-        if (result >= 0 || errno != EINTR)
-            return result;
-    }
-}
-
 FileHandle openFile(const std::string& path, int flags)
 {
-    FileHandle handle(uninterrupted([&] { return open(path.c_str(), flags | O_CLOEXEC, 0600); }));
+    FileHandle handle(systemCall(&SystemCalls::open, path.c_str(), flags | O_CLOEXEC, 0));
     if (handle.get() >= 0)
         return handle;
     const int openError = errno;
@@ -48,7 +39,7 @@ FileHandle openFile(const std::string& path, int flags)
 struct stat statusOf(int descriptor)
 {
     struct stat status = {};
-    checked(fstat(descriptor, &status));
+    checked(systemCall(&SystemCalls::fstat, descriptor, &status));
     return status;
 }
 
@@ -58,22 +49,22 @@ bool lock(int descriptor)
     return flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
-/// Whether `path` still names the open file.
-bool names(const std::string& path, int descriptor)
+/// Whether `path` names the file that has this status.
+bool names(const std::string& path, const struct stat& opened)
 {
     struct stat named = {};
-    const struct stat opened = statusOf(descriptor);
     return lstat(path.c_str(), &named) == 0 && named.st_dev == opened.st_dev && named.st_ino == opened.st_ino;
 }
 
 /// Deletes a file that an earlier save left behind. One that a save is writing at this moment is locked, and stays.
 void deleteLeftover(const std::string& path)
 {
-    const FileHandle leftover(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    const FileHandle leftover(
+        systemCall(&SystemCalls::open, path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0));
     if (leftover.get() < 0 && errno == ENOENT)
         return;
-    if (leftover.get() < 0 || (lock(leftover.get()) && names(path, leftover.get())))
-        unlink(path.c_str());
+    if (leftover.get() < 0 || (lock(leftover.get()) && names(path, statusOf(leftover.get()))))
+        systemCall(&SystemCalls::unlink, path.c_str());
 }
 
 /// The names in a list of extended attributes, each ended by a zero byte.
@@ -101,7 +92,7 @@ void copyExtendedAttributes(int from, int to)
             continue;
         std::vector<char> value(static_cast<std::size_t>(size));
         if (fgetxattr(from, name, value.data(), value.size()) == size)
-            fsetxattr(to, name, value.data(), value.size(), 0);
+            systemCall(&SystemCalls::fsetxattr, to, name, value.data(), value.size(), 0);
     }
 }
 
@@ -152,10 +143,9 @@ std::size_t InputFile::readAt(std::int64_t offset, std::span<std::uint8_t> into)
 {
     std::size_t done = 0;
     while (done < into.size()) {
-        const auto count = checked(uninterrupted([&] {
-            return pread(m_handle.get(), into.data() + done, into.size() - done,
-                         static_cast<off_t>(offset + static_cast<std::int64_t>(done)));
-        }));
+        const auto count =
+            checked(systemCall(&SystemCalls::pread, m_handle.get(), into.data() + done, into.size() - done,
+                               static_cast<off_t>(offset + static_cast<std::int64_t>(done))));
         if (count == 0)
             break;
         done += static_cast<std::size_t>(count);
@@ -170,11 +160,11 @@ OutputFile::OutputFile(const std::string& path, NewFileAccess newFileAccess) : m
     constexpr mode_t kEveryone = kOwner | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
     const mode_t mode = newFileAccess == NewFileAccess::Private ? kOwner : kEveryone;
     FileHandle handle(
-        uninterrupted([&] { return open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode); }));
+        systemCall(&SystemCalls::open, path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
     if (handle.get() < 0)
         throw errno == EEXIST ? systemError(kPermissionDenied) : errorOf(errno);
     // Another save may have taken the new file for a leftover between its creation and its locking.
-    if (!lock(handle.get()) || !names(path, handle.get()))
+    if (!lock(handle.get()) || !names(path, statusOf(handle.get())))
         throw systemError(kPermissionDenied);
     m_handle = std::move(handle);
     m_buffer.reserve(kBufferSize);
@@ -224,7 +214,7 @@ void OutputFile::flush()
 void OutputFile::writeAll(std::string_view rest)
 {
     while (!rest.empty()) {
-        const auto count = checked(uninterrupted([&] { return ::write(m_handle.get(), rest.data(), rest.size()); }));
+        const auto count = checked(systemCall(&SystemCalls::write, m_handle.get(), rest.data(), rest.size()));
         // A full disk may first show as a short count, then as an error, or as nothing written at all.
         if (count == 0)
             throw systemError(kDiskFull);
@@ -249,7 +239,7 @@ void OutputFile::startSync()
 void OutputFile::sync()
 {
     flush();
-    checked(uninterrupted([&] { return fsync(m_handle.get()); }));
+    checked(systemCall(&SystemCalls::fsync, m_handle.get()));
 }
 
 std::uint64_t OutputFile::device() const
@@ -260,12 +250,8 @@ std::uint64_t OutputFile::device() const
 bool OutputFile::syncFileSystem()
 {
     flush();
-#ifdef __linux__
-    // It tells of all that failed since the file was opened.
-    return syncfs(m_handle.get()) == 0;
-#else
-    return false;
-#endif
+    // It reports all that failed since the file was opened.
+    return systemCall(&SystemCalls::syncfs, m_handle.get()) == 0;
 }
 
 void OutputFile::takeAttributesFrom(const InputFile& old)
@@ -274,21 +260,23 @@ void OutputFile::takeAttributesFrom(const InputFile& old)
     const int descriptor = m_handle.get();
     constexpr auto kSame = static_cast<uid_t>(-1);
     // Giving a file away is for the administrator; giving it to one's group is for all its members.
-    if (fchown(descriptor, status.st_uid, status.st_gid) != 0 && fchown(descriptor, kSame, status.st_gid) != 0)
-        errno = 0;
+    if (systemCall(&SystemCalls::fchown, descriptor, status.st_uid, status.st_gid) != 0)
+        systemCall(&SystemCalls::fchown, descriptor, kSame, status.st_gid);
     copyExtendedAttributes(old.m_handle.get(), descriptor);
     constexpr mode_t kPermissionBits = S_IRWXU | S_IRWXG | S_IRWXO;
     const mode_t permissions = status.st_mode & kPermissionBits;
     // File systems without permission bits of their own refuse to set them, and show the same ones for every file.
-    if (fchmod(descriptor, permissions) != 0 && (statusOf(descriptor).st_mode & kPermissionBits) != permissions)
+    if (systemCall(&SystemCalls::fchmod, descriptor, permissions) != 0 &&
+        (statusOf(descriptor).st_mode & kPermissionBits) != permissions)
         throw systemError(kPermissionDenied);
 }
 
 void OutputFile::discard()
 {
     // It is locked: no other save takes the name between the two.
-    if (names(m_path, m_handle.get()))
-        unlink(m_path.c_str());
+    struct stat status = {};
+    if (systemCall(&SystemCalls::fstat, m_handle.get(), &status) == 0 && names(m_path, status))
+        systemCall(&SystemCalls::unlink, m_path.c_str());
 }
 
 std::string readTextFile(const std::string& path, FileKind kind)
@@ -318,7 +306,7 @@ void writeTextFile(const std::string& path, std::string_view content)
         syncFolder(splitPath(target).folder);
     });
     if (trap.pending())
-        unlink(temporaryName.c_str());
+        systemCall(&SystemCalls::unlink, temporaryName.c_str());
     trap.raise();
 }
 

@@ -1,10 +1,10 @@
 #include "common/system/FileReplacement.h"
 
 #include "common/system/File.h"
+#include "common/system/posix/SystemCalls.h"
 #include "common/system/posix/SystemError.h"
 
 #include <cerrno>
-#include <cstdio>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -35,7 +35,7 @@ std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const 
 {
     if (auto obstacle = replaceObstacle(path))
         return obstacle;
-    if (rename(replacement.c_str(), path.c_str()) != 0) {
+    if (systemCall(&SystemCalls::rename, replacement.c_str(), path.c_str()) != 0) {
         const int renameError = errno;
         const bool denied = renameError == EACCES || renameError == EPERM;
         return ReplaceFailure{denied ? ReplaceStep::Delete : ReplaceStep::Rename, errorOf(renameError)};
@@ -45,9 +45,10 @@ std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const 
 
 void syncFolder(const std::string& folder)
 {
-    const FileHandle handle(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const char* name = folder.empty() ? "." : folder.c_str();
+    const FileHandle handle(systemCall(&SystemCalls::open, name, O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0));
     if (handle.get() >= 0)
-        fsync(handle.get());
+        systemCall(&SystemCalls::fsync, handle.get());
 }
 
 std::string linkTarget(const std::string& path)
