@@ -6,11 +6,10 @@
 #include "common/system/FileReplacement.h"
 #include "common/system/Process.h"
 #include "common/text/PathText.h"
-#include "writer/JpegDocument.h"
+#include "writer/NewVersion.h"
 
 #include <algorithm>
 #include <iterator>
-#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -65,7 +64,7 @@ private:
 
         std::string path;
         FirstReport report;
-        std::optional<JpegDocument::NewVersion> version;
+        std::optional<NewVersion> version;
         bool failed = false;
     };
 
@@ -78,15 +77,17 @@ private:
         ErrorTrap trap;
         trap.run([&] {
             XmlDocument document = loadDocument(path);
-            if (applyChange(document, change, member->report))
-                member->version.emplace(JpegDocument(member->report).writeTemporary(document, path));
+            if (!applyChange(document, change, member->report))
+                return;
+            member->version.emplace(member->report, path, Leftover::Spared);
+            member->version->write(document);
         });
         if (trap.pending() && trap.error().number == kDiskFull && onDiskFull == DiskFull::TryAgain)
             return false;
         if (trap.pending()) {
             tell(*member, trap.error());
         } else if (member->version) {
-            m_bytes += member->version->oldFile.size();
+            m_bytes += member->version->oldSize();
             m_members.push_back(std::move(member));
         }
         return true;
@@ -96,13 +97,13 @@ private:
     {
         syncTogether();
         for (const auto& member : m_members)
-            step(*member, [&] { JpegDocument(member->report).finishTemporary(*member->version); });
+            step(*member, [&] { member->version->bringToDisk(); });
         std::set<std::string> folders;
         for (const auto& member : m_members) {
             if (member->failed)
                 continue;
-            step(*member, [&] { JpegDocument(member->report).replaceOld(*member->version); });
-            folders.insert(splitPath(member->version->fileName).folder);
+            step(*member, [&] { member->version->putInPlace(); });
+            folders.insert(member->version->folder());
         }
         for (const std::string& folder : folders)
             syncFolder(folder);
@@ -117,21 +118,16 @@ private:
             m_share.unlock();
     }
 
-    /// Brings all to disk at once. Where that fails, each has to find out by itself how it fares.
+    /// Brings all to disk at once where they are many enough.
     void syncTogether()
     {
         constexpr std::size_t kWorthIt = 8; // others may be writing to the disk, and would be waited for as well
         if (m_members.size() < kWorthIt)
             return;
-        std::map<std::uint64_t, bool> onDisk; // by file system
-        for (const auto& member : m_members) {
-            JpegDocument::NewVersion& version = *member->version;
-            // The first file of a file system is its oldest: it hears of what failed to any of the others.
-            const auto [place, isFirst] = onDisk.try_emplace(version.newFile.device(), false);
-            if (isFirst)
-                place->second = version.newFile.syncFileSystem();
-            version.onDisk = place->second;
-        }
+        std::vector<NewVersion*> versions;
+        for (const auto& member : m_members)
+            versions.push_back(&*member->version);
+        NewVersion::bringToDiskTogether(versions);
     }
 
     /// Runs a step for a file and reports what it raises.

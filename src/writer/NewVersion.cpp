@@ -1,0 +1,115 @@
+#include "writer/NewVersion.h"
+
+#include "common/system/FileReplacement.h"
+#include "common/text/PathText.h"
+#include "writer/JpegRebuilding.h"
+
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace ovisto {
+
+namespace {
+
+/// The file at `path`, opened. A failure is reported in `context`.
+template <class File> File opened(ErrorReporter& reporter, const std::string& context, const std::string& path)
+{
+    std::optional<File> file;
+    reported(reporter, context, [&] { file.emplace(path); });
+    return std::move(*file);
+}
+
+/// Reports and raises the failure, if any, to replace the file `target`.
+void raise(const std::optional<ReplaceFailure>& failure, const std::string& target, ErrorReporter& reporter)
+{
+    if (!failure)
+        return;
+    const std::string context = failure->step == ReplaceStep::Delete
+                                    ? "Delete old file " + target
+                                    : "Rename file " + temporaryNameOf(target) + " to " + target;
+    ErrorReport(reporter, context, failure->error);
+    throw failure->error;
+}
+
+/// The file that `fileName` leads to.
+std::string replaceableTarget(const std::string& fileName, Leftover leftover, ErrorReporter& reporter)
+{
+    std::string target = linkTarget(fileName);
+    if (leftover == Leftover::Spared)
+        raise(replaceObstacle(target), target, reporter);
+    return target;
+}
+
+} // namespace
+
+NewVersion::NewVersion(ErrorReporter& reporter, const std::string& fileName, Leftover leftover)
+    : m_reporter(reporter), m_leftover(leftover), m_target(replaceableTarget(fileName, leftover, reporter)),
+      m_temporaryName(temporaryNameOf(m_target)), m_oldFile(opened<InputFile>(reporter, fileName, m_target)),
+      m_newFile(opened<OutputFile>(reporter, m_temporaryName, m_temporaryName))
+{
+}
+
+void NewVersion::write(XmlDocument& document)
+{
+    writeWhole([&] { rebuildJpeg(document, m_oldFile, m_newFile, m_temporaryName, m_reporter); });
+}
+
+void NewVersion::bringToDisk()
+{
+    const auto sync = [&] { m_newFile.sync(); };
+    if (!m_onDisk)
+        spared([&] { reported(m_reporter, m_temporaryName + " write failed", sync); });
+    m_onDisk = true;
+}
+
+void NewVersion::bringToDiskTogether(const std::vector<NewVersion*>& versions)
+{
+    std::map<std::uint64_t, bool> onDisk; // by file system
+    for (NewVersion* version : versions) {
+        ErrorTrap trap; // what fails here is for bringToDisk() to report
+        trap.run([&] {
+            // The first file of a file system is its oldest: it hears of what failed to any of the others.
+            const auto [place, isFirst] = onDisk.try_emplace(version->m_newFile.device(), false);
+            if (isFirst)
+                place->second = version->m_newFile.syncFileSystem();
+            version->m_onDisk = place->second;
+        });
+    }
+}
+
+void NewVersion::putInPlace()
+{
+    // Here both files are whole: the place for checks that may refuse to go on.
+    raise(replaceFile(m_temporaryName, m_target), m_target, m_reporter);
+}
+
+std::string NewVersion::folder() const
+{
+    return splitPath(m_target).folder;
+}
+
+/// Writes the new file: its content, which `fill` writes and reports on, then what it takes from the old one.
+template <class Fill> void NewVersion::writeWhole(Fill fill)
+{
+    const auto finish = [&] {
+        m_newFile.takeAttributesFrom(m_oldFile);
+        m_newFile.startSync();
+    };
+    spared([&] {
+        fill();
+        reported(m_reporter, m_temporaryName + " write failed", finish);
+    });
+}
+
+/// Runs `step`. When it fails, the new file is of no use and is deleted, unless leftovers are kept.
+template <class Step> void NewVersion::spared(Step step)
+{
+    ErrorTrap trap;
+    trap.run(step);
+    if (trap.pending() && m_leftover == Leftover::Spared)
+        m_newFile.discard();
+    trap.raise();
+}
+
+} // namespace ovisto
