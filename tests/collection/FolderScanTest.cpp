@@ -5,10 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <filesystem>
-
-#include <unistd.h>
 
 namespace ovisto::test {
 
@@ -26,6 +23,21 @@ public:
             file(name, fullPhotograph(true));
         }
     }
+};
+
+/// Deletes a folder at the first file.
+class Deleting : public CountingProgress {
+public:
+    explicit Deleting(std::string folder) : m_folder(std::move(folder)) {}
+
+    bool step(const std::string& path, std::size_t done, std::size_t total) override
+    {
+        fs::remove_all(m_folder);
+        return CountingProgress::step(path, done, total);
+    }
+
+private:
+    std::string m_folder;
 };
 
 struct Found {
@@ -140,14 +152,15 @@ TEST(FolderScan, EndsLinksInACircle)
 
 TEST(FolderScan, ReportsASubFolderThatCannotBeReadAndGoesOn)
 {
-    if (geteuid() == 0)
-        GTEST_SKIP() << "root may read everything";
-    const ScanFolder folder({"a.jpg", "locked/b.jpg", "open/c.jpg"});
-    fs::permissions(folder.path("locked"), fs::perms::none);
-    Found found;
-    EXPECT_EQ(found.scan(folder), "a.jpg open/c.jpg");
-    EXPECT_EQ(found.reporter.contexts, std::vector<std::string>{folder.path("locked")});
-    fs::permissions(folder.path("locked"), fs::perms::owner_all);
+    const ScanFolder folder({"a.jpg", "gone/b.jpg", "open/c.jpg"});
+    Deleting progress(folder.path("gone"));
+    RecordingReporter reporter;
+    std::vector<std::string> found;
+    ScanOptions options;
+    options.folder = folder.path("");
+    FolderScan(options).run(found, progress, reporter);
+    EXPECT_EQ(found, (std::vector<std::string>{folder.path("a.jpg"), folder.path("open/c.jpg")}));
+    EXPECT_EQ(reporter.contexts, std::vector<std::string>{folder.path("gone")});
 }
 
 TEST(ContentFilter, ReadsWordsAndExpressionsAsPeopleTypeThem)
@@ -260,14 +273,15 @@ TEST(FolderScan, EndsRunawayExpressionsWithOneReport)
     for (const char* name : {"a.jpg", "b.jpg"})
         folder.file(name, JpegBytes().exif(exif).end());
     folder.file("c.jpg", JpegBytes().app0().end());
-    const auto start = std::chrono::steady_clock::now();
+    // A document has the name of its file, so the expressions ask for what the name of no folder has.
     Found found;
-    EXPECT_EQ(found.scan(folder, withContent({"(a+)+x|APP0", false, false, true})), "c.jpg");
+    EXPECT_EQ(found.scan(folder, withContent({"(a+)+~|APP0", false, false, true})), "c.jpg");
     EXPECT_EQ(found.reporter.numbers, std::vector<int>{kOutOfMemory});
     // One that goes back and forth over a long text does little at each step.
     folder.file("b.jpg", JpegBytes().segment(0xFFE2, Bytes(65000, 0x11)).end());
-    EXPECT_EQ(found.scan(folder, withContent({"1.*1.*q", false, false, true})), "");
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+    Found second;
+    EXPECT_EQ(second.scan(folder, withContent({"1.*1.*~|@@", false, false, true})), "");
+    EXPECT_EQ(second.reporter.numbers, std::vector<int>{kOutOfMemory});
 }
 
 } // namespace ovisto::test
