@@ -8,9 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
-#include <optional>
 
 #include <sys/resource.h>
 
@@ -44,74 +42,7 @@ private:
     TagDictionary m_dictionary{OVISTO_DATA_FOLDER "Merovel.xml"};
 };
 
-/// No file may become larger than `bytes` while this lives: the disk is full.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_old);
-        const rlimit limit{bytes, m_old.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
-
-private:
-    void (*m_oldHandler)(int);
-    rlimit m_old{};
-};
-
-/// Hears of a file that could not be put in place when the others of its group are: then there is room on the disk.
-class MakingRoom : public RecordingReporter {
-public:
-    std::optional<FullDisk> disk;
-
-    void report(const std::string& context, const Error& error) override
-    {
-        RecordingReporter::report(context, error);
-        disk.reset();
-    }
-};
-
-/// Marks the first file read-only when the second one is begun: it is on its way then.
-class Locking : public CountingProgress {
-public:
-    bool step(const std::string& path, std::size_t done, std::size_t total) override
-    {
-        if (done == 1)
-            fs::permissions(paths.front(), fs::perms::owner_read);
-        return CountingProgress::step(path, done, total);
-    }
-};
-
 } // namespace
-
-TEST_F(BatchActionTest, MakesRoomOnAFullDiskBeforeAFileFails)
-{
-    std::vector<std::string> files = photographs(1);
-    for (const char* name : {"large.jpg", "second.jpg", "last.jpg"})
-        files.push_back(folder.file(name, JpegBytes().app0().end(Bytes(200'000, 0x11))));
-    Locking locking;
-    MakingRoom making;
-    making.disk.emplace(100'000);
-    BatchAction(files, titled("New")).run(locking, making);
-    EXPECT_EQ(making.contexts, std::vector<std::string>{files[0]});
-    for (const char* name : {"large.jpg", "second.jpg", "last.jpg"})
-        EXPECT_EQ(titleOf(folder.path(name)), "New") << name;
-
-    fs::permissions(files[0], fs::perms::owner_all);
-    const FullDisk full(100'000);
-    BatchAction(files, titled("Newer")).run(progress, reporter);
-    EXPECT_EQ(titleOf(files[0]), "Newer");
-    EXPECT_EQ(reporter.contexts, std::vector<std::string>(files.begin() + 1, files.end()));
-    EXPECT_EQ(reporter.numbers, std::vector<int>(3, kDiskFull));
-    EXPECT_EQ(folder.names().size(), files.size()) << "no incomplete file is left";
-}
 
 TEST_F(BatchActionTest, DoesTheOthersWhenOneFailsHalfWay)
 {
@@ -156,16 +87,6 @@ TEST_F(BatchActionTest, ChangesAFileOnceThatIsInTheListTwice)
     EXPECT_TRUE(reporter.contexts.empty());
     EXPECT_EQ(titleOf(files[0]) + titleOf(files[1]), "NewNew");
     EXPECT_TRUE(fs::is_symlink(folder.path("link.jpg")));
-}
-
-TEST_F(BatchActionTest, SparesAFileThatHasTheTemporaryNameOfAnother)
-{
-    const Bytes before = JpegBytes().app0().end();
-    const std::vector<std::string> files = {folder.file("a.jpg", before), folder.file("~a.jpg", before)};
-    BatchAction(files, titled("New")).run(progress, reporter);
-    EXPECT_EQ(reporter.contexts, std::vector<std::string>{files[0]});
-    EXPECT_EQ(contentOf(files[0]), before);
-    EXPECT_EQ(titleOf(files[1]), "New");
 }
 
 TEST_F(BatchActionTest, WritesMoreThanAGroupAndNothingThatIsTheSame)

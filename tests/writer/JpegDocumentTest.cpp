@@ -288,30 +288,6 @@ TEST(WriteJpeg, RefusesATextWithWhichTheFileCouldNotBeOpenedAgain)
     }
 }
 
-TEST(WriteJpeg, SaysWhichStepOfReplacingFailed)
-{
-    XmlDocument document = documentOf("<JPEG><IMG offset='9' length='2'/></JPEG>");
-    const TemporaryFolder folder;
-    const std::string path = folder.path("a.jpg");
-    const auto contexts = [&] {
-        RecordingReporter reporter;
-        EXPECT_NE(errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); }), 0);
-        return reporter.contexts;
-    };
-    EXPECT_EQ(contexts(), std::vector<std::string>{path}) << "no such file";
-
-    folder.file("a.jpg", kOldFile);
-    std::filesystem::permissions(path, std::filesystem::perms::owner_read);
-    EXPECT_EQ(contexts(), std::vector<std::string>{"Delete old file " + path});
-    EXPECT_EQ(contentOf(path), kOldFile);
-    EXPECT_EQ(contentOf(folder.path("~a.jpg")), (Bytes{0xFF, 0xD8, 1, 2, 3, 0xFF, 0xD9})) << "the new one is kept";
-
-    std::filesystem::permissions(path, std::filesystem::perms::owner_all);
-    std::filesystem::remove(folder.path("~a.jpg"));
-    std::filesystem::create_directory(folder.path("~a.jpg"));
-    EXPECT_EQ(contexts(), std::vector<std::string>{folder.path("~a.jpg")}) << "the name is taken by a folder";
-}
-
 TEST(WriteJpeg, OverwritesAStaleTemporaryFileAndFollowsALink)
 {
     const TemporaryFolder folder;

@@ -1,0 +1,326 @@
+#include "collection/BatchAction.h"
+#include "common/system/File.h"
+#include "document/TagDictionary.h"
+#include "support/CommandRun.h"
+#include "support/CountingProgress.h"
+#include "support/FaultyCalls.h"
+#include "support/JpegBytes.h"
+#include "support/RecordingReporter.h"
+#include "support/Rewriting.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <functional>
+#include <map>
+
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace ovisto::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+const std::string kTitle = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']";
+
+bool contains(const Names& names, const std::string& name)
+{
+    return std::ranges::find(names, name) != names.end();
+}
+
+bool startsWithOneOf(const std::string& call, const Names& beginnings)
+{
+    return std::ranges::any_of(beginnings, [&](const std::string& beginning) { return call.starts_with(beginning); });
+}
+
+/// One of the ways in which the program saves files.
+struct Way {
+    std::string name;
+    Names files;
+    Bytes before; ///< what is in each of them
+    std::function<void(const TemporaryFolder&, ErrorReporter&)> save;
+    bool keepsIncomplete = false; ///< whether a new version that could not be finished stays
+};
+
+Way singleSave()
+{
+    ExifBytes exif(false); // the new version is little-endian
+    exif.ifd0({exif.ascii(0x010F, "Acme")});
+    JpegBytes photograph; // with more before its image than the reader keeps of a file at a time
+    photograph.exif(exif).segment(0xFFE2, Bytes(60'000, 0x11)).segment(0xFFE3, Bytes(60'000, 0x22));
+    const auto save = [](const TemporaryFolder& folder, ErrorReporter& reporter) {
+        rewrite(folder.path("a.jpg"), reporter);
+    };
+    return {"single save", {"a.jpg"}, photograph.end(Bytes(70'000, 0x33)), save, true};
+}
+
+Way textFile()
+{
+    const auto save = [](const TemporaryFolder& folder, ErrorReporter&) {
+        fs::create_symlink("a.txt", folder.path("link"));
+        ErrorTrap trap;
+        trap.run([&] { writeTextFile(folder.path("link"), std::string(70'000, 'n')); });
+        EXPECT_TRUE(fs::is_symlink(folder.path("link")));
+        fs::remove(folder.path("link"));
+        trap.raise();
+    };
+    return {"text file", {"a.txt"}, bytes("old"), save};
+}
+
+Way batchOf(int count)
+{
+    Names files;
+    for (int i = 0; i < count; ++i)
+        files.push_back(std::to_string(100 + i) + ".jpg");
+    static const TagDictionary dictionary(OVISTO_DATA_FOLDER "Merovel.xml");
+    const auto save = [files](const TemporaryFolder& folder, ErrorReporter& reporter) {
+        Names paths;
+        std::ranges::transform(files, std::back_inserter(paths), [&](const auto& file) { return folder.path(file); });
+        CountingProgress progress;
+        BatchAction(paths, {NodeAction::Set, dictionary.entry(kTitle), "New"}).run(progress, reporter);
+    };
+    return {"batch", files, JpegBytes().app0().end(), save};
+}
+
+/// What a new version takes from the old one besides its content.
+std::string attributesOf(const std::string& path)
+{
+    struct stat status = {};
+    stat(path.c_str(), &status);
+    std::string comment(10, '\0');
+    getxattr(path.c_str(), "user.comment", comment.data(), comment.size());
+    return std::to_string(status.st_mode) + " " + std::to_string(status.st_uid) + " " + std::to_string(status.st_gid) +
+           " " + comment;
+}
+
+/// Gives a file attributes that a new file would not have, as far as the file system and the user's rights go.
+void setAttributes(const std::string& path)
+{
+    constexpr uid_t kSomebodyElse = 12345;
+    setxattr(path.c_str(), "user.comment", "mine", 4, 0);
+    ASSERT_TRUE(chown(path.c_str(), kSomebodyElse, kSomebodyElse) == 0 || errno == EPERM);
+    ASSERT_EQ(chmod(path.c_str(), 0640), 0);
+}
+
+/// What became of the files.
+struct Outcome {
+    Names failed;                          ///< those that were reported
+    Names contexts;                        ///< of the reports, without the folder
+    std::vector<int> numbers;              ///< of the errors
+    std::map<std::string, Bytes> contents; ///< of all files afterwards
+    Names changed;                         ///< those whose permissions or attributes are not what they were
+    Names calls;
+};
+
+Outcome outcomeOf(const Way& way, const Fault& fault)
+{
+    const TemporaryFolder folder;
+    std::map<std::string, std::string> attributes;
+    for (const std::string& name : way.files) {
+        setAttributes(folder.file(name, way.before));
+        attributes[name] = attributesOf(folder.path(name));
+    }
+    Outcome outcome;
+    RecordingReporter reporter;
+    {
+        const FaultyCalls faulty(fault);
+        const int raised = errorNumberOf([&] { way.save(folder, reporter); });
+        if (raised != 0 && reporter.numbers.empty())
+            reporter.report(folder.path(way.files.front()), {raised, ""});
+        outcome.calls = FaultyCalls::log();
+    }
+    outcome.numbers = reporter.numbers;
+    for (std::string context : reporter.contexts) {
+        for (auto at = context.find(folder.path("")); at != std::string::npos; at = context.find(folder.path("")))
+            context.erase(at, folder.path("").size());
+        outcome.contexts.push_back(context);
+    }
+    outcome.failed = way.files.size() == 1 && !reporter.numbers.empty() ? way.files : outcome.contexts;
+    for (const std::string& name : folder.names())
+        outcome.contents[name] = contentOf(folder.path(name));
+    for (const auto& [name, before] : attributes) {
+        if (attributesOf(folder.path(name)) != before)
+            outcome.changed.push_back(name);
+    }
+    return outcome;
+}
+
+/// The file that a call is about, or whose new version it is about.
+std::string fileOf(const std::string& call)
+{
+    const std::string name = call.substr(call.rfind(' ') + 1);
+    return name.starts_with('~') ? name.substr(1) : name;
+}
+
+/// write < fsync < rename < fsync of the folder, where the new version of `file` was put in place.
+void expectOrder(const Names& calls, const std::string& file)
+{
+    const auto renamed = std::ranges::find(calls, "rename ~" + file + " " + file);
+    if (renamed == calls.end())
+        return;
+    const auto written = std::find(std::reverse_iterator(renamed), calls.rend(), "write ~" + file).base();
+    EXPECT_TRUE(std::any_of(written, renamed,
+                            [&](const std::string& call) {
+                                const bool isGroupSync =
+                                    call.starts_with("syncfs ") && call.ends_with(".jpg"); // without an error number
+                                return isGroupSync || call == "fsync ~" + file;
+                            }))
+        << file << " was put in place before the disk had it";
+    EXPECT_TRUE(std::any_of(renamed, calls.end(),
+                            [](const std::string& call) {
+                                return startsWithOneOf(call, {"fsync .", "open . "});
+                            }))
+        << "nothing was done for the folder after " << file;
+}
+
+/// Each file is the whole old one and was reported, or the whole new one and was not. Of other files, only `leftovers`
+/// may be there.
+void expectWhole(const Way& way, const Outcome& outcome, const Outcome& clean, const Names& leftovers)
+{
+    for (const std::string& file : way.files) {
+        const Bytes& expected = contains(outcome.failed, file) ? way.before : clean.contents.at(file);
+        EXPECT_TRUE(outcome.contents.at(file) == expected) << file;
+        expectOrder(outcome.calls, file);
+    }
+    for (const auto& [name, content] : outcome.contents)
+        EXPECT_TRUE(contains(way.files, name) || contains(leftovers, name)) << name << " was left over";
+}
+
+/// What an error of the device in `call` does: it fails the file that the call is about, or nothing.
+void expectOneFailure(const std::string& call, const Outcome& outcome)
+{
+    const bool isDispensable = startsWithOneOf(call, {"open ~", "open .", "fsync .", "syncfs", "fchown", "fsetxattr"});
+    const bool mayFail = startsWithOneOf(call, {"fstat", "unlink"});
+    if (isDispensable || (mayFail && outcome.failed.empty())) {
+        EXPECT_EQ(outcome.failed, Names());
+        return;
+    }
+    EXPECT_EQ(outcome.failed, Names{fileOf(call)});
+    if (startsWithOneOf(call, {"pread", "create", "write", "fsync", "rename"})) {
+        EXPECT_EQ(outcome.numbers.empty() ? 0 : outcome.numbers.front(), kDeviceError);
+    }
+}
+
+} // namespace
+
+TEST(Saving, SurvivesAFaultInEachOfItsCalls)
+{
+    for (const Way& way : {singleSave(), batchOf(5), textFile()}) {
+        const Outcome clean = outcomeOf(way, {});
+        std::map<std::string, int> times;
+        for (const std::string& call : clean.calls) {
+            const Fault fault{call, ++times[call], EIO};
+            SCOPED_TRACE(way.name + ": " + call + ", time " + std::to_string(fault.time));
+            const Outcome outcome = outcomeOf(way, fault);
+            expectOneFailure(call, outcome);
+            const bool mayLeave = way.keepsIncomplete || startsWithOneOf(call, {"rename", "unlink", "fstat"});
+            expectWhole(way, outcome, clean, mayLeave ? Names{"~" + fileOf(call)} : Names());
+            if (!startsWithOneOf(call, {"fchown", "fsetxattr"})) {
+                EXPECT_EQ(outcome.changed, Names()) << "in their permissions or attributes";
+            }
+        }
+    }
+}
+
+TEST(Saving, TakesUpAgainWhatWasInterruptedOrCutShort)
+{
+    for (const Way& way : {singleSave(), batchOf(5), textFile()}) {
+        const Outcome clean = outcomeOf(way, {});
+        for (const Fault& fault : {Fault{}, Fault{kAnyCall, 0, EINTR}, Fault{kAnyCall, 0, kHalf}}) {
+            SCOPED_TRACE(way.name + " " + std::to_string(fault.error));
+            const Outcome outcome = outcomeOf(way, fault);
+            EXPECT_EQ(outcome.failed, Names());
+            EXPECT_EQ(outcome.changed, Names());
+            expectWhole(way, outcome, clean, {});
+        }
+    }
+}
+
+TEST(Saving, SaysWhichStepFailed)
+{
+    const struct {
+        Fault fault;
+        int number;
+        Names contexts;
+    } cases[] = {
+        {{"open a.jpg", 2, ENOENT}, kFileNotFound, {"a.jpg"}},
+        {{"create ~a.jpg", 1, ENOSPC}, kDiskFull, {"~a.jpg"}},
+        {{"create ~a.jpg", 1, EEXIST}, kPermissionDenied, {"~a.jpg"}},
+        {{"write ~a.jpg", 1, ENOSPC}, kDiskFull, {"Temp file write failed", "~a.jpg write failed"}},
+        {{"write ~a.jpg", 2, EDQUOT}, kDiskFull, {"~a.jpg transfer of image from existing file failed"}},
+        {{"write ~a.jpg", 3, kNothing}, kDiskFull, {"~a.jpg write failed"}},
+        {{"fchmod ~a.jpg", 1, EPERM}, kPermissionDenied, {"~a.jpg write failed"}},
+        {{"fsync ~a.jpg", 1, EFBIG}, kDiskFull, {"~a.jpg write failed"}},
+        {{"rename ~a.jpg a.jpg", 1, EIO}, kDeviceError, {"Rename file ~a.jpg to a.jpg"}},
+        {{"rename ~a.jpg a.jpg", 1, EACCES}, kPermissionDenied, {"Delete old file a.jpg"}},
+    };
+    const Way way = singleSave();
+    const Bytes newVersion = outcomeOf(way, {}).contents["a.jpg"];
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.fault.call + " " + std::to_string(c.fault.time));
+        Outcome outcome = outcomeOf(way, c.fault);
+        EXPECT_EQ(outcome.contexts, c.contexts);
+        EXPECT_EQ(outcome.numbers, std::vector<int>(c.contexts.size(), c.number));
+        if (c.fault.call.starts_with("rename")) {
+            EXPECT_TRUE(outcome.contents["~a.jpg"] == newVersion) << "a whole new version is kept";
+        }
+    }
+}
+
+TEST(Saving, SyncsEachFileOfAGroupWhereTheGroupCouldNotBe)
+{
+    const Way way = batchOf(9);
+    const Outcome clean = outcomeOf(way, {});
+    expectWhole(way, clean, clean, {});
+    EXPECT_FALSE(std::ranges::any_of(clean.calls, [](const auto& call) { return call.starts_with("fsync ~"); }));
+    for (const int error : {EIO, ENOSYS}) {
+        const Outcome outcome = outcomeOf(way, {"syncfs ~100.jpg", 1, error});
+        EXPECT_EQ(outcome.failed, Names());
+        expectWhole(way, outcome, clean, {});
+    }
+}
+
+TEST(Saving, MakesRoomOnAFullDiskBeforeAFileFails)
+{
+    const Way way = batchOf(5);
+    const Outcome clean = outcomeOf(way, {});
+    const Outcome once = outcomeOf(way, {"write ~102.jpg", 1, ENOSPC});
+    EXPECT_EQ(once.failed, Names());
+    expectWhole(way, once, clean, {});
+    const auto retried = std::find(once.calls.rbegin(), once.calls.rend(), "create ~102.jpg").base();
+    for (const std::string file : {"100.jpg", "101.jpg"}) {
+        const auto renamed = std::ranges::find(once.calls, "rename ~" + file + " " + file);
+        EXPECT_TRUE(renamed < retried) << file << " is still in the way";
+    }
+
+    const Outcome always = outcomeOf(way, {"write ~102.jpg", 0, ENOSPC});
+    EXPECT_EQ(always.failed, Names{"102.jpg"});
+    EXPECT_EQ(always.numbers, std::vector<int>{kDiskFull});
+    expectWhole(way, always, clean, {});
+}
+
+TEST(Saving, SparesAFileThatHasTheTemporaryNameOfAnother)
+{
+    const Bytes before = JpegBytes().app0().end();
+    for (const Names& command : {Names{"write"}, Names{"set", kTitle, "New"}}) {
+        const TemporaryFolder folder;
+        Names arguments = {OVISTO_CLI};
+        arguments.insert(arguments.end(), command.begin(), command.end());
+        arguments.insert(arguments.end(), {folder.file("a.jpg", before), folder.file("~a.jpg", before)});
+        const CommandRun run = runCommand(arguments);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_NE(run.errors.find("Another file of the list has the name of its temporary file"), std::string::npos);
+        EXPECT_EQ(contentOf(folder.path("a.jpg")), before);
+        EXPECT_EQ(contentOf(folder.path("~a.jpg")) == before, command.front() == "write");
+        EXPECT_EQ(imageData(contentOf(folder.path("~a.jpg"))), imageData(before));
+    }
+}
+
+} // namespace ovisto::test

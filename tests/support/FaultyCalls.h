@@ -1,0 +1,39 @@
+#pragma once
+
+#include "common/system/posix/SystemCalls.h"
+
+#include <string>
+#include <vector>
+
+namespace ovisto::test {
+
+// What happens at a fault instead of an error number of the system.
+inline constexpr int kHalf = -1;    ///< reads or writes half of the bytes only
+inline constexpr int kNothing = -2; ///< reads or writes nothing, without an error
+
+inline constexpr auto* kAnyCall = "*";
+
+/// Which call goes wrong, and how. A call is written as the verb and the name of its file: "write ~a.jpg". The file
+/// that replaces a.txt counts as ~a.txt, whatever its random name; its folder is "."; "create" opens a new file.
+struct Fault {
+    std::string call;
+    int time = 1; ///< 1: the first such call; 0: each of them
+    int error = 0;
+};
+
+/// Makes one of the calls that saving depends on go wrong, and keeps the list of them all. Nothing waits for the disk.
+class FaultyCalls {
+public:
+    explicit FaultyCalls(Fault fault);
+    FaultyCalls(const FaultyCalls&) = delete;
+    FaultyCalls& operator=(const FaultyCalls&) = delete;
+    ~FaultyCalls();
+
+    /// All calls so far, in order. One that failed has its error number behind it: "fsync ~a.jpg 5".
+    static const std::vector<std::string>& log();
+
+private:
+    ReplacedSystemCalls m_replaced;
+};
+
+} // namespace ovisto::test
