@@ -261,7 +261,7 @@ TEST(Saving, SaysWhichStepFailed)
         {{"rename ~a.jpg a.jpg", 1, EIO}, kDeviceError, {"Rename file ~a.jpg to a.jpg"}},
         {{"rename ~a.jpg a.jpg", 1, EACCES}, kPermissionDenied, {"Delete old file a.jpg"}},
     };
-    const Way way = singleSave();
+    Way way = singleSave();
     const Bytes newVersion = outcomeOf(way, {}).contents["a.jpg"];
     for (const auto& c : cases) {
         SCOPED_TRACE(c.fault.call + " " + std::to_string(c.fault.time));
@@ -272,6 +272,15 @@ TEST(Saving, SaysWhichStepFailed)
             EXPECT_TRUE(outcome.contents["~a.jpg"] == newVersion) << "a whole new version is kept";
         }
     }
+
+    way.save = [save = way.save](const TemporaryFolder& folder, ErrorReporter& reporter) {
+        fs::permissions(folder.path("a.jpg"), fs::perms::owner_read);
+        save(folder, reporter);
+    };
+    Outcome readOnly = outcomeOf(way, {});
+    EXPECT_EQ(readOnly.contexts, Names{"Delete old file a.jpg"});
+    EXPECT_TRUE(readOnly.contents["a.jpg"] == way.before);
+    EXPECT_TRUE(readOnly.contents["~a.jpg"] == newVersion);
 }
 
 TEST(Saving, SyncsEachFileOfAGroupWhereTheGroupCouldNotBe)
@@ -280,8 +289,10 @@ TEST(Saving, SyncsEachFileOfAGroupWhereTheGroupCouldNotBe)
     const Outcome clean = outcomeOf(way, {});
     expectWhole(way, clean, clean, {});
     EXPECT_FALSE(std::ranges::any_of(clean.calls, [](const auto& call) { return call.starts_with("fsync ~"); }));
-    for (const int error : {EIO, ENOSYS}) {
-        const Outcome outcome = outcomeOf(way, {"syncfs ~100.jpg", 1, error});
+    const auto statusAsked =
+        static_cast<int>(std::ranges::count(clean.calls, "fstat ~100.jpg")); // the last for the group
+    for (const Fault& fault : {Fault{"syncfs ~100.jpg", 1, EIO}, Fault{"fstat ~100.jpg", statusAsked, EIO}}) {
+        const Outcome outcome = outcomeOf(way, fault);
         EXPECT_EQ(outcome.failed, Names());
         expectWhole(way, outcome, clean, {});
     }
@@ -308,19 +319,14 @@ TEST(Saving, MakesRoomOnAFullDiskBeforeAFileFails)
 
 TEST(Saving, SparesAFileThatHasTheTemporaryNameOfAnother)
 {
-    const Bytes before = JpegBytes().app0().end();
-    for (const Names& command : {Names{"write"}, Names{"set", kTitle, "New"}}) {
-        const TemporaryFolder folder;
-        Names arguments = {OVISTO_CLI};
-        arguments.insert(arguments.end(), command.begin(), command.end());
-        arguments.insert(arguments.end(), {folder.file("a.jpg", before), folder.file("~a.jpg", before)});
-        const CommandRun run = runCommand(arguments);
-        EXPECT_EQ(run.status, 1);
-        EXPECT_NE(run.errors.find("Another file of the list has the name of its temporary file"), std::string::npos);
-        EXPECT_EQ(contentOf(folder.path("a.jpg")), before);
-        EXPECT_EQ(contentOf(folder.path("~a.jpg")) == before, command.front() == "write");
-        EXPECT_EQ(imageData(contentOf(folder.path("~a.jpg"))), imageData(before));
-    }
+    const TemporaryFolder folder;
+    const Bytes before = fullPhotograph(true);
+    const std::string first = folder.file("a.jpg", before);
+    const std::string second = folder.file("~a.jpg", before);
+    const CommandRun run = runCommand({OVISTO_CLI, "write", first, second});
+    EXPECT_NE(run.errors.find("a.jpg: Another file of the list has the name of its temporary file"), std::string::npos);
+    EXPECT_EQ(contentOf(first), before);
+    EXPECT_EQ(imageData(contentOf(second)), imageData(before));
 }
 
 } // namespace ovisto::test

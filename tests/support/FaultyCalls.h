@@ -11,7 +11,7 @@ namespace ovisto::test {
 inline constexpr int kHalf = -1;    ///< reads or writes half of the bytes only
 inline constexpr int kNothing = -2; ///< reads or writes nothing, without an error
 
-inline constexpr auto* kAnyCall = "*";
+inline constexpr auto* kAnyCall = "*"; ///< each of them; one that was interrupted succeeds the next time
 
 /// Which call goes wrong, and how. A call is written as the verb and the name of its file: "write ~a.jpg". The file
 /// that replaces a.txt counts as ~a.txt, whatever its random name; its folder is "."; "create" opens a new file.
@@ -29,7 +29,7 @@ public:
     FaultyCalls& operator=(const FaultyCalls&) = delete;
     ~FaultyCalls();
 
-    /// All calls so far, in order. One that failed has its error number behind it: "fsync ~a.jpg 5".
+    /// All calls so far, in order; after one that was made to fail, its error number: "fsync ~a.jpg 5".
     static const std::vector<std::string>& log();
 
 private:
