@@ -22,7 +22,7 @@ namespace ovisto {
 namespace {
 
 constexpr std::size_t kGroupFiles = 2048;
-constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< as much is on its way to the disk at most
+constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< on their way to the disk at most
 
 /// The new versions that wait to be put in place.
 class Group {
@@ -36,8 +36,8 @@ public:
     std::size_t size() const { return m_members.size(); }
     std::int64_t bytes() const { return m_bytes; }
 
-    /// Writes the new version of the file that `change` needs, if it needs one. Where the disk is full, all groups put
-    /// theirs in place first, and the file has the room to itself.
+    /// Writes the new version of the file, if `change` makes a difference. When the disk is full, all groups put theirs
+    /// in place first, and the file has the room to itself.
     void add(const std::string& path, const NodeChange& change)
     {
         if (!m_share.owns_lock())
@@ -51,7 +51,7 @@ public:
         shareIfNeeded();
     }
 
-    /// Puts all of them in place that the disk has.
+    /// Brings all of them to disk and puts those in place that it has.
     void finish()
     {
         putInPlace();
@@ -70,7 +70,7 @@ private:
 
     enum class DiskFull { TryAgain, Fails };
 
-    /// False when the disk is full, and the file to be tried again.
+    /// False when the disk is full and the file should be tried again.
     bool write(const std::string& path, const NodeChange& change, DiskFull onDiskFull)
     {
         auto member = std::make_unique<Member>(path);
@@ -111,7 +111,7 @@ private:
         m_bytes = 0;
     }
 
-    /// A group takes room as long as it has new versions.
+    /// A group takes part of the room as long as it has new versions.
     void shareIfNeeded()
     {
         if (m_members.empty() && m_share.owns_lock())
@@ -146,7 +146,7 @@ private:
     }
 
     ErrorReporter& m_reporter;
-    std::shared_mutex& m_room; ///< on the disk; who holds it alone has all of it
+    std::shared_mutex& m_room; ///< on the disk; whichever holds it alone has all of it
     std::shared_lock<std::shared_mutex> m_share;
     std::vector<std::unique_ptr<Member>> m_members;
     std::int64_t m_bytes = 0;

@@ -8,8 +8,8 @@
 
 namespace ovisto {
 
-/// Writes the values that JPEG segments are made of, one behind the other, to a file. Each operation that fails reports
-/// it and raises the error, so that nothing more of the same value is written.
+/// Writes the values that JPEG segments are made of, one after the other, to a file. An operation that fails reports
+/// the error and raises it, so that nothing more of the same value is written.
 class SegmentWriter {
 public:
     /// Both must outlive the writer.

@@ -8,11 +8,11 @@
 
 namespace ovisto {
 
-/// What tells a folder from all others, by whatever name it was reached.
+/// Equal for two paths only if they lead to the same folder.
 using FolderIdentity = std::pair<std::uint64_t, std::uint64_t>;
 
-/// What is in one folder: names without the folder's path, sorted as people sort names. Hidden things, and those that
-/// are neither file nor folder, are left out. What a symbolic link leads to decides what it is.
+/// What is in one folder: names without the folder's path, sorted without regard to case. What is hidden, or neither
+/// file nor folder, is left out. A symbolic link counts as what it leads to.
 struct FolderListing {
     FolderIdentity identity;
     std::vector<std::string> files;
@@ -22,7 +22,7 @@ struct FolderListing {
 /// Raises the system's reason when `folder` cannot be read.
 FolderListing listFolder(const std::string& folder);
 
-/// The path of what is called `name` in `folder`.
+/// The path of `name` in `folder`.
 std::string pathIn(const std::string& folder, std::string_view name);
 
 } // namespace ovisto

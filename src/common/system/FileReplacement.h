@@ -17,13 +17,13 @@ struct ReplaceFailure {
 
 /// Puts the complete file `replacement` in the place of `path`, so that at every instant `path` names a whole old or a
 /// whole new file. A file that may not be deleted (marked read-only, or its folder denies it) fails at the deletion.
-/// Which of the two survives a power failure is open until syncFolder() was called.
+/// Until syncFolder(), either of the two may be there after a power failure.
 std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path);
 
 /// Why replaceFile() will fail, where that is known before the replacement is written: `path` is marked read-only.
 std::optional<ReplaceFailure> replaceObstacle(const std::string& path);
 
-/// Makes what was replaced, created or deleted in `folder` survive a power failure, where the file system can.
+/// Makes replacements, creations and deletions in `folder` survive a power failure, where the file system can do that.
 void syncFolder(const std::string& folder);
 
 /// Where `path` leads to when it is a symbolic link, else `path` itself.

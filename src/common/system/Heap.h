@@ -4,7 +4,7 @@
 
 namespace ovisto {
 
-/// Bytes that the system set aside for the memory at `memory`, which std::malloc() gave; 0 for none.
+/// Bytes that the system reserved for `memory`, which std::malloc() returned; 0 for a null pointer.
 std::size_t allocatedSize(void* memory);
 
 } // namespace ovisto

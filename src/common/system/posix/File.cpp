@@ -56,7 +56,7 @@ bool names(const std::string& path, const struct stat& opened)
     return lstat(path.c_str(), &named) == 0 && named.st_dev == opened.st_dev && named.st_ino == opened.st_ino;
 }
 
-/// Deletes a file that an earlier save left behind. One that a save is writing at this moment is locked, and stays.
+/// Deletes a file that an earlier save left. One that a save is writing at this moment is locked, and stays.
 void deleteLeftover(const std::string& path)
 {
     const FileHandle leftover(
@@ -228,8 +228,8 @@ void OutputFile::startSync()
     flush();
     std::string().swap(m_buffer); // many files may wait for their sync
 #ifdef SYNC_FILE_RANGE_WRITE
-    // Only a hint: a file system that cannot do it has all its work left to sync(). For small files it is dearer to
-    // bother the disk with each than to hand it many at once.
+    // Only a hint: where the file system ignores it, sync() has all the work. Small files cost the disk less when it
+    // gets many at once.
     constexpr std::int64_t kWorthIt = std::int64_t{1} << 20;
     if (m_written >= kWorthIt)
         sync_file_range(m_handle.get(), 0, 0, SYNC_FILE_RANGE_WRITE);
@@ -250,7 +250,7 @@ std::uint64_t OutputFile::device() const
 bool OutputFile::syncFileSystem()
 {
     flush();
-    // It reports all that failed since the file was opened.
+    // It reports everything that failed since the file was opened.
     return systemCall(&SystemCalls::syncfs, m_handle.get()) == 0;
 }
 
@@ -273,7 +273,7 @@ void OutputFile::takeAttributesFrom(const InputFile& old)
 
 void OutputFile::discard()
 {
-    // It is locked: no other save takes the name between the two.
+    // The file is locked: no other save takes its name in between.
     struct stat status = {};
     if (systemCall(&SystemCalls::fstat, m_handle.get(), &status) == 0 && names(m_path, status))
         systemCall(&SystemCalls::unlink, m_path.c_str());

@@ -25,7 +25,7 @@ Kind kindOf(mode_t mode)
     return S_ISREG(mode) ? Kind::File : S_ISDIR(mode) ? Kind::Folder : Kind::Other;
 }
 
-/// The system mostly tells with the name what it stands for, but for a link not what that leads to.
+/// Most systems return the kind with the name, but for a link not the kind of what it leads to.
 Kind kindOf(int folder, const dirent& entry)
 {
     if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)

@@ -29,7 +29,7 @@ void deferInterruption()
 {
     for (const int each : kSignals) {
         struct sigaction action = {};
-        // Who started the program may have it ignore one: nohup, or a shell in the background.
+        // The program may have been started so that it ignores one: by nohup, or a shell in the background.
         if (sigaction(each, nullptr, &action) != 0 || action.sa_handler == SIG_IGN)
             continue;
         action = {};
