@@ -1,8 +1,8 @@
 #include "collection/BatchAction.h"
 #include "common/system/File.h"
-#include "document/TagDictionary.h"
 #include "support/CommandRun.h"
 #include "support/CountingProgress.h"
+#include "support/Dictionary.h"
 #include "support/FaultyCalls.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
@@ -56,6 +56,7 @@ Way singleSave()
     JpegBytes photograph; // with more before its image than the reader keeps of a file at a time
     photograph.exif(exif).segment(0xFFE2, Bytes(60'000, 0x11)).segment(0xFFE3, Bytes(60'000, 0x22));
     const auto save = [](const TemporaryFolder& folder, ErrorReporter& reporter) {
+        folder.file("~a.jpg", "left by an earlier save");
         rewrite(folder.path("a.jpg"), reporter);
     };
     return {"single save", {"a.jpg"}, photograph.end(Bytes(70'000, 0x33)), save, true};
@@ -79,12 +80,12 @@ Way batchOf(int count)
     Names files;
     for (int i = 0; i < count; ++i)
         files.push_back(std::to_string(100 + i) + ".jpg");
-    static const TagDictionary dictionary(OVISTO_DATA_FOLDER "Merovel.xml");
-    const auto save = [files](const TemporaryFolder& folder, ErrorReporter& reporter) {
+    const NodeChange change{NodeAction::Set, dictionary().entry(kTitle), "New"};
+    const auto save = [files, change](const TemporaryFolder& folder, ErrorReporter& reporter) {
         Names paths;
         std::ranges::transform(files, std::back_inserter(paths), [&](const auto& file) { return folder.path(file); });
         CountingProgress progress;
-        BatchAction(paths, {NodeAction::Set, dictionary.entry(kTitle), "New"}).run(progress, reporter);
+        BatchAction(paths, change).run(progress, reporter);
     };
     return {"batch", files, JpegBytes().app0().end(), save};
 }
@@ -159,10 +160,15 @@ std::string fileOf(const std::string& call)
     return name.starts_with('~') ? name.substr(1) : name;
 }
 
+std::string renameOf(const std::string& file)
+{
+    return "rename ~" + file + " " + file;
+}
+
 /// write < fsync < rename < fsync of the folder, where the new version of `file` was put in place.
 void expectOrder(const Names& calls, const std::string& file)
 {
-    const auto renamed = std::ranges::find(calls, "rename ~" + file + " " + file);
+    const auto renamed = std::ranges::find(calls, renameOf(file));
     if (renamed == calls.end())
         return;
     const auto written = std::find(std::reverse_iterator(renamed), calls.rend(), "write ~" + file).base();
@@ -307,7 +313,7 @@ TEST(Saving, MakesRoomOnAFullDiskBeforeAFileFails)
     expectWhole(way, once, clean, {});
     const auto retried = std::find(once.calls.rbegin(), once.calls.rend(), "create ~102.jpg").base();
     for (const std::string file : {"100.jpg", "101.jpg"}) {
-        const auto renamed = std::ranges::find(once.calls, "rename ~" + file + " " + file);
+        const auto renamed = std::ranges::find(once.calls, renameOf(file));
         EXPECT_TRUE(renamed < retried) << file << " is still in the way";
     }
 

@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <random>
 
 namespace ovisto::test {
@@ -286,19 +285,6 @@ TEST(WriteJpeg, RefusesATextWithWhichTheFileCouldNotBeOpenedAgain)
         EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); }), c.error) << c.text;
         EXPECT_EQ(errorNumberOf([&] { loadDocument(path); }), 0) << c.text;
     }
-}
-
-TEST(WriteJpeg, OverwritesAStaleTemporaryFileAndFollowsALink)
-{
-    const TemporaryFolder folder;
-    const std::string path = folder.file("a.jpg", fullPhotograph(false));
-    folder.file("~a.jpg", "stale");
-    std::filesystem::create_symlink("a.jpg", folder.path("link.jpg"));
-    RecordingReporter reporter;
-    rewrite(folder.path("link.jpg"), reporter);
-    EXPECT_EQ(folder.names(), (std::vector<std::string>{"a.jpg", "link.jpg"}));
-    EXPECT_TRUE(std::filesystem::is_symlink(folder.path("link.jpg")));
-    EXPECT_EQ(imageData(contentOf(path)), imageData(fullPhotograph(false)));
 }
 
 TEST(WriteJpeg, RefusesAFileThatWasChangedAfterItWasRead)
