@@ -82,10 +82,11 @@ TEST_F(BatchActionTest, ChangesAFileOnceThatIsInTheListTwice)
 {
     std::vector<std::string> files = photographs(2);
     fs::create_symlink("100.jpg", folder.path("link.jpg"));
-    files.insert(files.end(), {files[0], folder.path("./101.jpg"), folder.path("link.jpg")});
+    files.insert(files.end(), {files[0], folder.path("./101.jpg")});
+    files.insert(files.begin(), folder.path("link.jpg"));
     BatchAction(files, titled("New")).run(progress, reporter);
     EXPECT_TRUE(reporter.contexts.empty());
-    EXPECT_EQ(titleOf(files[0]) + titleOf(files[1]), "NewNew");
+    EXPECT_EQ(titleOf(files[1]) + titleOf(files[2]), "NewNew");
     EXPECT_TRUE(fs::is_symlink(folder.path("link.jpg")));
 }
 
