@@ -1,11 +1,16 @@
 #include "cli/CommandOutput.h"
 
-#include "cli/CommandLine.h"
+#include "cli/Command.h"
 #include "cli/TerminalText.h"
 
 #include <cstdio>
 
 namespace ovisto {
+
+void LineReporter::report(const std::string& context, const Error& error)
+{
+    m_lines += errorLine(context, error.description);
+}
 
 void CommandOutput::write(const FileResult& result)
 {
@@ -18,6 +23,11 @@ void CommandOutput::write(const FileResult& result)
     m_failed = true;
     std::fflush(stdout);
     std::fputs(result.errors.c_str(), stderr);
+}
+
+void CommandOutput::report(const std::string& context, const Error& error)
+{
+    fail(errorLine(context, error.description));
 }
 
 int CommandOutput::finish()

@@ -2,18 +2,32 @@
 
 #include "cli/FileLoop.h"
 #include "cli/TerminalProgress.h"
+#include "common/ErrorReport.h"
 
 #include <string>
 
 namespace ovisto {
 
-/// Standard output and standard error of a command, with its progress bar out of their way.
-class CommandOutput {
+/// Makes a line of each report.
+class LineReporter : public ErrorReporter {
+public:
+    /// `lines` must outlive the object.
+    explicit LineReporter(std::string& lines) : m_lines(lines) {}
+
+    void report(const std::string& context, const Error& error) override;
+
+private:
+    std::string& m_lines;
+};
+
+/// Standard output and standard error of a command, with its progress bar out of their way. Reports are written to
+/// standard error at once.
+class CommandOutput : public ErrorReporter {
 public:
     /// Writes what became of a file. An error makes the command one that failed.
     void write(const FileResult& result);
-    /// Writes a line to standard error.
-    void fail(const std::string& errorLine) { write({.output = {}, .errors = errorLine}); }
+
+    void report(const std::string& context, const Error& error) override;
 
     /// Ends the output. Returns the exit status of the command.
     int finish();
@@ -21,6 +35,8 @@ public:
     Progress& progress() { return m_progress; }
 
 private:
+    void fail(const std::string& errorLine) { write({.output = {}, .errors = errorLine}); }
+
     TerminalProgress m_progress;
     bool m_failed = false;
 };

@@ -1,10 +1,20 @@
 #pragma once
 
-#include "cli/CommandLine.h"
+#include "cli/Command.h"
 
 namespace ovisto {
 
-/// Does what the command line asks for, and returns the exit status.
-int runCommand(const CommandLine& line);
+// All commands. A new one is a function that returns it, in a file of its own, and a row of the table in
+// CommandLine.cpp.
+
+Command showCommand();
+Command xmlCommand();
+Command exportCommand();
+Command writeCommand();
+Command setCommand();
+Command deleteCommand();
+Command addCommand();
+Command findCommand();
+Command reportCommand();
 
 } // namespace ovisto

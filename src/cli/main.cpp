@@ -1,13 +1,9 @@
 #include "cli/CommandLine.h"
-#include "cli/Commands.h"
 #include "common/system/Interruption.h"
 
 int main(int argc, char** argv)
 {
-    int exitStatus = ovisto::kAllDone;
-    const auto line = ovisto::parseCommandLine(argc, argv, exitStatus);
-    if (line)
-        exitStatus = ovisto::runCommand(*line);
+    const int exitStatus = ovisto::runCommandLine(argc, argv);
     if (ovisto::interrupted())
         ovisto::endInterrupted();
     return exitStatus;

@@ -22,18 +22,33 @@ public:
 /// Tells `reporter` that `error` happened in `context`.
 void ErrorReport(ErrorReporter& reporter, const std::string& context, const Error& error);
 
-/// Runs `step`. The error that it raises is reported in `context`, and raised again for the caller. `context`: a text,
-/// or what makes it, where many steps come along and hardly any fails.
-template <class Context, class Step> void reported(ErrorReporter& reporter, const Context& context, Step&& step)
+/// Reports the error that `trap` holds, if any, in `context`: a text, or what makes it, where many steps come along and
+/// hardly any fails.
+template <class Context> void reportPending(ErrorReporter& reporter, const Context& context, const ErrorTrap& trap)
 {
-    ErrorTrap trap;
-    trap.run(std::forward<Step>(step));
     if (!trap.pending())
         return;
     if constexpr (std::is_invocable_v<Context>)
         ErrorReport(reporter, context(), trap.error());
     else
         ErrorReport(reporter, context, trap.error());
+}
+
+/// Runs `step` and reports the error that it raises, in `context`. Returns whether it raised none.
+template <class Context, class Step> bool attempt(ErrorReporter& reporter, const Context& context, Step&& step)
+{
+    ErrorTrap trap;
+    trap.run(std::forward<Step>(step));
+    reportPending(reporter, context, trap);
+    return !trap.pending();
+}
+
+/// The same, and raises the error again for the caller.
+template <class Context, class Step> void reported(ErrorReporter& reporter, const Context& context, Step&& step)
+{
+    ErrorTrap trap;
+    trap.run(std::forward<Step>(step));
+    reportPending(reporter, context, trap);
     trap.raise();
 }
 

@@ -1,0 +1,33 @@
+#include "cli/EachFile.h"
+
+#include "cli/CommandOutput.h"
+#include "cli/TerminalText.h"
+#include "common/FirstReport.h"
+
+namespace ovisto {
+
+namespace {
+
+FileResult resultOf(const std::string& path, const FileWork& work)
+{
+    FileResult result;
+    FirstReport reporter;
+    ErrorTrap trap;
+    trap.run([&] { work(path, result, reporter); });
+    if (trap.pending())
+        result.errors = errorLine(path, reporter.orElse(trap.error()).description);
+    return result;
+}
+
+} // namespace
+
+int runEach(const std::vector<std::string>& files, unsigned jobs, const FileWork& work)
+{
+    CommandOutput output;
+    forEachFile(
+        files, jobs, [&](std::size_t index) { return resultOf(files[index], work); },
+        [&](const FileResult& result) { output.write(result); }, output.progress());
+    return output.finish();
+}
+
+} // namespace ovisto

@@ -1,0 +1,106 @@
+#include "cli/CommandOutput.h"
+#include "cli/Commands.h"
+#include "cli/FileLoop.h"
+#include "cli/Options.h"
+#include "collection/ContentFilter.h"
+#include "collection/FolderScan.h"
+
+#include <CLI/CLI.hpp>
+
+#include <optional>
+#include <utility>
+
+namespace ovisto {
+
+namespace {
+
+struct FindOptions {
+    ScanOptions scan;
+    FileOptions files; ///< those of the list only
+};
+
+void addFindOptions(CLI::App& parser, FindOptions& options)
+{
+    ScanOptions& scan = options.scan;
+    parser
+        .add_option("FOLDER", scan.folder,
+                    "Where to look; not needed with --files-from, whose files are taken by any name")
+        ->option_text(" ");
+    parser.add_option("--pattern", scan.patterns, "Names of files: * any run, ? one character, ; between patterns")
+        ->option_text("P [" + scan.patterns + "]");
+    parser
+        .add_option("--words", scan.content.words,
+                    "Words that the metadata contains, any one of them; , between words. Names of tags count too")
+        ->option_text("W");
+    parser.add_flag("--all-words", scan.content.allWords, "All of the words");
+    parser.add_flag("--whole-words", scan.content.wholeWords, "Not as parts of longer words");
+    parser.add_flag("--regexp", scan.content.regExp, "W is a regular expression, not a list of words");
+    parser.add_flag("!--no-subfolders", scan.subFolders, "Only in FOLDER itself");
+    addFileList(parser, options.files);
+    parser.final_callback([&options] {
+        if (options.scan.folder.empty() && options.files.filesFrom.empty())
+            throw CLI::RequiredError("FOLDER");
+    });
+}
+
+/// The files to look at: those of the folder, which is gone through meanwhile, then those of the list.
+class FilesToSearch {
+public:
+    /// A folder or a list that cannot be read is reported to `output`, which must outlive the object.
+    FilesToSearch(const FindOptions& options, CommandOutput& output) : m_output(output)
+    {
+        const ScanOptions& scan = options.scan;
+        if (!scan.folder.empty())
+            attempt(output, scan.folder, [&] { m_walk.emplace(scan.folder, scan.patterns, scan.subFolders); });
+        attempt(output, "", [&] { m_listed = fileNames(options.files); });
+    }
+
+    /// The next file; none after the last one.
+    std::optional<std::string> next()
+    {
+        auto file = m_walk ? m_walk->next(m_output.progress(), m_output) : std::nullopt;
+        if (file)
+            return std::move(file->path);
+        return m_place == m_listed.size() ? std::nullopt : std::optional(std::move(m_listed[m_place++]));
+    }
+
+private:
+    CommandOutput& m_output;
+    std::optional<FolderWalk> m_walk;
+    std::vector<std::string> m_listed;
+    std::size_t m_place = 0;
+};
+
+int runFind(const FindOptions& options)
+{
+    CommandOutput output;
+    ContentSearch content = options.scan.content;
+    content.words = argumentText(content.words);
+    std::optional<ContentFilter> filter;
+    if (!attempt(output, "", [&] { filter.emplace(content); })) {
+        output.finish();
+        return kWrongUsage;
+    }
+    FilesToSearch files(options, output);
+    const auto work = [&](const std::string& path) {
+        FileResult result;
+        LineReporter reporter(result.errors);
+        attempt(reporter, "", [&] {
+            if (filter->keeps(path))
+                result.output = path + (options.files.zeroSeparated ? '\0' : '\n');
+        });
+        return result;
+    };
+    forEachFile([&] { return files.next(); }, options.files.jobs, work,
+                [&](const FileResult& result) { output.write(result); }, output.progress());
+    return output.finish();
+}
+
+} // namespace
+
+Command findCommand()
+{
+    return command("find", "Find files by name and metadata, one path a line", addFindOptions, runFind);
+}
+
+} // namespace ovisto

@@ -1,0 +1,116 @@
+#include "cli/Options.h"
+
+#include "common/Error.h"
+#include "common/system/File.h"
+#include "common/system/ProgramFolder.h"
+#include "common/text/CodePage.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <cstdint>
+#include <iostream>
+#include <sstream>
+#include <string_view>
+#include <thread>
+#include <unordered_set>
+#include <utility>
+
+namespace ovisto {
+
+namespace {
+
+void readNames(std::vector<std::string>& files, std::istream& input, char separator)
+{
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    bool isFirst = true;
+    for (std::string name; std::getline(input, name, separator);) {
+        if (std::exchange(isFirst, false) && name.starts_with(kByteOrderMark))
+            name.erase(0, kByteOrderMark.size());
+        if (separator == '\n' && name.ends_with('\r'))
+            name.pop_back();
+        if (!name.empty())
+            files.push_back(name);
+    }
+}
+
+} // namespace
+
+void addFiles(CLI::App& parser, FileOptions& options)
+{
+    parser.add_option("FILE", options.files, "JPEG files")->option_text(" ");
+    addFileList(parser, options);
+    parser.final_callback([&options] { requireFiles(options); });
+}
+
+void addFileList(CLI::App& parser, FileOptions& options)
+{
+    parser
+        .add_option("--files-from", options.filesFrom,
+                    "Read more file names from FILE, one a line; - for standard input")
+        ->option_text("FILE");
+    parser.add_flag("-0", options.zeroSeparated,
+                    "Names end with NUL bytes, not line ends: those in --files-from, those that find prints");
+    parser
+        .add_option("--dictionary", options.dictionary,
+                    "Another tag dictionary for the commands that need one: show, set, delete, add")
+        ->option_text("FILE");
+    options.jobs = std::max(1U, std::thread::hardware_concurrency());
+    parser.add_option("--jobs", options.jobs, "Files worked on at the same time (default: one a core)")
+        ->option_text("N")
+        ->check(CLI::Range(1, 1024));
+}
+
+void requireFiles(const FileOptions& options)
+{
+    if (options.files.empty() && options.filesFrom.empty())
+        throw CLI::RequiredError("FILE");
+}
+
+void addKeepOptions(CLI::App& parser, KeepOptions& keep)
+{
+    parser.add_flag("!--no-maker-notes", keep.pCodifyMakerNote, "Leave out maker notes");
+    parser.add_flag("!--no-thumbnails", keep.pCodifyThumb, "Leave out thumbnails");
+    parser.add_flag("!--no-nonstandard-exif", keep.pCodifyExif1, "Leave out APP1 segments that are not Exif");
+}
+
+std::vector<std::string> fileNames(const FileOptions& options)
+{
+    std::vector<std::string> files = options.files;
+    const char separator = options.zeroSeparated ? '\0' : '\n';
+    if (options.filesFrom == "-") {
+        readNames(files, std::cin, separator);
+    } else if (!options.filesFrom.empty()) {
+        ErrorTrap trap;
+        std::istringstream input;
+        trap.run([&] { input.str(readTextFile(options.filesFrom, FileKind::RegularOrPipe)); });
+        if (trap.pending())
+            throw Error{trap.error().number, options.filesFrom + ": " + trap.error().description};
+        readNames(files, input, separator);
+    }
+    return files;
+}
+
+std::vector<std::string> withoutRepeats(std::vector<std::string> files)
+{
+    std::unordered_set<std::string> seen;
+    std::erase_if(files, [&](const std::string& file) { return !seen.insert(realPath(file)).second; });
+    return files;
+}
+
+TagDictionary loadDictionary(const FileOptions& options)
+{
+    return TagDictionary(options.dictionary.empty() ? ProgramFolder().data + "Merovel.xml" : options.dictionary);
+}
+
+std::string argumentText(const std::string& argument)
+{
+    if (isUtf8(argument))
+        return argument;
+    std::string text;
+    appendCharacters(text, {reinterpret_cast<const std::uint8_t*>(argument.data()), argument.size()},
+                     ControlBytes::Keep);
+    return text;
+}
+
+} // namespace ovisto

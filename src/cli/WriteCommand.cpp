@@ -1,0 +1,101 @@
+#include "cli/Commands.h"
+#include "cli/EachFile.h"
+#include "cli/Options.h"
+#include "collection/BatchAction.h"
+#include "collection/DocumentLoad.h"
+#include "common/system/File.h"
+#include "common/system/Interruption.h"
+#include "common/xml/XmlLoad.h"
+#include "document/NodePath.h"
+#include "writer/JpegDocument.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_set>
+
+namespace ovisto {
+
+namespace {
+
+struct WriteOptions {
+    FileOptions files;
+    std::string document; ///< the edited one; empty for the file's own
+};
+
+void addWriteOptions(CLI::App& parser, WriteOptions& options)
+{
+    parser.add_option("--document", options.document, "The document to write, edited; else the file's own")
+        ->option_text("XML");
+    addFiles(parser, options.files);
+    parser.final_callback([&options] {
+        requireFiles(options.files);
+        const bool isOneFile = options.files.files.size() == 1 && options.files.filesFrom.empty();
+        if (!options.document.empty() && !isOneFile)
+            throw CLI::ValidationError("--document", "goes with exactly one FILE");
+    });
+}
+
+/// What a document says of the image: where its data is, and which tables and headers it is decoded with.
+std::vector<std::string> imageParts(const XmlDocument& document)
+{
+    std::vector<std::string> parts;
+    for (const ConstXmlNode& node : document.documentElement().childElements()) {
+        const std::string id = AttributeGet(node, "id");
+        const bool isTable = node.name() == "APP1" && id < "FFE0"; // frames, tables, restart interval
+        if (isTable || node.name() == "SOS")
+            parts.push_back(node.name() + id);
+        else if (node.name() == "IMG")
+            parts.push_back(AttributeGet(node, "offset") + " " + AttributeGet(node, "length"));
+    }
+    return parts;
+}
+
+/// Loads an edited document, which must be of the file as it is now: the image data is taken from there.
+XmlDocument loadEdited(const std::string& documentPath, const std::string& path)
+{
+    const std::vector<std::string> parts = imageParts(loadDocument(path));
+    XmlDocument document;
+    if (const auto error = document.loadFile(documentPath, Validation::Off, WhiteSpace::Preserve))
+        throw Error{kOpenFailed, documentPath + ": " + parseErrorText(*error)};
+    if (document.documentElement().name() != "JPEG")
+        throw Error{kOpenFailed, documentPath + ": The root element is not JPEG"};
+    if (imageParts(document) != parts)
+        throw Error{kInvalidCall, documentPath + " describes another image, or this file before it was changed"};
+    return document;
+}
+
+/// Those of `files` that would destroy another one of them while they are written.
+std::unordered_set<std::string> overwritingFiles(const std::vector<std::string>& files)
+{
+    std::vector<std::string> realPaths;
+    std::ranges::transform(files, std::back_inserter(realPaths), realPath);
+    std::unordered_set<std::string> overwriting;
+    for (const std::size_t index : overwritingOthers(realPaths))
+        overwriting.insert(files[index]);
+    return overwriting;
+}
+
+int runWrite(const WriteOptions& options)
+{
+    std::vector<std::string> files = fileNames(options.files);
+    deferInterruption();
+    files = withoutRepeats(std::move(files));
+    const std::unordered_set<std::string> overwriting = overwritingFiles(files);
+    return runEach(files, options.files.jobs, [&](const std::string& path, FileResult&, ErrorReporter& reporter) {
+        if (overwriting.contains(path))
+            throw Error(overwritingError());
+        XmlDocument document = options.document.empty() ? loadDocument(path) : loadEdited(options.document, path);
+        JpegDocument(reporter).WriteJpeg(document, path);
+    });
+}
+
+} // namespace
+
+Command writeCommand()
+{
+    return command("write", "Write a file anew from its metadata document", addWriteOptions, runWrite);
+}
+
+} // namespace ovisto
