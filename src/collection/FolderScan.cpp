@@ -20,20 +20,18 @@ void FolderScan::run(std::vector<std::string>& found, Progress& progress, ErrorR
     if (!m_options.append)
         found.clear();
     std::optional<ContentFilter> filter;
-    ErrorTrap trap;
-    trap.run([&] { filter.emplace(m_options.content); });
-    if (trap.pending())
-        return ErrorReport(reporter, kContentCheckContext, trap.take());
+    if (!attempt(reporter, kContentCheckContext, [&] { filter.emplace(m_options.content); }))
+        return;
     // The first file that cannot be checked stands for all: a person wants to be told, but not of 20,000 files.
     bool wasReported = false;
     while (auto file = m_walk.next(progress, reporter)) {
         if (!progress.step(file->path, file->place, file->count))
             return;
         bool keep = false;
+        ErrorTrap trap;
         trap.run([&] { keep = filter->keeps(file->path); });
         if (trap.pending() && !std::exchange(wasReported, true))
-            ErrorReport(reporter, kContentCheckContext, trap.error());
-        trap.clear();
+            reportPending(reporter, kContentCheckContext, trap);
         if (keep)
             found.push_back(std::move(file->path));
     }

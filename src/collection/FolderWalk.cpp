@@ -23,10 +23,7 @@ std::optional<FolderWalk::File> FolderWalk::next(Progress& progress, ErrorReport
         m_ahead.pop_back();
         if (!progress.enter(folder))
             return std::nullopt;
-        ErrorTrap trap;
-        trap.run([&] { read(folder); });
-        if (trap.pending())
-            ErrorReport(reporter, folder, trap.take());
+        attempt(reporter, folder, [&] { read(folder); });
     }
     const std::size_t place = m_place++;
     return File{.path = pathIn(m_folder, m_names[place]), .place = place, .count = m_names.size()};

@@ -37,19 +37,17 @@ std::vector<std::string> linesOf(const std::string& text)
 
 void loadKeywords(const std::string& path, std::vector<std::string>& keywords, ErrorReporter& reporter)
 {
-    ErrorTrap trap;
     std::optional<InputFile> file;
-    trap.run([&] { file.emplace(path); });
-    if (trap.pending())
-        return ErrorReport(reporter, "Open File " + path, trap.take());
+    if (!attempt(reporter, "Open File " + path, [&] { file.emplace(path); }))
+        return;
     std::string content;
+    ErrorTrap trap; // what was read before an error counts
     trap.run([&] {
         content.resize(static_cast<std::size_t>(file->size()));
         content.resize(file->readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
     });
     keywords = linesOf(textOf(content));
-    if (trap.pending())
-        ErrorReport(reporter, "Read File " + path, trap.take());
+    reportPending(reporter, "Read File " + path, trap);
 }
 
 std::string keywordInsertion(const std::string& keyword, std::size_t length, std::size_t selectionStart,

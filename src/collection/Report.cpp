@@ -46,27 +46,17 @@ void checkExtension(const std::string& extension)
         throw systemError(kPathAccessError);
 }
 
-/// Runs a step and reports the error that it raises. Returns whether it raised none.
-template <class Step> bool succeeds(ErrorReporter& reporter, const std::string& context, Step step)
-{
-    ErrorTrap trap;
-    trap.run(step);
-    if (trap.pending())
-        ErrorReport(reporter, context, trap.error());
-    return !trap.pending();
-}
-
 /// Writes the report itself. Returns its path, empty when it could not be written.
 std::string writeReport(const std::string& report, const std::string& folder, ErrorReporter& reporter)
 {
     const std::string extension = reportExtension(report);
     const std::string path = folder + "Report." + extension;
     std::optional<OutputFile> file;
-    const bool created = succeeds(reporter, "Create file " + path, [&] {
+    const bool created = attempt(reporter, "Create file " + path, [&] {
         checkExtension(extension);
         file.emplace(path, NewFileAccess::Usual);
     });
-    const bool written = created && succeeds(reporter, "Write file " + path, [&] {
+    const bool written = created && attempt(reporter, "Write file " + path, [&] {
                              write(*file, report);
                              file->flush();
                          });
@@ -104,11 +94,11 @@ ReportResult makeReport(const std::vector<std::string>& files, const ReportOptio
     ReportResult result;
     XmlDocument style;
     XmlDocument document;
-    if (!succeeds(reporter, options.styleSheet, [&] { loadStyleSheet(style, options.styleSheet, FileKind::Regular); }))
+    if (!attempt(reporter, options.styleSheet, [&] { loadStyleSheet(style, options.styleSheet, FileKind::Regular); }))
         return result;
     // The documents of the last time must not be reported on as if they were these.
     const std::string combined = options.folder + "Report.xml";
-    if (!succeeds(reporter, combined, [&] {
+    if (!attempt(reporter, combined, [&] {
             createFolders(options.folder);
             result.leftOut = combineDocuments(files, options.keep, combined, progress);
             progress.endOfFiles();

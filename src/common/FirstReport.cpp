@@ -1,21 +1,22 @@
 #include "common/FirstReport.h"
 
-#include "common/text/CodePage.h"
+#include <cstddef>
 
 namespace ovisto {
 
 namespace {
 
-/// A context may end with a whole value.
+/// A context may end with a whole value. No character (UTF-8) is cut in two.
 std::string shortened(const std::string& context)
 {
     constexpr std::size_t kMost = 200;
-    if (characterCount(context) <= kMost)
-        return context;
-    std::string text;
-    for (const char32_t character : characters(context).substr(0, kMost))
-        appendCharacter(text, character);
-    return text + "...";
+    std::size_t count = 0;
+    for (std::size_t place = 0; place < context.size(); ++place) {
+        const bool startsCharacter = (context[place] & 0xC0) != 0x80;
+        if (startsCharacter && ++count > kMost)
+            return context.substr(0, place) + "...";
+    }
+    return context;
 }
 
 } // namespace
