@@ -4,6 +4,7 @@
 #include "cli/Options.h"
 #include "collection/BatchAction.h"
 #include "common/system/Interruption.h"
+#include "common/text/CodePage.h"
 
 #include <CLI/CLI.hpp>
 
@@ -46,7 +47,7 @@ template <NodeAction kAction> void addNodeOptions(CLI::App& parser, ChangeOption
 /// The change, or an error that says why it cannot be made to any file.
 NodeChange changeOf(const ChangeOptions& options, const TagDictionary& dictionary)
 {
-    NodeChange change{.action = options.action, .entry = {}, .value = argumentText(options.value)};
+    NodeChange change{.action = options.action, .entry = {}, .value = decodedText(options.value)};
     ErrorTrap trap; // what is not a path names no node
     trap.run([&] { change.entry = dictionary.entry(options.nodePath); });
     if (!change.entry)

@@ -4,6 +4,7 @@
 #include "cli/Options.h"
 #include "collection/ContentFilter.h"
 #include "collection/FolderScan.h"
+#include "common/text/CodePage.h"
 
 #include <CLI/CLI.hpp>
 
@@ -75,7 +76,7 @@ int runFind(const FindOptions& options)
 {
     CommandOutput output;
     ContentSearch content = options.scan.content;
-    content.words = argumentText(content.words);
+    content.words = decodedText(content.words);
     std::optional<ContentFilter> filter;
     if (!attempt(output, "", [&] { filter.emplace(content); })) {
         output.finish();

@@ -3,12 +3,10 @@
 #include "common/Error.h"
 #include "common/system/File.h"
 #include "common/system/ProgramFolder.h"
-#include "common/text/CodePage.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <cstdint>
 #include <iostream>
 #include <sstream>
 #include <string_view>
@@ -101,16 +99,6 @@ std::vector<std::string> withoutRepeats(std::vector<std::string> files)
 TagDictionary loadDictionary(const FileOptions& options)
 {
     return TagDictionary(options.dictionary.empty() ? ProgramFolder().data + "Merovel.xml" : options.dictionary);
-}
-
-std::string argumentText(const std::string& argument)
-{
-    if (isUtf8(argument))
-        return argument;
-    std::string text;
-    appendCharacters(text, {reinterpret_cast<const std::uint8_t*>(argument.data()), argument.size()},
-                     ControlBytes::Keep);
-    return text;
 }
 
 } // namespace ovisto

@@ -42,7 +42,4 @@ std::vector<std::string> withoutRepeats(std::vector<std::string> files);
 /// The tag dictionary, the program's own unless another one is given.
 TagDictionary loadDictionary(const FileOptions& options);
 
-/// A text from the command line. One that is not UTF-8 comes from a terminal with a code page.
-std::string argumentText(const std::string& argument);
-
 } // namespace ovisto

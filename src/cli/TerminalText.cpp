@@ -1,6 +1,6 @@
 #include "cli/TerminalText.h"
 
-#include "common/text/CodePage.h"
+#include "common/text/Unicode.h"
 
 namespace ovisto {
 

@@ -2,7 +2,7 @@
 
 #include "collection/DocumentPattern.h"
 #include "common/Error.h"
-#include "common/text/NumberText.h"
+#include "common/text/Splitting.h"
 #include "reader/JpegXml.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "collection/DocumentPattern.h"
 
 #include "common/text/CodePage.h"
+#include "common/text/Unicode.h"
 #include "document/XmlText.h"
 
 #include <algorithm>

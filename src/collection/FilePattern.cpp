@@ -1,7 +1,7 @@
 #include "collection/FilePattern.h"
 
 #include "common/text/CaseFolding.h"
-#include "common/text/NumberText.h"
+#include "common/text/Splitting.h"
 
 #include <algorithm>
 

@@ -9,16 +9,6 @@ namespace ovisto {
 
 namespace {
 
-std::string textOf(const std::string& content)
-{
-    // What is UTF-8 by chance only is not what anybody calls a photograph.
-    if (isUtf8(content))
-        return content;
-    std::string text;
-    appendCharacters(text, {reinterpret_cast<const std::uint8_t*>(content.data()), content.size()}, ControlBytes::Keep);
-    return text;
-}
-
 /// The pieces between CR LF. A line feed by itself parts nothing: lists were always written with both.
 std::vector<std::string> linesOf(const std::string& text)
 {
@@ -46,7 +36,7 @@ void loadKeywords(const std::string& path, std::vector<std::string>& keywords, E
         content.resize(static_cast<std::size_t>(file->size()));
         content.resize(file->readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
     });
-    keywords = linesOf(textOf(content));
+    keywords = linesOf(decodedText(content));
     reportPending(reporter, "Read File " + path, trap);
 }
 

@@ -2,8 +2,8 @@
 
 #include "collection/DocumentLoad.h"
 #include "common/system/File.h"
-#include "common/text/CodePage.h"
 #include "common/text/PathText.h"
+#include "common/text/Unicode.h"
 #include "common/xml/XmlLoad.h"
 #include "common/xml/XmlTransform.h"
 #include "document/MetadataDocument.h"

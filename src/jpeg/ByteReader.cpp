@@ -2,6 +2,7 @@
 
 #include "common/text/CodePage.h"
 #include "common/text/Hex.h"
+#include "common/text/Unicode.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,8 +1,9 @@
 #include "reader/ExifDecoding.h"
 
-#include "common/text/CodePage.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
+#include "common/text/Splitting.h"
+#include "common/text/Unicode.h"
 #include "document/DataType.h"
 #include "document/TagNumbers.h"
 #include "document/XmlText.h"

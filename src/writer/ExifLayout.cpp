@@ -1,8 +1,8 @@
 #include "writer/ExifLayout.h"
 
-#include "common/text/CodePage.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
+#include "common/text/Unicode.h"
 #include "document/DataType.h"
 #include "document/Directories.h"
 #include "document/NodePath.h"

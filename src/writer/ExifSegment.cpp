@@ -2,6 +2,7 @@
 
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
+#include "common/text/Splitting.h"
 #include "document/DataType.h"
 #include "document/Directories.h"
 #include "document/NodePath.h"

@@ -1,7 +1,7 @@
 #include "writer/JpegRebuilding.h"
 
-#include "common/text/CodePage.h"
 #include "common/text/NumberText.h"
+#include "common/text/Unicode.h"
 #include "document/NodePath.h"
 #include "writer/ExifSegment.h"
 #include "jpeg/Segments.h"

@@ -3,6 +3,7 @@
 #include "common/text/CodePage.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
+#include "common/text/Unicode.h"
 
 #include <array>
 #include <limits>

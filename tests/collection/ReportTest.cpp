@@ -1,6 +1,6 @@
 #include "collection/Report.h"
 #include "collection/KeywordFile.h"
-#include "common/text/CodePage.h"
+#include "common/text/Unicode.h"
 #include "common/xml/XmlLoad.h"
 #include "common/xml/XmlTransform.h"
 #include "support/CommandRun.h"

@@ -1,7 +1,7 @@
 #include "jpeg/ByteReader.h"
 #include "common/Error.h"
-#include "common/text/CodePage.h"
 #include "common/text/Hex.h"
+#include "common/text/Unicode.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 

@@ -1,6 +1,6 @@
 #include "common/text/CaseFolding.h"
 
-#include "common/text/CodePage.h"
+#include "common/text/Unicode.h"
 
 #include <cwctype>
 

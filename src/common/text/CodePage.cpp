@@ -1,10 +1,9 @@
 #include "common/text/CodePage.h"
 
+#include "common/text/Unicode.h"
+
 #include <algorithm>
 #include <array>
-#include <cstring>
-#include <iterator>
-#include <utf8.h>
 
 namespace ovisto {
 
@@ -29,46 +28,6 @@ constexpr bool isPlain(std::uint8_t byte)
     return byte < 128 && !isControl(byte);
 }
 
-/// How many bytes in front are ASCII, as nearly all are: each of them is a character, and much is simple then.
-std::size_t asciiPrefix(std::string_view text)
-{
-    constexpr std::uint64_t kUpperBits = 0x8080808080808080;
-    std::size_t size = 0;
-    for (std::uint64_t eight = 0; size + sizeof(eight) <= text.size(); size += sizeof(eight)) {
-        std::memcpy(&eight, text.data() + size, sizeof(eight));
-        if ((eight & kUpperBits) != 0)
-            break;
-    }
-    while (size < text.size() && (text[size] & 0x80) == 0)
-        ++size;
-    return size;
-}
-
-/// Hands over the text in its stretches of ASCII and of other characters, none of them empty. No character is divided,
-/// as all bytes of those that are no ASCII are none either.
-template <class Ascii, class Other> void forEachStretch(std::string_view text, Ascii ascii, Other other)
-{
-    while (!text.empty()) {
-        const std::size_t asciiSize = asciiPrefix(text);
-        if (asciiSize > 0)
-            ascii(text.substr(0, asciiSize));
-        text.remove_prefix(asciiSize);
-        const auto* otherEnd = std::ranges::find_if(text, [](char byte) { return (byte & 0x80) == 0; });
-        const auto otherSize = static_cast<std::size_t>(otherEnd - text.begin());
-        if (otherSize > 0)
-            other(text.substr(0, otherSize));
-        text.remove_prefix(otherSize);
-    }
-}
-
-void forEachOtherCharacter(std::string_view text, const std::function<void(char32_t)>& use)
-{
-    if (!utf8::is_valid(text.begin(), text.end()))
-        return forEachOtherCharacter(utf8::replace_invalid(text, U'?'), use);
-    for (const auto* next = text.begin(); next != text.end();)
-        use(utf8::unchecked::next(next));
-}
-
 } // namespace
 
 char32_t codePageCharacter(std::uint8_t byte)
@@ -89,22 +48,10 @@ std::uint8_t codePageByte(char32_t character)
 
 std::vector<std::uint8_t> codePageBytes(std::string_view text)
 {
-    std::vector<std::uint8_t> bytes;
-    bytes.reserve(text.size());
-    forEachStretch(
-        text, [&](std::string_view ascii) { bytes.insert(bytes.end(), ascii.begin(), ascii.end()); },
-        [&](std::string_view other) {
-            forEachOtherCharacter(other, [&](char32_t character) { bytes.push_back(codePageByte(character)); });
-        });
+    const std::u32string decoded = characters(text);
+    std::vector<std::uint8_t> bytes(decoded.size());
+    std::ranges::transform(decoded, bytes.begin(), codePageByte);
     return bytes;
-}
-
-void appendCharacter(std::string& text, char32_t character)
-{
-    if (character < 128)
-        text.push_back(static_cast<char>(character));
-    else
-        utf8::unchecked::append(character, std::back_inserter(text));
 }
 
 void appendCharacters(std::string& text, std::span<const std::uint8_t> bytes, ControlBytes controlBytes)
@@ -122,69 +69,13 @@ void appendCharacters(std::string& text, std::span<const std::uint8_t> bytes, Co
     }
 }
 
-bool isUtf8(std::string_view text)
+std::string decodedText(std::string_view bytes)
 {
-    bool isValid = true;
-    forEachStretch(
-        text, [](std::string_view) {},
-        [&](std::string_view other) { isValid = isValid && utf8::is_valid(other.begin(), other.end()); });
-    return isValid;
-}
-
-void forEachCharacter(std::string_view text, const std::function<void(char32_t)>& use)
-{
-    forEachStretch(
-        text, [&](std::string_view ascii) { std::ranges::for_each(ascii, use); },
-        [&](std::string_view other) { forEachOtherCharacter(other, use); });
-}
-
-std::u32string characters(std::string_view text)
-{
-    std::u32string decoded;
-    forEachStretch(
-        text, [&](std::string_view ascii) { decoded.append(ascii.begin(), ascii.end()); },
-        [&](std::string_view other) {
-            forEachOtherCharacter(other, [&](char32_t character) { decoded.push_back(character); });
-        });
-    return decoded;
-}
-
-std::size_t characterCount(std::string_view text)
-{
-    std::size_t count = 0;
-    forEachStretch(
-        text, [&](std::string_view ascii) { count += ascii.size(); },
-        [&](std::string_view other) { forEachOtherCharacter(other, [&](char32_t) { ++count; }); });
-    return count;
-}
-
-std::u16string utf16(std::string_view text)
-{
-    std::u16string units;
-    units.reserve(text.size());
-    const auto append = [&](char32_t character) {
-        if (character > 0xFFFF) {
-            units.push_back(static_cast<char16_t>(0xD7C0 + (character >> 10)));
-            units.push_back(static_cast<char16_t>(0xDC00 + (character & 0x3FF)));
-        } else {
-            units.push_back(static_cast<char16_t>(character));
-        }
-    };
-    forEachStretch(
-        text, [&](std::string_view ascii) { units.append(ascii.begin(), ascii.end()); },
-        [&](std::string_view other) { forEachOtherCharacter(other, append); });
-    return units;
-}
-
-std::string utf16Bytes(std::string_view text)
-{
-    std::string bytes;
-    bytes.reserve(2 * text.size());
-    for (const char16_t unit : utf16(text)) {
-        bytes.push_back(static_cast<char>(unit & 0xFF));
-        bytes.push_back(static_cast<char>(unit >> 8));
-    }
-    return bytes;
+    if (isUtf8(bytes))
+        return std::string(bytes);
+    std::string text;
+    appendCharacters(text, {reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()}, ControlBytes::Keep);
+    return text;
 }
 
 } // namespace ovisto

@@ -1,6 +1,7 @@
 #include "common/text/NumberText.h"
 
 #include "common/Error.h"
+#include "common/text/Splitting.h"
 
 #include <algorithm>
 #include <array>
@@ -64,25 +65,6 @@ std::int32_t attributeToLong(std::string_view text)
 {
     const bool startsWithDigit = !text.empty() && text.front() >= '0' && text.front() <= '9';
     return startsWithDigit ? toLong(text) : toLong("0" + std::string(text));
-}
-
-std::vector<std::string_view> split(std::string_view text, char separator)
-{
-    std::vector<std::string_view> pieces;
-    for (std::size_t end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
-        pieces.push_back(text.substr(0, end));
-        text.remove_prefix(end + 1);
-    }
-    pieces.push_back(text);
-    return pieces;
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 std::int64_t halfToEven(std::int64_t number)

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace ovisto {
 
@@ -12,17 +11,12 @@ namespace ovisto {
 std::string numberText(std::int64_t number);
 
 /// The whole number nearest to what `text` says, halves to the even one. Blanks around it, a sign, decimals and an
-/// exponent are allowed. Raises kTypeMismatch when it is no number, kOverflow when it needs more than 32 bits signed.
+/// exponent are allowed. Raises kTypeMismatch when it is not a number, kOverflow when it needs more than 32 bits
+/// signed.
 std::int32_t toLong(std::string_view text);
 
 /// toLong() of an attribute's text with "0" put in front of it: an absent attribute is 0.
 std::int32_t attributeToLong(std::string_view text);
-
-/// The pieces of `text` between `separator`s; the empty text is one empty piece.
-std::vector<std::string_view> split(std::string_view text, char separator);
-
-/// `text` without the blanks around it.
-std::string_view trimmed(std::string_view text);
 
 /// Half of `number`, a half to the even neighbour: the bytes of a hexadecimal text of `number` digits.
 std::int64_t halfToEven(std::int64_t number);

@@ -1,7 +1,7 @@
 #include "common/text/RegularExpression.h"
 
 #include "common/Error.h"
-#include "common/text/CodePage.h"
+#include "common/text/Unicode.h"
 
 #include <array>
 

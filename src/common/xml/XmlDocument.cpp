@@ -2,7 +2,6 @@
 
 #include "common/Error.h"
 #include "common/system/File.h"
-#include "common/text/CodePage.h"
 #include "common/xml/XmlPointer.h"
 #include "common/xml/XmlSetup.h"
 

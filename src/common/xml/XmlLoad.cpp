@@ -1,7 +1,7 @@
 #include "common/xml/XmlLoad.h"
 
 #include "common/Error.h"
-#include "common/text/CodePage.h"
+#include "common/text/Unicode.h"
 
 namespace ovisto {
 

@@ -2,6 +2,7 @@
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
 #include "common/text/PathText.h"
+#include "common/text/Unicode.h"
 #include "support/RecordingReporter.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace ovisto {
+
+// Text is UTF-8 inside the program.
+
+bool isUtf8(std::string_view text);
+
+/// Appends `character` to the UTF-8 text.
+void appendCharacter(std::string& text, char32_t character);
+
+/// The characters of a UTF-8 text. Bytes that are not UTF-8 (a file name may hold any) count as "?".
+std::u32string characters(std::string_view text);
+
+/// Calls `use` with each of them, one after the other.
+void forEachCharacter(std::string_view text, const std::function<void(char32_t)>& use);
+
+/// How many characters (not bytes, not UTF-16 units) the UTF-8 text has.
+std::size_t characterCount(std::string_view text);
+
+/// The UTF-16 units of a UTF-8 text.
+std::u16string utf16(std::string_view text);
+
+/// The same as bytes, the less significant one of a unit first.
+std::string utf16Bytes(std::string_view text);
+
+} // namespace ovisto
