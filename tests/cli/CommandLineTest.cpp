@@ -5,12 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
-
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace ovisto::test {
 
@@ -238,46 +233,6 @@ TEST(CommandLine, FindsFilesInScanOrder)
     const CommandRun found = ovisto({"find", root, "-0", "--jobs", "1"});
     EXPECT_EQ(ovisto({"set", kTitle, "Found", "--files-from", "-", "-0"}, found.output).errors, "");
     EXPECT_EQ(titleOf(second), "Found");
-}
-
-TEST(CommandLine, FinishesWhatItHasBegunWhenItIsInterrupted)
-{
-    const TemporaryFolder folder;
-    const Bytes before = JpegBytes().app0().end();
-    std::string list = folder.path("none.jpg") + "\n";
-    std::vector<std::string> files;
-    for (int i = 0; i < 3000; ++i) {
-        files.push_back(folder.file(std::to_string(10000 + i) + ".jpg", before));
-        list += files.back() + "\n";
-    }
-    folder.file("list", list);
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        dup2(open(folder.path("errors").c_str(), O_WRONLY | O_CREAT, 0600), STDERR_FILENO);
-        execl(OVISTO_CLI, "ovisto-cli", "set", kTitle.c_str(), "New", "--jobs", "2", "--files-from",
-              folder.path("list").c_str(), nullptr);
-        _exit(99);
-    }
-    int status = 0;
-    bool ended = false;
-    while (!ended && access(folder.path("~10000.jpg").c_str(), F_OK) != 0) {
-        usleep(500);
-        ended = waitpid(child, &status, WNOHANG) == child;
-    }
-    if (!ended) {
-        kill(child, SIGTERM);
-        waitpid(child, &status, 0);
-    }
-    if (WIFEXITED(status) && WEXITSTATUS(status) == 1)
-        GTEST_SKIP() << "all files were done before it could be interrupted";
-    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGTERM);
-    EXPECT_EQ(folder.names().size(), files.size() + 2) << "no temporary file is left";
-    const auto changed = std::ranges::count_if(files, [&](const auto& file) { return contentOf(file) != before; });
-    EXPECT_GT(changed, 0);
-    EXPECT_LT(changed, 3000);
-    const Bytes errors = contentOf(folder.path("errors"));
-    EXPECT_NE(std::string(errors.begin(), errors.end()).find("none.jpg"), std::string::npos);
 }
 
 TEST(CommandLine, ReportsOnManyFilesAtOnce)
