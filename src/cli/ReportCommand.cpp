@@ -52,7 +52,9 @@ Transformation transformed(const ReportCommandOptions& options, const std::vecto
 {
     XmlDocument style;
     XmlDocument document;
+    // Nothing is written before: a style sheet that never comes out of its pipe is not waited for once more.
     loadStyleSheet(style, options.styleSheet, FileKind::RegularOrPipe);
+    deferInterruption();
     const TemporaryFile combined;
     for (const FileFailure& failure : combineDocuments(files, options.keep, combined.path(), output.progress()))
         ErrorReport(output, failure.path, failure.error);
@@ -75,7 +77,6 @@ void writeReport(const Transformation& report, const ReportCommandOptions& optio
 int runReport(const ReportCommandOptions& options)
 {
     const std::vector<std::string> files = fileNames(options.files);
-    deferInterruption();
     CommandOutput output;
     Transformation report;
     if (isPhotograph(options.output))

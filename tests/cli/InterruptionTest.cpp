@@ -11,6 +11,7 @@
 #include <filesystem>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -144,6 +145,18 @@ TEST(Interruption, EndsAChangeOfManyFilesAfterThoseAtHand)
         ++changed;
     }
     EXPECT_LT(changed, kFiles);
+}
+
+TEST(Interruption, EndsAReportThatWaitsForItsStyleSheet)
+{
+    const TemporaryFolder folder;
+    const std::string pipe = folder.path("pipe");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const RunningCommand command({"report", "--style", pipe, OVISTO_OWN_SAMPLES "no-exif.jpg"});
+    const int writer = open(pipe.c_str(), O_WRONLY | O_CLOEXEC); // opens when the command does
+    command.interrupt();
+    EXPECT_EQ(command.endSignal(), SIGTERM);
+    close(writer);
 }
 
 } // namespace ovisto::test
