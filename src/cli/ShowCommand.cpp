@@ -2,6 +2,7 @@
 #include "cli/EachFile.h"
 #include "cli/Options.h"
 #include "cli/PropertyText.h"
+#include "cli/TerminalText.h"
 #include "collection/DocumentLoad.h"
 
 #include <CLI/CLI.hpp>
@@ -26,7 +27,7 @@ int runShow(const ShowOptions& options)
     const std::vector<std::string> files = fileNames(options.files);
     const TagDictionary dictionary = loadDictionary(options.files);
     return runEach(files, options.files.jobs, [&](const std::string& path, FileResult& result, ErrorReporter&) {
-        result.output = path + "\n" + propertyText(loadDocument(path), dictionary, options.technical);
+        result.output = oneLine(path) + "\n" + propertyText(loadDocument(path), dictionary, options.technical);
     });
 }
 

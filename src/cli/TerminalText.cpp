@@ -18,7 +18,8 @@ constexpr bool isControl(char32_t character)
 std::string errorLine(const std::string& path, const std::string& message)
 {
     const bool named = path.empty() || message.ends_with("=" + path) || message.ends_with(" " + path);
-    return "ovisto-cli: " + (named ? "" : path + ": ") + oneLine(message, kMostMessage + path.size()) + "\n";
+    const std::string start = named ? "" : oneLine(path) + ": ";
+    return "ovisto-cli: " + start + oneLine(message, kMostMessage + path.size()) + "\n";
 }
 
 std::string oneLine(const std::string& text, std::size_t mostCharacters)

@@ -1,4 +1,5 @@
 #include "collection/DocumentLoad.h"
+#include "common/text/Unicode.h"
 #include "support/CommandRun.h"
 #include "support/JpegBytes.h"
 
@@ -26,6 +27,15 @@ void expectOneLine(const CommandRun& run, const std::string& file, const std::st
     EXPECT_EQ(std::ranges::count(run.errors, '\n'), 1) << run.errors;
     EXPECT_NE(run.errors.find(file), std::string::npos) << run.errors;
     EXPECT_NE(run.errors.find(reason), std::string::npos) << run.errors;
+}
+
+/// What a command writes to a terminal that is its standard error.
+std::string onTerminal(const std::vector<std::string>& arguments)
+{
+    std::string line = "'" OVISTO_CLI "'";
+    for (const std::string& argument : arguments)
+        line += " '" + argument + "'";
+    return runCommand({"script", "-qec", line + " >/dev/null", "/dev/null"}).output;
 }
 
 std::string titleOf(const std::string& path)
@@ -62,6 +72,31 @@ TEST(CommandLine, ShowsLabelsValuesAndDataTypes)
     EXPECT_NE(ovisto({"show", "--technical", path}).output.find("Exif Version: 0220 (Undefined)\n"), std::string::npos);
 }
 
+TEST(CommandLine, SendsNoControlsToATerminal)
+{
+    const TemporaryFolder folder;
+    ExifBytes exif;
+    exif.ifd0({exif.ascii(0x010F, "red\x9B"
+                                  "31m\x1B[31m\x7F")});
+    std::string shown = ovisto({"show", folder.file("\xC2\x9B"
+                                                    "31m.jpg",
+                                                    JpegBytes().exif(exif).end())})
+                            .output;
+    EXPECT_NE(shown.find("red"), std::string::npos);
+    const std::string name = "\x1B]0;title\a\xFF.jpg";
+    const Bytes illFormed = JpegBytes().segment(0xFFE1, bytes("x") + Bytes{0} + bytes("]]>")).end();
+    shown +=
+        ovisto({"show", folder.path("none" + name)}).errors + ovisto({"show", folder.file(name, illFormed)}).errors;
+    EXPECT_NE(shown.find("]0;title"), std::string::npos);
+    shown += onTerminal({"find", folder.path("")}); // the progress bar
+    EXPECT_NE(shown.find("\x1B[K0 "), std::string::npos) << shown;
+    const std::string bar = "\r\x1B[K"; // to the start of the line, and delete it
+    for (std::size_t place = shown.find(bar); place != std::string::npos; place = shown.find(bar))
+        shown.erase(place, bar.size());
+    for (const char32_t character : characters(shown))
+        EXPECT_TRUE(character == U'\n' || (character >= U' ' && character < 0x7F) || character >= 0xA0) << shown;
+}
+
 TEST(CommandLine, ChangesFilesNamedInEveryWay)
 {
     const TemporaryFolder folder;
@@ -90,6 +125,8 @@ TEST(CommandLine, DoesNotDestroyAFileThatHasATemporaryName)
     const std::string second = folder.file("~a.jpg", JpegBytes().app0().end());
     expectOneLine(ovisto({"set", kTitle, "New", first, second}), first, "temporary file");
     EXPECT_EQ(titleOf(first) + titleOf(second), "New");
+    expectOneLine(ovisto({"write", "--jobs", "1", second, first}), first, "temporary file");
+    EXPECT_EQ(titleOf(second), "New");
     EXPECT_EQ(ovisto({"export", first, second}).status, 0);
     EXPECT_EQ(folder.names(), (std::vector<std::string>{"a.jpg", "a.jpg.XML", "~a.jpg", "~a.jpg.XML"}));
 }

@@ -17,8 +17,8 @@ TEST(KeywordFile, HasOneKeywordALine)
         {"an empty file", "", {""}},
         {"empty lines, and one behind the last line break", "\r\nbeach\r\n\r\nsea\r\n", {"", "beach", "", "sea", ""}},
         {"line feeds by themselves", "beach\nsea", {"beach\nsea"}},
-        {"Windows-1252", "caf\xE9\r\nsea", {"caf\xC3\xA9", "sea"}},
-        {"UTF-8", "caf\xC3\xA9", {"caf\xC3\xA9"}}};
+        {"Windows-1252", "caf\xE9\r\n\x80", {"café", "€"}},
+        {"UTF-8", "café", {"café"}}};
     for (const auto& row : cases) {
         const TemporaryFile file;
         writeTextFile(file.path(), row.content);
@@ -48,7 +48,8 @@ TEST(KeywordFile, SetsBlanksWhereTextStands)
         const char* insertion;
     } cases[] = {{"no text", "beach", 0, 0, 0, "beach"},      {"the end", "beach", 6, 6, 0, " beach"},
                  {"the start", "beach", 6, 0, 0, "beach "},   {"within", "beach", 6, 3, 0, "beach "},
-                 {"all selected", "beach", 6, 0, 6, "beach"}, {"an empty keyword", "", 6, 6, 0, " "}};
+                 {"all selected", "beach", 6, 0, 6, "beach"}, {"the end selected", "beach", 6, 3, 3, "beach"},
+                 {"an empty keyword", "", 6, 6, 0, " "}};
     for (const auto& row : cases)
         EXPECT_EQ(keywordInsertion(row.keyword, row.length, row.start, row.selected), row.insertion) << row.name;
 }

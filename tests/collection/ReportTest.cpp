@@ -1,5 +1,4 @@
 #include "collection/Report.h"
-#include "collection/KeywordFile.h"
 #include "common/text/Unicode.h"
 #include "common/xml/XmlLoad.h"
 #include "common/xml/XmlTransform.h"
@@ -50,6 +49,12 @@ Bytes utf16File(const std::string& text)
     return Bytes{0xFF, 0xFE} + bytes(utf16Bytes(text));
 }
 
+/// A photograph with a segment whose text the document cannot quote.
+Bytes illFormedXmp()
+{
+    return JpegBytes().segment(0xFFE1, bytes("x") + Bytes{0} + bytes("]]> &")).end();
+}
+
 class ReportTest : public testing::Test {
 protected:
     ReportResult report(const std::string& style, const std::vector<std::string>& files)
@@ -66,16 +71,17 @@ protected:
 
 TEST_F(ReportTest, CombinesTheDocumentsExactlyAsTheyAre)
 {
-    const std::vector<std::string> files = {folder.file("é.jpg", fullPhotograph(true)),
-                                            folder.file("text.jpg", "no photograph"),
-                                            folder.file("b.jpg", JpegBytes().app0().end())};
+    const std::vector<std::string> files = {
+        folder.file("é.jpg", fullPhotograph(true)), folder.file("text.jpg", "no photograph"),
+        folder.file("xmp.jpg", illFormedXmp()), folder.file("b.jpg", JpegBytes().app0().end())};
     const ReportResult result = report(textStyle("<xsl:value-of select='count(//JPEG)'/>"), files);
     EXPECT_EQ(result.path, folder.path("Report.txt"));
     EXPECT_EQ(contentOf(result.path), utf16File("2"));
-    ASSERT_EQ(result.leftOut.size(), 1U);
-    EXPECT_EQ(result.leftOut.front().path, files[1]);
+    ASSERT_EQ(result.leftOut.size(), 2U);
+    EXPECT_EQ(result.leftOut[0].path, files[1]);
+    EXPECT_EQ(result.leftOut[1].path, files[2]) << "one text that is not well-formed would spoil the whole";
     EXPECT_EQ(contentOf(folder.path("Report.xml")), utf16File("<JPEGs>" + JpegXml().XMLtranslate(files[0]).text +
-                                                              JpegXml().XMLtranslate(files[2]).text + "</JPEGs>"));
+                                                              JpegXml().XMLtranslate(files[3]).text + "</JPEGs>"));
     EXPECT_TRUE(reporter.contexts.empty());
 
     report(textStyle(""), {});
@@ -269,45 +275,6 @@ TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
             EXPECT_FALSE(std::ranges::search(report, part).empty()) << c.style << " " << text;
         }
     }
-}
-
-TEST(KeywordFile, PartsLinesAtCarriageReturnAndLineFeedOnly)
-{
-    const TemporaryFolder folder;
-    const struct {
-        const char* content;
-        std::vector<std::string> keywords;
-    } cases[] = {
-        {"", {""}},
-        {"a\r\n\r\nb c\r\n", {"a", "", "b c", ""}},
-        {"a\nb\n", {"a\nb\n"}},
-        {"B\xE4r\r\nE\x80", {"Bär", "E€"}},
-        {"Bär", {"Bär"}},
-    };
-    RecordingReporter reporter;
-    std::vector<std::string> keywords;
-    for (const auto& c : cases) {
-        loadKeywords(folder.file("keywords.txt", c.content), keywords, reporter);
-        EXPECT_EQ(keywords, c.keywords) << c.content;
-    }
-    EXPECT_TRUE(reporter.contexts.empty());
-    loadKeywords(folder.path("none.txt"), keywords, reporter);
-    EXPECT_EQ(reporter.contexts, std::vector<std::string>{"Open File " + folder.path("none.txt")});
-    EXPECT_EQ(keywords, std::vector<std::string>{"Bär"}) << "the list stays";
-}
-
-TEST(KeywordFile, PutsABlankBetweenAKeywordAndItsNeighbours)
-{
-    const struct {
-        const char* name;
-        std::size_t length, start, selected;
-        const char* inserted;
-    } cases[] = {
-        {"empty field", 0, 0, 0, "beach"},    {"at the end", 6, 6, 0, " beach"},  {"at the start", 6, 0, 0, "beach "},
-        {"in the middle", 6, 3, 0, "beach "}, {"all selected", 6, 0, 6, "beach"}, {"end selected", 6, 3, 3, "beach"},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(keywordInsertion("beach", c.length, c.start, c.selected), c.inserted) << c.name;
 }
 
 } // namespace ovisto::test

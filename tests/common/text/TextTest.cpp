@@ -103,20 +103,4 @@ TEST(PathText, CutsAfterTheLastSeparatorOfEitherKind)
     EXPECT_EQ(splitPath("a.jpg").folder, "");
 }
 
-TEST(ErrorReport, IsTheContextThenNumberAndDescriptionOnANewLine)
-{
-    EXPECT_EQ(errorReportText("Create file x", systemError(kDiskFull)), "Create file x\r\n61 : Disk full");
-}
-
-TEST(ErrorTrap, KeepsTheLatestErrorUntilItIsTaken)
-{
-    ErrorTrap trap;
-    trap.run([] { throw systemError(kOverflow); });
-    trap.run([] {});
-    EXPECT_TRUE(trap.pending()) << "a step that succeeds clears nothing";
-    trap.run([] { throw std::bad_alloc(); });
-    EXPECT_EQ(trap.take().number, kOutOfMemory);
-    EXPECT_FALSE(trap.pending());
-}
-
 } // namespace ovisto::test
