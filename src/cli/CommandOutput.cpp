@@ -7,7 +7,7 @@
 
 namespace ovisto {
 
-void LineReporter::report(const std::string& context, const Error& error)
+void LineReporter::report(const Phrase& context, const Error& error)
 {
     m_lines += errorLine(context, error.description);
 }
@@ -25,7 +25,7 @@ void CommandOutput::write(const FileResult& result)
     std::fputs(result.errors.c_str(), stderr);
 }
 
-void CommandOutput::report(const std::string& context, const Error& error)
+void CommandOutput::report(const Phrase& context, const Error& error)
 {
     fail(errorLine(context, error.description));
 }

@@ -14,7 +14,7 @@ public:
     /// `lines` must outlive the object.
     explicit LineReporter(std::string& lines) : m_lines(lines) {}
 
-    void report(const std::string& context, const Error& error) override;
+    void report(const Phrase& context, const Error& error) override;
 
 private:
     std::string& m_lines;
@@ -27,7 +27,7 @@ public:
     /// Writes what became of a file. An error makes the command one that failed.
     void write(const FileResult& result);
 
-    void report(const std::string& context, const Error& error) override;
+    void report(const Phrase& context, const Error& error) override;
 
     /// Ends the output. Returns the exit status of the command.
     int finish();

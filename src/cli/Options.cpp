@@ -83,7 +83,7 @@ std::vector<std::string> fileNames(const FileOptions& options)
         std::istringstream input;
         trap.run([&] { input.str(readTextFile(options.filesFrom, FileKind::RegularOrPipe)); });
         if (trap.pending())
-            throw Error{trap.error().number, options.filesFrom + ": " + trap.error().description};
+            throw Error{trap.error().number, {Message::InContext, options.filesFrom, trap.error().description}};
         readNames(files, input, separator);
     }
     return files;

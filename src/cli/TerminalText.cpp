@@ -15,11 +15,13 @@ constexpr bool isControl(char32_t character)
 
 } // namespace
 
-std::string errorLine(const std::string& path, const std::string& message)
+std::string errorLine(const Phrase& context, const Phrase& message)
 {
-    const bool named = path.empty() || message.ends_with("=" + path) || message.ends_with(" " + path);
+    const std::string path = inEnglish(context);
+    const std::string reason = inEnglish(message);
+    const bool named = path.empty() || reason.ends_with("=" + path) || reason.ends_with(" " + path);
     const std::string start = named ? "" : oneLine(path) + ": ";
-    return "ovisto-cli: " + start + oneLine(message, kMostMessage + path.size()) + "\n";
+    return "ovisto-cli: " + start + oneLine(reason, kMostMessage + path.size()) + "\n";
 }
 
 std::string oneLine(const std::string& text, std::size_t mostCharacters)

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "common/Phrase.h"
+
 #include <cstddef>
 #include <string>
 
 namespace ovisto {
 
-/// One line for standard error: the program's name, `path` unless `message` ends with it, and `message`.
-std::string errorLine(const std::string& path, const std::string& message);
+/// One line for standard error: the program's name, `context` (a path, mostly) unless `message` ends with it, and
+/// `message`.
+std::string errorLine(const Phrase& context, const Phrase& message);
 
 /// `text` on one line and harmless to a terminal: line breaks and controls are blanks, and what is longer than
 /// `mostCharacters` is cut.

@@ -58,7 +58,7 @@ XmlDocument loadEdited(const std::string& documentPath, const std::string& path)
     const std::vector<std::string> parts = imageParts(loadDocument(path));
     XmlDocument document;
     if (const auto error = document.loadFile(documentPath, Validation::Off, WhiteSpace::Preserve))
-        throw Error{kOpenFailed, documentPath + ": " + parseErrorText(*error)};
+        throw Error{kOpenFailed, {Message::InContext, documentPath, parseErrorText(*error)}};
     if (document.documentElement().name() != "JPEG")
         throw Error{kOpenFailed, documentPath + ": The root element is not JPEG"};
     if (imageParts(document) != parts)

@@ -208,7 +208,7 @@ std::unordered_set<std::size_t> overwritingOthers(const std::vector<std::string>
 
 Error overwritingError()
 {
-    return {kPathAccessError, "Another file of the list has the name of its temporary file"};
+    return {kPathAccessError, Message::TemporaryNameTaken};
 }
 
 } // namespace ovisto

@@ -71,7 +71,7 @@ bool ContentFilter::keeps(const std::string& path) const
             m_expressions, [&](const RegularExpression& expression) { return expression.matches(translation.text); });
     });
     if (trap.pending())
-        throw Error{trap.error().number, path + ": " + trap.error().description};
+        throw Error{trap.error().number, {Message::InContext, path, trap.error().description}};
     return matches;
 }
 

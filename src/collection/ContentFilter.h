@@ -15,9 +15,6 @@ struct ContentSearch {
     bool regExp = false;     ///< `words` is a regular expression
 };
 
-/// What a failed content check is called in a report.
-inline constexpr const char* kContentCheckContext = "Checking file contents";
-
 /// Tells the files whose metadata contains what is searched for. It may be used by several threads at once.
 class ContentFilter {
 public:

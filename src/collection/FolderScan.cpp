@@ -5,11 +5,6 @@
 
 namespace ovisto {
 
-std::string foundFilesToolTip(std::size_t count)
-{
-    return "List of files found (" + std::to_string(count) + ")";
-}
-
 FolderScan::FolderScan(ScanOptions options)
     : m_options(std::move(options)), m_walk(m_options.folder, m_options.patterns, m_options.subFolders)
 {
@@ -20,7 +15,7 @@ void FolderScan::run(std::vector<std::string>& found, Progress& progress, ErrorR
     if (!m_options.append)
         found.clear();
     std::optional<ContentFilter> filter;
-    if (!attempt(reporter, kContentCheckContext, [&] { filter.emplace(m_options.content); }))
+    if (!attempt(reporter, Message::CheckingContents, [&] { filter.emplace(m_options.content); }))
         return;
     // The first file that cannot be checked stands for all: a person wants to be told, but not of 20,000 files.
     bool wasReported = false;
@@ -31,7 +26,7 @@ void FolderScan::run(std::vector<std::string>& found, Progress& progress, ErrorR
         ErrorTrap trap;
         trap.run([&] { keep = filter->keeps(file->path); });
         if (trap.pending() && !std::exchange(wasReported, true))
-            reportPending(reporter, kContentCheckContext, trap);
+            reportPending(reporter, Message::CheckingContents, trap);
         if (keep)
             found.push_back(std::move(file->path));
     }

@@ -19,12 +19,6 @@ struct ScanOptions {
     ContentSearch content;
 };
 
-inline constexpr const char* kNoFilesFound =
-    "No files found with search criteria specified.  Click 'Find Files' button to try again.";
-
-/// The tool tip of a list of `count` files found.
-std::string foundFilesToolTip(std::size_t count);
-
 /// Finds the files of a folder by name and content.
 class FolderScan {
 public:

@@ -14,14 +14,12 @@
 
 namespace ovisto {
 
-inline constexpr const char* kFolderNotFound = "Folder not found";
-
 /// Goes through a folder, and those below it where wanted, from file to file: those of a folder by name, then those of
 /// its sub-folders. No folder is read twice, by whatever links it is reached, so that links in a circle end.
 class FolderWalk {
 public:
-    /// Raises kPathNotFound, described by kFolderNotFound, when `folder` cannot be read. The files are those whose
-    /// names match `patterns`.
+    /// Raises kPathNotFound, described by Message::FolderNotFound, when `folder` cannot be read. The files are those
+    /// whose names match `patterns`.
     FolderWalk(std::string folder, std::string_view patterns, bool subFolders);
 
     /// A file with its place among those of its folder.

@@ -28,7 +28,7 @@ std::vector<std::string> linesOf(const std::string& text)
 void loadKeywords(const std::string& path, std::vector<std::string>& keywords, ErrorReporter& reporter)
 {
     std::optional<InputFile> file;
-    if (!attempt(reporter, "Open File " + path, [&] { file.emplace(path); }))
+    if (!attempt(reporter, Phrase(Message::OpenFile, path), [&] { file.emplace(path); }))
         return;
     std::string content;
     ErrorTrap trap; // what was read before an error counts
@@ -37,7 +37,7 @@ void loadKeywords(const std::string& path, std::vector<std::string>& keywords, E
         content.resize(file->readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
     });
     keywords = linesOf(decodedText(content));
-    reportPending(reporter, "Read File " + path, trap);
+    reportPending(reporter, Phrase(Message::ReadFile, path), trap);
 }
 
 std::string keywordInsertion(const std::string& keyword, std::size_t length, std::size_t selectionStart,

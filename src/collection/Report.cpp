@@ -52,11 +52,11 @@ std::string writeReport(const std::string& report, const std::string& folder, Er
     const std::string extension = reportExtension(report);
     const std::string path = folder + "Report." + extension;
     std::optional<OutputFile> file;
-    const bool created = attempt(reporter, "Create file " + path, [&] {
+    const bool created = attempt(reporter, Phrase(Message::CreateFile, path), [&] {
         checkExtension(extension);
         file.emplace(path, NewFileAccess::Usual);
     });
-    const bool written = created && attempt(reporter, "Write file " + path, [&] {
+    const bool written = created && attempt(reporter, Phrase(Message::WriteFile, path), [&] {
                              write(*file, report);
                              file->flush();
                          });
@@ -108,7 +108,7 @@ ReportResult makeReport(const std::vector<std::string>& files, const ReportOptio
     const Transformation report = transformNode(document, std::move(style), TextEncoding::Utf16);
     // What a style sheet made before it failed is worth a look.
     if (report.error)
-        ErrorReport(reporter, "Transform XML", *report.error);
+        ErrorReport(reporter, Message::TransformXml, *report.error);
     result.path = writeReport(report.bytes, options.folder, reporter);
     return result;
 }

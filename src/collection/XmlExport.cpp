@@ -21,13 +21,13 @@ void removeBookkeeping(XmlDocument& document)
 void exportDocument(const XmlDocument& document, const std::string& imagePath, ErrorReporter& reporter)
 {
     XmlDocument copy;
-    reported(reporter, "Internal XML document corrupt", [&] {
+    reported(reporter, Message::DocumentCorrupt, [&] {
         if (const auto error = copy.loadText(document.xml()))
             throw Error{kOpenFailed, parseErrorText(*error)};
     });
     removeBookkeeping(copy);
     const std::string path = exportPath(imagePath);
-    reported(reporter, "Save XML File " + path, [&] { writeTextFile(path, copy.xml()); });
+    reported(reporter, Phrase(Message::SaveXmlFile, path), [&] { writeTextFile(path, copy.xml()); });
 }
 
 } // namespace ovisto

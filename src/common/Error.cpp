@@ -7,31 +7,31 @@ namespace ovisto {
 
 namespace {
 
-struct SystemErrorText {
+struct SystemError {
     int number;
-    const char* description;
+    Message reason;
 };
 
-constexpr SystemErrorText kSystemErrors[] = {
-    {kInvalidCall, "Invalid procedure call or argument"},
-    {kOverflow, "Overflow"},
-    {kOutOfMemory, "Out of memory"},
-    {kTypeMismatch, "Type mismatch"},
-    {kFileNotFound, "File not found"},
-    {kDeviceError, "Device I/O error"},
-    {kDiskFull, "Disk full"},
-    {kPermissionDenied, "Permission denied"},
-    {kPathAccessError, "Path/File access error"},
-    {kPathNotFound, "Path not found"},
-    {kObjectNotSet, "Object not set"},
+constexpr SystemError kSystemErrors[] = {
+    {kInvalidCall, Message::InvalidCall},
+    {kOverflow, Message::Overflow},
+    {kOutOfMemory, Message::OutOfMemory},
+    {kTypeMismatch, Message::TypeMismatch},
+    {kFileNotFound, Message::FileNotFound},
+    {kDeviceError, Message::DeviceError},
+    {kDiskFull, Message::DiskFull},
+    {kPermissionDenied, Message::PermissionDenied},
+    {kPathAccessError, Message::PathAccessError},
+    {kPathNotFound, Message::PathNotFound},
+    {kObjectNotSet, Message::ObjectNotSet},
 };
 
 } // namespace
 
 Error systemError(int number)
 {
-    const auto* row = std::ranges::find(kSystemErrors, number, &SystemErrorText::number);
-    return {number, row != std::end(kSystemErrors) ? row->description : "Unexpected error"};
+    const auto* row = std::ranges::find(kSystemErrors, number, &SystemError::number);
+    return {number, row != std::end(kSystemErrors) ? row->reason : Message::UnexpectedError};
 }
 
 } // namespace ovisto

@@ -1,17 +1,18 @@
 #pragma once
 
+#include "common/Phrase.h"
+
 #include <new>
 #include <optional>
-#include <string>
 #include <system_error>
 #include <utility>
 
 namespace ovisto {
 
-/// What went wrong: a number that stays the same in every language, and a sentence for the person in front.
+/// What went wrong: a number that stays the same in every language, and a phrase for the person in front.
 struct Error {
     int number = 0;
-    std::string description;
+    Phrase description;
 };
 
 // Failures of the system and of conversions.

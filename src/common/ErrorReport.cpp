@@ -1,15 +1,17 @@
 #include "common/ErrorReport.h"
 
+#include <string>
+
 namespace ovisto {
 
-void ErrorReport(ErrorReporter& reporter, const std::string& context, const Error& error)
+void ErrorReport(ErrorReporter& reporter, const Phrase& context, const Error& error)
 {
     reporter.report(context, error);
 }
 
-std::string errorReportText(const std::string& context, const Error& error)
+Phrase errorReportText(const Phrase& context, const Error& error)
 {
-    return context + "\r\n" + std::to_string(error.number) + " : " + error.description;
+    return {Message::ErrorReport, context, std::to_string(error.number), error.description};
 }
 
 } // namespace ovisto

@@ -2,8 +2,8 @@
 
 #include "common/Error.h"
 
-#include <string>
 #include <type_traits>
+#include <utility>
 
 namespace ovisto {
 
@@ -16,14 +16,14 @@ public:
     virtual ~ErrorReporter() = default;
 
     /// `context`: the operation and the file concerned, or a whole message. May be empty.
-    virtual void report(const std::string& context, const Error& error) = 0;
+    virtual void report(const Phrase& context, const Error& error) = 0;
 };
 
 /// Tells `reporter` that `error` happened in `context`.
-void ErrorReport(ErrorReporter& reporter, const std::string& context, const Error& error);
+void ErrorReport(ErrorReporter& reporter, const Phrase& context, const Error& error);
 
-/// Reports the error that `trap` holds, if any, in `context`: a text, or what makes it, where many steps come along and
-/// hardly any fails.
+/// Reports the error that `trap` holds, if any, in `context`: a phrase, or what makes it, where many steps come along
+/// and hardly any fails.
 template <class Context> void reportPending(ErrorReporter& reporter, const Context& context, const ErrorTrap& trap)
 {
     if (!trap.pending())
@@ -53,6 +53,6 @@ template <class Context, class Step> void reported(ErrorReporter& reporter, cons
 }
 
 /// What a message box shows for the error: context, CR LF, number, " : ", description.
-std::string errorReportText(const std::string& context, const Error& error);
+Phrase errorReportText(const Phrase& context, const Error& error);
 
 } // namespace ovisto

@@ -1,27 +1,8 @@
 #include "common/FirstReport.h"
 
-#include <cstddef>
-
 namespace ovisto {
 
-namespace {
-
-/// A context may end with a whole value. No character (UTF-8) is cut in two.
-std::string shortened(const std::string& context)
-{
-    constexpr std::size_t kMost = 200;
-    std::size_t count = 0;
-    for (std::size_t place = 0; place < context.size(); ++place) {
-        const bool startsCharacter = (context[place] & 0xC0) != 0x80;
-        if (startsCharacter && ++count > kMost)
-            return context.substr(0, place) + "...";
-    }
-    return context;
-}
-
-} // namespace
-
-void FirstReport::report(const std::string& context, const Error& error)
+void FirstReport::report(const Phrase& context, const Error& error)
 {
     if (m_next != nullptr)
         m_next->report(context, error);
@@ -33,9 +14,10 @@ void FirstReport::report(const std::string& context, const Error& error)
 
 Error FirstReport::orElse(const Error& error) const
 {
-    if (!m_error || m_context.empty())
+    constexpr std::size_t kMost = 200; // a context may end with a whole value
+    if (!m_error || m_context.isEmpty())
         return m_error.value_or(error);
-    return {m_error->number, shortened(m_context) + ": " + m_error->description};
+    return {m_error->number, {Message::InContext, m_context.shortened(kMost), m_error->description}};
 }
 
 } // namespace ovisto

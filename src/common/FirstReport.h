@@ -3,7 +3,6 @@
 #include "common/ErrorReport.h"
 
 #include <optional>
-#include <string>
 
 namespace ovisto {
 
@@ -14,7 +13,7 @@ public:
     /// Hands on all reports to `next`, which must outlive the object.
     explicit FirstReport(ErrorReporter& next) : m_next(&next) {}
 
-    void report(const std::string& context, const Error& error) override;
+    void report(const Phrase& context, const Error& error) override;
 
     const std::optional<Error>& error() const { return m_error; }
 
@@ -25,7 +24,7 @@ public:
 private:
     ErrorReporter* m_next = nullptr;
     std::optional<Error> m_error;
-    std::string m_context;
+    Phrase m_context;
 };
 
 } // namespace ovisto

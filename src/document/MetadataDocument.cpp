@@ -12,7 +12,7 @@ XmlDocument documentOf(std::string_view text)
         throw Error{kOpenFailed, parseErrorText(*error)};
     const std::string root = document.documentElement().name();
     if (root != "JPEG")
-        throw Error{kOpenFailed, "The root element is " + root + ", not JPEG"};
+        throw Error{kOpenFailed, {Message::RootIsNotJpeg, root}};
     return document;
 }
 

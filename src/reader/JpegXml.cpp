@@ -121,7 +121,7 @@ Translation JpegXml::XMLtranslate(const std::string& FileName, const KeepOptions
     std::optional<InputFile> file;
     trap.run([&] { file.emplace(FileName); });
     if (trap.pending())
-        return {.text = {}, .error = Error{kOpenFailed, trap.take().description + "  file=" + FileName}};
+        return {.text = {}, .error = Error{kOpenFailed, {Message::OpenFailed, trap.take().description, FileName}}};
     return FileTranslation(*file, FileName, keep).run();
 }
 

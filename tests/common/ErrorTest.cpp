@@ -5,9 +5,21 @@
 
 namespace ovisto::test {
 
+TEST(Phrase, PutsItsDetailsWhereTheTextHasTheirPlaces)
+{
+    const Phrase inner(Message::InContext, "100 %2", Phrase(Message::FilesFound, "3"));
+    EXPECT_EQ(inEnglish({Message::InContext, "a", inner}), "a: 100 %2: List of files found (3)");
+    const auto otherLanguage = [](Message message) {
+        return message == Message::InContext ? std::string("%2 <- %1 (%3)") : std::string("x%1");
+    };
+    EXPECT_EQ(inner.words(otherLanguage), "x3 <- 100 %2 (%3)") << "a place without a detail stays";
+    EXPECT_TRUE(Phrase(Message::FilesFound, "3") == Phrase(Message::FilesFound, "3"));
+    EXPECT_FALSE(Phrase(Message::FilesFound, "3") == Phrase(Message::FilesFound, "4"));
+}
+
 TEST(ErrorReport, IsTheContextThenNumberAndDescriptionOnANewLine)
 {
-    EXPECT_EQ(errorReportText("Create file x", systemError(kDiskFull)), "Create file x\r\n61 : Disk full");
+    EXPECT_EQ(inEnglish(errorReportText("Create file x", systemError(kDiskFull))), "Create file x\r\n61 : Disk full");
 }
 
 TEST(ErrorTrap, KeepsTheLatestErrorUntilItIsTaken)
@@ -32,7 +44,7 @@ TEST(FirstReport, PutsItsContextBeforeTheErrorAndCutsItBetweenCharacters)
     report.report("the consequence", systemError(kInvalidCall));
     const Error error = report.orElse(systemError(kOverflow));
     EXPECT_EQ(error.number, kDiskFull);
-    EXPECT_EQ(error.description, context.substr(0, 300) + "...: Disk full");
+    EXPECT_EQ(inEnglish(error.description), context.substr(0, 300) + "...: Disk full");
 }
 
 } // namespace ovisto::test

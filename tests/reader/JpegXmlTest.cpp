@@ -32,7 +32,7 @@ std::string withoutFirstLine(const std::string& text)
 std::string body(const Bytes& jpeg, const KeepOptions& keep = {})
 {
     const Translation translation = translate(jpeg, keep);
-    EXPECT_FALSE(translation.error) << translation.error->description;
+    EXPECT_FALSE(translation.error) << inEnglish(translation.error->description);
     return withoutFirstLine(translation.text);
 }
 
@@ -213,7 +213,7 @@ TEST(JpegXml, ReportsItsErrorsWithTheTextSoFar)
         const Translation translation = JpegXml().XMLtranslate(path);
         ASSERT_TRUE(translation.error) << description;
         EXPECT_EQ(translation.error->number, number);
-        EXPECT_EQ(translation.error->description, description + path);
+        EXPECT_EQ(inEnglish(translation.error->description), description + path);
         EXPECT_EQ(withoutFirstLine(translation.text), text);
     };
     expectError(kOpenFailed, "File not found  file=", "");

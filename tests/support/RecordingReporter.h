@@ -10,9 +10,9 @@ namespace ovisto::test {
 /// Remembers what it was told.
 class RecordingReporter : public ErrorReporter {
 public:
-    void report(const std::string& context, const Error& error) override
+    void report(const Phrase& context, const Error& error) override
     {
-        contexts.push_back(context);
+        contexts.push_back(inEnglish(context));
         numbers.push_back(error.number);
     }
 

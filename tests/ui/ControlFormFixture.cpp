@@ -14,7 +14,7 @@ const QString kSource = QStringLiteral(OVISTO_SOURCE_FOLDER);
 
 class NoReports : public ErrorReporter {
 public:
-    void report(const std::string& context, const Error&) override { qFatal("reported: %s", context.c_str()); }
+    void report(const Phrase& context, const Error&) override { qFatal("reported: %s", inEnglish(context).c_str()); }
 };
 
 } // namespace

@@ -132,7 +132,7 @@ private Q_SLOTS:
             bool step(const std::string&, std::size_t, std::size_t) override { return left > 0 && left-- > 0; }
         };
         class Reporter : public ErrorReporter {
-            void report(const std::string& context, const Error&) override { qFatal("%s", context.c_str()); }
+            void report(const Phrase& context, const Error&) override { qFatal("%s", inEnglish(context).c_str()); }
         } reporter;
         QTemporaryDir folder;
         const QDir root(folder.path());
@@ -243,9 +243,10 @@ private Q_SLOTS:
     {
         RecordingReporter reporter;
         ScanReports reports(reporter);
-        for (const char* context : {"/proc/1", "/proc/2", kContentCheckContext, "/proc/3"})
+        for (const Phrase& context :
+             {Phrase("/proc/1"), Phrase("/proc/2"), Phrase(Message::CheckingContents), Phrase("/proc/3")})
             reports.report(context, systemError(kPermissionDenied));
-        QCOMPARE(reporter.contexts, std::vector<std::string>({"/proc/1", kContentCheckContext}));
+        QCOMPARE(reporter.contexts, std::vector<std::string>({"/proc/1", "Checking file contents"}));
         QCOMPARE(notReadMessage(reports.notReadToo()),
                  QStringLiteral("Other folders that could not be read (2):\r\n"
                                 "/proc/2: Permission denied\r\n/proc/3: Permission denied"));

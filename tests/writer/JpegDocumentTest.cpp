@@ -258,7 +258,7 @@ TEST(WriteJpeg, EitherRefusesAValueOrWritesAFileThatCanBeRead)
         }
         ++written;
         const Translation translation = JpegXml().XMLtranslate(path);
-        EXPECT_FALSE(translation.error) << translation.error->description << document.xml();
+        EXPECT_FALSE(translation.error) << inEnglish(translation.error->description) << document.xml();
         EXPECT_EQ(imageData(contentOf(path)), imageData(before));
     }
     EXPECT_GT(written, 200);

@@ -95,8 +95,8 @@ RegularExpression::RegularExpression(const std::string& pattern) : m_compiled(st
                                          kCompileOptions, &error, &place, context.get()));
     if (!m_compiled->code) {
         const std::size_t character = characterCount(std::string_view(spelling).substr(0, place));
-        throw Error{kInvalidCall, "Not a regular expression: " + pattern + ": " + messageOf(error) + " (at character " +
-                                      std::to_string(character) + ")"};
+        throw Error{kInvalidCall,
+                    {Message::NotARegularExpression, pattern, messageOf(error), std::to_string(character)}};
     }
     // Where the processor has no such compiler, the expression is interpreted, as it would be without this.
     pcre2_jit_compile(m_compiled->code.get(), PCRE2_JIT_COMPLETE);
@@ -125,7 +125,7 @@ bool RegularExpression::matches(std::string_view text) const
     if (result == PCRE2_ERROR_NOMATCH)
         return false;
     if (result < 0)
-        throw Error{kOutOfMemory, "The regular expression runs too long: " + messageOf(result)};
+        throw Error{kOutOfMemory, {Message::ExpressionRunsTooLong, messageOf(result)}};
     return true;
 }
 

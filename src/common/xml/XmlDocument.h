@@ -14,7 +14,7 @@ namespace ovisto {
 /// Where and why a text is no XML document.
 struct XmlParseError {
     int code = 0;
-    std::string reason;
+    Phrase reason;
     std::int64_t line = 0;    ///< the first is 1
     std::int64_t linepos = 0; ///< characters into the line; the first is 1, 0 when unknown
     std::string srcText;      ///< the whole line

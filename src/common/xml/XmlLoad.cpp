@@ -24,10 +24,9 @@ void raise(const std::string& source, const std::optional<XmlParseError>& error)
 {
     if (!error)
         return;
-    throw Error{kOpenFailed, "File " + source + "\r\n" +                                                  //
-                                 "Line " + std::to_string(error->line) + " pos " +                        //
-                                 std::to_string(error->linepos) + " " + "\r\n" + error->reason + "\r\n" + //
-                                 firstCharacters(error->srcText, error->linepos)};
+    throw Error{kOpenFailed,
+                {Message::XmlFileError, source, std::to_string(error->line), std::to_string(error->linepos),
+                 error->reason, firstCharacters(error->srcText, error->linepos)}};
 }
 
 } // namespace
@@ -42,10 +41,10 @@ void loadStyleSheet(XmlDocument& document, const std::string& source, FileKind k
     raise(source, document.loadStyleSheet(source, kind));
 }
 
-std::string parseErrorText(const XmlParseError& error)
+Phrase parseErrorText(const XmlParseError& error)
 {
-    return error.reason + " line:" + std::to_string(error.line) + " pos:" + std::to_string(error.linepos) +
-           " src:" + error.srcText;
+    return {Message::XmlTextError, error.reason, std::to_string(error.line), std::to_string(error.linepos),
+            error.srcText};
 }
 
 } // namespace ovisto

@@ -16,6 +16,6 @@ void XMLLoad(XmlDocument& document, const std::string& source);
 void loadStyleSheet(XmlDocument& document, const std::string& source, FileKind kind);
 
 /// The message for a metadata document that does not parse.
-std::string parseErrorText(const XmlParseError& error);
+Phrase parseErrorText(const XmlParseError& error);
 
 } // namespace ovisto

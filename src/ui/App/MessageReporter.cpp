@@ -4,7 +4,7 @@
 
 namespace ovisto {
 
-void MessageReporter::report(const std::string& context, const Error& error)
+void MessageReporter::report(const Phrase& context, const Error& error)
 {
     m_dialogs.show(toQString(errorReportText(context, error)));
 }

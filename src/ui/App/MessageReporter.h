@@ -11,7 +11,7 @@ public:
     /// `dialogs` must outlive the reporter.
     explicit MessageReporter(Dialogs& dialogs) : m_dialogs(dialogs) {}
 
-    void report(const std::string& context, const Error& error) override;
+    void report(const Phrase& context, const Error& error) override;
 
 private:
     Dialogs& m_dialogs;

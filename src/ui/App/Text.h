@@ -1,6 +1,9 @@
 #pragma once
 
+#include "common/Phrase.h"
+
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 
 #include <string>
@@ -12,6 +15,13 @@ namespace ovisto {
 inline QString toQString(const std::string& utf8)
 {
     return QString::fromStdString(utf8);
+}
+
+/// The words of `phrase` in the language of the window.
+inline QString toQString(const Phrase& phrase)
+{
+    return toQString(phrase.words(
+        [](Message message) { return QCoreApplication::translate("Message", sourceText(message)).toStdString(); }));
 }
 
 /// A path for people to read. What is no UTF-8 in it is shown as a replacement character.

@@ -7,10 +7,10 @@ bool BatchWatch::step(const std::string& path, std::size_t done, std::size_t tot
     return !m_failed && m_progress.step(path, done, total);
 }
 
-void BatchWatch::report(const std::string& context, const Error& error)
+void BatchWatch::report(const Phrase& context, const Error& error)
 {
     if (m_failed) {
-        m_failedToo.push_back({context, error});
+        m_failedToo.push_back({inEnglish(context), error});
         return;
     }
     m_reporter.report(context, error);

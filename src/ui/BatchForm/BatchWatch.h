@@ -17,7 +17,7 @@ public:
     BatchWatch(Progress& progress, ErrorReporter& reporter) : m_progress(progress), m_reporter(reporter) {}
 
     bool step(const std::string& path, std::size_t done, std::size_t total) override;
-    void report(const std::string& context, const Error& error) override;
+    void report(const Phrase& context, const Error& error) override;
 
     /// Those that failed after the one that ended the batch.
     const std::vector<FileFailure>& failedToo() const { return m_failedToo; }

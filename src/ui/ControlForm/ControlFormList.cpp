@@ -54,7 +54,7 @@ void ControlForm::scanFolder()
     ErrorTrap trap;
     trap.run([&] { scan.emplace(scanOptions(m_scan)); });
     if (trap.pending())
-        return m_surroundings.dialogs.show(tr(kFolderNotFound));
+        return m_surroundings.dialogs.show(toQString(Message::FolderNotFound));
     std::vector<std::string> found;
     clearList();
     ScanReports reports(m_reporter);
@@ -98,8 +98,8 @@ void ControlForm::listFiles(std::vector<std::string> found, const ScanReports& r
     if (m_found.rowCount() > 0)
         selectFile(0); // which leaves none when none of them is there any more
     if (m_found.rowCount() == 0)
-        m_surroundings.dialogs.show(tr(kNoFilesFound));
-    ui.FilesFoundList->setToolTip(toQString(foundFilesToolTip(m_found.paths().size())));
+        m_surroundings.dialogs.show(toQString(Message::NoFilesFound));
+    ui.FilesFoundList->setToolTip(toQString(Phrase(Message::FilesFound, std::to_string(m_found.paths().size()))));
 }
 
 void ControlForm::showBatch()

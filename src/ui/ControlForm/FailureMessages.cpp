@@ -14,8 +14,9 @@ namespace {
 /// The reader names the file in what it says, the parser does not.
 QString line(const FileFailure& failure)
 {
-    const bool namesFile = failure.error.description.find(failure.path) != std::string::npos;
-    return toQString((namesFile ? "" : failure.path + ": ") + failure.error.description);
+    const QString reason = toQString(failure.error.description);
+    const bool namesFile = reason.contains(toQString(failure.path));
+    return namesFile ? reason : toQString(Phrase(Message::InContext, failure.path, failure.error.description));
 }
 
 QString messageOf(const QString& heading, const std::vector<FileFailure>& failures)

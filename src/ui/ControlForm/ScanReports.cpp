@@ -6,11 +6,11 @@
 
 namespace ovisto {
 
-void ScanReports::report(const std::string& context, const Error& error)
+void ScanReports::report(const Phrase& context, const Error& error)
 {
-    const bool isFolder = context != kContentCheckContext;
+    const bool isFolder = context != Message::CheckingContents;
     if (isFolder && std::exchange(m_folderTold, true))
-        m_notReadToo.push_back({context, error});
+        m_notReadToo.push_back({inEnglish(context), error});
     else
         m_reporter.report(context, error);
 }

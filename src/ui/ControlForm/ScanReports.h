@@ -14,7 +14,7 @@ public:
     /// `reporter` must outlive the object.
     explicit ScanReports(ErrorReporter& reporter) : m_reporter(reporter) {}
 
-    void report(const std::string& context, const Error& error) override;
+    void report(const Phrase& context, const Error& error) override;
 
     /// The folders after the first.
     const std::vector<FileFailure>& notReadToo() const { return m_notReadToo; }

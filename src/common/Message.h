@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+
+namespace ovisto {
+
+/// What the library has to say to a person: failures and their reasons, and the work that they happened in. The command
+/// line says it in English, the window in the person's language.
+enum class Message : std::uint8_t {
+    // Texts made of others
+    AsItIs, // the text of a Phrase that is the same in every language
+    InContext,
+    ErrorReport,
+    // Reasons of the system and of conversions
+    InvalidCall,
+    Overflow,
+    OutOfMemory,
+    TypeMismatch,
+    FileNotFound,
+    DeviceError,
+    DiskFull,
+    PermissionDenied,
+    PathAccessError,
+    PathNotFound,
+    ObjectNotSet,
+    UnexpectedError,
+    // Regular expressions
+    NotARegularExpression,
+    ExpressionRunsTooLong,
+    // XML
+    XmlFileError,
+    XmlTextError,
+    // Reading
+    OpenFailed,
+    // Collections
+    RootIsNotJpeg,
+    TemporaryNameTaken,
+    FolderNotFound,
+    NoFilesFound,
+    FilesFound,
+    CheckingContents,
+    OpenFile,
+    ReadFile,
+    CreateFile,
+    WriteFile,
+    SaveXmlFile,
+    DocumentCorrupt,
+    TransformXml,
+};
+
+/// The English text of a message, UTF-8, with %1, %2 and so on where its details belong. Translations are looked up by
+/// it, in the context "Message".
+const char* sourceText(Message message);
+
+} // namespace ovisto

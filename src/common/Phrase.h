@@ -1,0 +1,45 @@
+#pragma once
+
+#include "common/Message.h"
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace ovisto {
+
+/// Something said to a person, still without words: a message and its details, which may be phrases themselves. Or a
+/// text that is the same in every language: a path, a number, the reason that another library gives.
+class Phrase {
+public:
+    Phrase() = default;
+    Phrase(std::string text) : m_text(std::move(text)) {}
+    Phrase(const char* text) : m_text(text) {}
+    template <class... Details>
+    Phrase(Message message, Details&&... details) : m_message(message), m_details{std::forward<Details>(details)...}
+    {
+    }
+
+    Message message() const { return m_message; }
+    bool isEmpty() const { return m_message == Message::AsItIs && m_text.empty(); }
+
+    /// The phrase, its words cut after `most` characters (and "..." put there).
+    Phrase shortened(std::size_t most) const;
+
+    /// The words. `textOf` gives the text of a message in the language wanted.
+    std::string words(const std::function<std::string(Message)>& textOf) const;
+
+    bool operator==(const Phrase&) const = default;
+
+private:
+    Message m_message = Message::AsItIs;
+    std::string m_text; ///< of a phrase that is the same in every language
+    std::vector<Phrase> m_details;
+    std::size_t m_most = std::string::npos;
+};
+
+/// The words of `phrase` in English.
+std::string inEnglish(const Phrase& phrase);
+
+} // namespace ovisto
