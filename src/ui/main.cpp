@@ -17,10 +17,7 @@ namespace {
 std::optional<ovisto::TagDictionary> loadDictionary(const std::string& folder, ovisto::ErrorReporter& reporter)
 {
     std::optional<ovisto::TagDictionary> Merovel;
-    ovisto::ErrorTrap trap;
-    trap.run([&] { Merovel.emplace(folder + "Merovel.xml"); });
-    if (trap.pending())
-        ovisto::ErrorReport(reporter, "Merovel.xml", trap.take());
+    ovisto::attempt(reporter, "Merovel.xml", [&] { Merovel.emplace(folder + "Merovel.xml"); });
     return Merovel;
 }
 

@@ -52,10 +52,7 @@ QImage fittedPicture(QIODevice& file, QSize maximum)
 QImage PictureFit(const std::string& fileName, QSize maximum, ErrorReporter& reporter)
 {
     QImage picture;
-    ErrorTrap trap;
-    trap.run([&] { picture = fittedPicture(fileName, maximum); });
-    if (trap.pending())
-        ErrorReport(reporter, fileName, trap.take());
+    attempt(reporter, fileName, [&] { picture = fittedPicture(fileName, maximum); });
     return picture;
 }
 

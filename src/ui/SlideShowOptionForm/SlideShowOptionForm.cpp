@@ -1,6 +1,6 @@
 #include "ui/SlideShowOptionForm/SlideShowOptionForm.h"
 
-#include "common/Error.h"
+#include "common/ErrorReport.h"
 #include "ui/App/MessageReporter.h"
 
 #include <QCoreApplication>
@@ -21,11 +21,9 @@ SlideShowOptionForm::SlideShowOptionForm(const SlideSurroundings& surroundings, 
 void SlideShowOptionForm::accept()
 {
     std::int16_t seconds = 0;
-    ErrorTrap trap;
-    trap.run([&] { seconds = wholeSeconds(ui.SlideSecondsPer->text()); });
-    if (trap.pending()) {
-        MessageReporter reporter(m_surroundings.dialogs);
-        ErrorReport(reporter, ui.SlideSecondsPerL->text().toStdString(), trap.take());
+    MessageReporter reporter(m_surroundings.dialogs);
+    const std::string label = ui.SlideSecondsPerL->text().toStdString();
+    if (!attempt(reporter, label, [&] { seconds = wholeSeconds(ui.SlideSecondsPer->text()); })) {
         ui.SlideSecondsPer->setFocus();
         return ui.SlideSecondsPer->selectAll();
     }
