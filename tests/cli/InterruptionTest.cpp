@@ -19,7 +19,7 @@ namespace ovisto::test {
 
 namespace {
 
-const std::string kTitle = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']";
+constexpr const char* kTitle = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']";
 
 /// A command that runs beside the test. It waits where its standard error is full until the test reads it.
 class RunningCommand {
@@ -92,13 +92,14 @@ TEST(Interruption, EndsCommandsThatWriteAfterTheFileAtHand)
 {
     const TemporaryFolder lists;
     const Bytes before = fullPhotograph(false);
+    const std::string style = std::string(OVISTO_DATA_FOLDER) + "reports/list.xsl";
     const struct {
         std::vector<std::string> arguments;
         std::vector<std::string> written;
     } cases[] = {
         {{"export"}, {"a.jpg.XML"}},
         {{"write"}, {"a.jpg"}},
-        {{"report", "--style", OVISTO_DATA_FOLDER "reports/list.xsl", "--output", lists.path("d.jpg")}, {}},
+        {{"report", "--style", style, "--output", lists.path("d.jpg")}, {}},
     };
     for (const auto& c : cases) {
         const TemporaryFolder folder;
