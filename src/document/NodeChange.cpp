@@ -3,6 +3,7 @@
 #include "common/FirstReport.h"
 #include "document/Directories.h"
 #include "document/NodeCreation.h"
+#include "document/NodePath.h"
 #include "document/NodePaths.h"
 
 #include <algorithm>
@@ -52,27 +53,26 @@ std::string objection(const NodeChange& change)
     return {};
 }
 
-bool applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)
+ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)
 {
-    const std::string path = change.entry.path();
-    XmlNode node = document.selectSingleNode(path);
+    const std::string path = change.node ? NodeXPath(change.node) : change.entry.path();
+    XmlNode node = change.node ? change.node : document.selectSingleNode(path);
     if (change.action == NodeAction::Delete) {
         if (!node)
-            return false;
+            return {};
         node.remove();
-        removeCompanion(document, path);
-        return true;
+        return {.changed = true, .companion = removeCompanion(document, path)};
     }
     const bool isNew = !node;
     if (isNew)
         node = createNode(document, change, reporter);
     if (change.action == NodeAction::Add)
-        return isNew;
+        return {.changed = isNew};
     // A new node without a text is as good as none for a value that is empty: nothing is written for it.
     if (node.text() == change.value)
-        return false;
+        return {};
     node.setText(change.value);
-    return true;
+    return {.changed = true};
 }
 
 XmlNode removeCompanion(XmlDocument& document, const std::string& path)

@@ -13,16 +13,26 @@ enum class NodeAction { Set, Delete, Add };
 /// One change to one node, as it is made to any number of files.
 struct NodeChange {
     NodeAction action = NodeAction::Set;
-    DictionaryEntry entry; ///< of the node
-    std::string value;     ///< the new text, for Set
+    DictionaryEntry entry{}; ///< of the node
+    std::string value{};     ///< the new text, for Set
+    XmlNode node{};          ///< the node itself, for one document; without it, the first one at the entry's path
+};
+
+/// What a change did to a document.
+struct ChangeResult {
+    bool changed = false;
+    XmlNode companion{}; ///< what a deletion removed too, as it has no meaning without the node deleted
+
+    explicit operator bool() const { return changed; }
 };
 
 /// Why the change cannot be made to any file, as a sentence for a person; empty when it can.
 std::string objection(const NodeChange& change);
 
-/// Makes the change to a document, creating the node where Set or Add misses it. Returns whether that changed the
-/// document. A node that cannot be created is reported, and the error raised; the document is then of no more use.
-bool applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter);
+/// Makes the change to a document, creating the node where Set or Add misses it. Deleting a node removes the entry that
+/// pointed to it too, or the directory that was there for it. A node that cannot be created is reported, and the error
+/// raised; the document is then of no more use.
+ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter);
 
 /// Removes the node that has no meaning without the one of `path`, which was removed: the entry that pointed to it, or
 /// the directory that was there for it. Returns the node removed, or no node.
