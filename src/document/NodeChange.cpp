@@ -24,6 +24,18 @@ std::string companionPath(const ExifPart& part)
     return part.pointer.offset != 0 ? entryPath(*exifPart(part.pointedFrom), part.pointer.offset) : std::string();
 }
 
+/// Removes the node that has no meaning without the one of `path`, which was removed. Returns it, or no node.
+XmlNode removeCompanion(XmlDocument& document, const std::string& path)
+{
+    const ExifPart* part = exifPartAt(path);
+    const std::string companionsPath = part != nullptr ? companionPath(*part) : std::string();
+    if (companionsPath.empty())
+        return {};
+    XmlNode companion = document.selectSingleNode(companionsPath);
+    companion.remove();
+    return companion;
+}
+
 /// A node that could not be made with all that it needs is as good as none: its file could not be read back.
 XmlNode createNode(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)
 {
@@ -73,17 +85,6 @@ ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorR
         return {};
     node.setText(change.value);
     return {.changed = true};
-}
-
-XmlNode removeCompanion(XmlDocument& document, const std::string& path)
-{
-    const ExifPart* part = exifPartAt(path);
-    const std::string companionsPath = part != nullptr ? companionPath(*part) : std::string();
-    if (companionsPath.empty())
-        return {};
-    XmlNode companion = document.selectSingleNode(companionsPath);
-    companion.remove();
-    return companion;
 }
 
 } // namespace ovisto

@@ -34,8 +34,4 @@ std::string objection(const NodeChange& change);
 /// raised; the document is then of no more use.
 ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter);
 
-/// Removes the node that has no meaning without the one of `path`, which was removed: the entry that pointed to it, or
-/// the directory that was there for it. Returns the node removed, or no node.
-XmlNode removeCompanion(XmlDocument& document, const std::string& path);
-
 } // namespace ovisto

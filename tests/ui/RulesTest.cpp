@@ -43,10 +43,10 @@ private Q_SLOTS:
 
     void namesDataTypes()
     {
-        QCOMPARE(dataTypeCaption(2, 0).value(), QStringLiteral("String"));
-        QCOMPARE(dataTypeCaption(11, 1).value(), QStringLiteral("Unicode String Protected"));
-        QCOMPARE(dataTypeCaption(7, 2).value(), QStringLiteral("Undefined Required"));
-        QVERIFY(!dataTypeCaption(12, 0));
+        QCOMPARE(dataTypeCaption(2, Protection::Free).value(), QStringLiteral("String"));
+        QCOMPARE(dataTypeCaption(11, Protection::Protected).value(), QStringLiteral("Unicode String Protected"));
+        QCOMPARE(dataTypeCaption(7, Protection::Required).value(), QStringLiteral("Undefined Required"));
+        QVERIFY(!dataTypeCaption(12, Protection::Free));
     }
 
     void buildsTheTree()

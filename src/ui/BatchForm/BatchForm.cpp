@@ -1,12 +1,11 @@
 #include "ui/BatchForm/BatchForm.h"
 
 #include "ui/App/Text.h"
-#include "ui/NodeAddForm/NodePicker.h"
 
 namespace ovisto {
 
 BatchForm::BatchForm(const TagDictionary& Merovel, bool technical, Dialogs& dialogs, QWidget* owner)
-    : QDialog(owner), m_dialogs(dialogs), m_entries(pickableEntries(Merovel, technical))
+    : QDialog(owner), m_dialogs(dialogs), m_entries(Merovel.entries(technical))
 {
     ui.setupUi(this);
     for (const DictionaryEntry& entry : m_entries)

@@ -1,20 +1,18 @@
 #include "ui/ControlForm/ControlForm.h"
 
-#include "common/Error.h"
 #include "ui/AboutForm/AboutForm.h"
 #include "ui/App/Placement.h"
 #include "ui/App/Text.h"
-#include "ui/SlideShowOptionForm/SlideShowOptionForm.h"
+#include "ui/SlideForm/SlideForm.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QFocusEvent>
-#include <QKeyEvent>
 #include <QMimeData>
-#include <QScopedValueRollback>
 #include <QShortcut>
+#include <QTimer>
 #include <QUrl>
 
 #include <utility>
@@ -50,123 +48,61 @@ constexpr SplitterSetting kSplitterSettings[] = {
     {&Ui::ControlForm::ControlFormProperties, "240,280"},
 };
 
-constexpr int kFirstLine = 4; ///< pixels from the top of a box to its first line
-
-/// Whether the focus went to another control of the window, and not only for a while to a menu or another window.
-bool isLeaving(const QFocusEvent& event)
-{
-    return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason &&
-           event.reason() != Qt::ActiveWindowFocusReason;
-}
-
-bool isEnter(const QKeyEvent& event)
-{
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
 } // namespace
 
 ControlForm::ControlForm(TagDictionary dictionary, const Surroundings& surroundings)
-    : m_surroundings(surroundings), m_reporter(surroundings.dialogs), Merovel(std::move(dictionary))
+    : ui(this), m_surroundings(surroundings), m_reporter(surroundings.dialogs), Merovel(std::move(dictionary)),
+      m_boxes(*this), m_parts{*this, ui, m_surroundings, Merovel, m_reporter, m_boxes, ControlsUpdating},
+      m_editor(m_parts), m_keywords(m_parts), m_search(m_parts, m_editor), m_actions(m_parts, m_editor)
 {
-    ui.setupUi(this);
-    m_osBoxes = {{
-        {OsProperty::Title, ui.FileTitle, &DittoTitle},
-        {OsProperty::Subject, ui.FileSubject, &DittoSubject},
-        {OsProperty::Comments, ui.FileComments, &DittoComments},
-        {OsProperty::Keywords, ui.FileKeywords, &DittoKeywords},
-    }};
-    const int markSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    ui.SaveWarning->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(markSize));
-    ui.SaveWarning->hide();
-    ui.FilesFoundList->setModel(&m_found);
-    for (QLabel* caption : {ui.FileCommentsL, ui.FileKeywordsL})
-        caption->setContentsMargins(0, kFirstLine, 0, 0);
-    connectControls();
+    connect(&m_keywords, &KeywordPane::chosen, &m_editor.osPane(), &OsPane::insertKeyword);
+    connectButtons();
     connectMenus();
-    clearShownFile();
     loadSettings();
 }
 
-void ControlForm::connectControls()
+void ControlForm::connectButtons()
 {
-    m_selection.setSingleShot(true);
-    connect(&m_selection, &QTimer::timeout, this, &ControlForm::OpenSelectedFile);
-    // A list that is still busy with the mouse must not change, so the file is opened a moment later.
-    connect(ui.FilesFoundList->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (ControlsUpdating)
-            return;
-        if (selectedFile() >= 0)
-            m_selection.start();
-        else if (!CurrentFileName.empty())
-            QTimer::singleShot(0, this, &ControlForm::selectShownFile);
-    });
-    connect(ui.FilesFoundList, &QListView::clicked, this, [this] {
-        if (CurrentFileName.empty())
-            m_selection.start();
-    });
-    const auto pickPrevious = [this] { pickFile(*ui.FilePickerPrev, &FoundFiles::previous); };
-    const auto pickNext = [this] { pickFile(*ui.FilePickerNext, &FoundFiles::next); };
     // A button pressed by its underlined letter does not take the focus by itself, but the box being edited must be
     // left before anything happens.
     for (QAbstractButton* button : findChildren<QAbstractButton*>())
         connect(button, &QAbstractButton::pressed, button, [button] { button->setFocus(); });
-    connect(ui.FileFinder, &QPushButton::clicked, this, &ControlForm::findFiles);
+    const auto pickPrevious = [this] {
+        m_boxes.moveFocusTo(*ui.FilePickerPrev);
+        m_editor.step(&FoundFiles::previous);
+    };
+    const auto pickNext = [this] {
+        m_boxes.moveFocusTo(*ui.FilePickerNext);
+        m_editor.step(&FoundFiles::next);
+    };
+    connect(ui.FileFinder, &QPushButton::clicked, this, [this] { m_search.findFiles(); });
     connect(ui.FilePickerPrev, &QToolButton::clicked, this, pickPrevious);
     connect(ui.FilePickerNext, &QToolButton::clicked, this, pickNext);
     connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, pickPrevious);
     connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, pickNext);
-    connect(ui.SlideShower, &QPushButton::clicked, this, &ControlForm::showSlideShowOptions);
-    connect(ui.BatchShower, &QPushButton::clicked, this, &ControlForm::showBatch);
-    connect(ui.KeywordLoader, &QPushButton::clicked, this, &ControlForm::chooseKeywords);
-    connect(ui.KeywordList, &QListWidget::itemClicked, this, &ControlForm::insertKeyword);
-    connect(ui.Image1, &PictureBox::clicked, this,
-            [this](Qt::MouseButton button) { runVerb(button == Qt::LeftButton ? Verb::Open : Verb::Properties); });
-    connect(ui.FileSaver, &QPushButton::clicked, this, &ControlForm::saveAndReopen);
-    connect(ui.FileReset, &QPushButton::clicked, this, &ControlForm::reset);
-    connect(ui.FilePropPaster, &QPushButton::clicked, this, &ControlForm::ditto);
-    // Not the current item, which is there as soon as the tree has the focus.
-    connect(ui.NodeTree, &QTreeWidget::itemSelectionChanged, this, [this] {
-        if (ControlsUpdating)
-            return;
-        m_selectedByClick = true;
-        nodeClicked(selectedItem());
-    });
-    // A click on the item that was selected already shows its node anew.
-    connect(ui.NodeTree, &QTreeWidget::itemPressed, this, [this](const QTreeWidgetItem* item) {
-        if (!std::exchange(m_selectedByClick, false))
-            nodeClicked(item);
-    });
-    connect(ui.ViewHexOpt, &QCheckBox::toggled, this, &ControlForm::setValueFont);
-    connect(ui.ViewHexOpt, &QCheckBox::toggled, this, [this] {
-        if (!ControlsUpdating)
-            ShowNodeValue();
-    });
-    connect(ui.NodeText, &TextBox::textChanged, this, &ControlForm::nodeTextChanged);
-    connect(ui.NodeAdder, &QPushButton::clicked, this, &ControlForm::addNode);
-    connect(ui.NodeDeleter, &QPushButton::clicked, this, &ControlForm::deleteNode);
-    ui.NodeText->installEventFilter(this);
-    ui.KeywordList->installEventFilter(this);
-    for (const OsBox& osBox : m_osBoxes)
-        osBox.box->installEventFilter(this);
+    connect(ui.SlideShower, &QPushButton::clicked, &m_actions, &ListActions::showSlideShowOptions);
+    connect(ui.BatchShower, &QPushButton::clicked, &m_actions, &ListActions::showBatch);
 }
 
 void ControlForm::connectMenus()
 {
     connect(ui.menuFileSave, &QAction::triggered, this, [this] {
-        moveFocusTo(*ui.FileSaver);
-        saveAndReopen();
+        m_boxes.moveFocusTo(*ui.FileSaver);
+        m_editor.saveAndReopen();
     });
-    connect(ui.menuFileSaveXML, &QAction::triggered, this, &ControlForm::saveXml);
+    connect(ui.menuFileSaveXML, &QAction::triggered, this, [this] {
+        m_boxes.moveFocusTo(*ui.FileSaver);
+        m_editor.saveXml();
+    });
     connect(ui.menuFileReset, &QAction::triggered, this, [this] {
         ui.SaveWarning->show();
-        moveFocusTo(*ui.FileReset);
-        reset();
+        m_boxes.moveFocusTo(*ui.FileReset);
+        m_editor.reset();
     });
-    connect(ui.menuGenerate, &QAction::triggered, this, &ControlForm::generateReport);
+    connect(ui.menuGenerate, &QAction::triggered, &m_actions, &ListActions::generateReport);
     connect(ui.menuFileExit, &QAction::triggered, this, &ControlForm::close);
-    connect(ui.menuImageOpen, &QAction::triggered, this, [this] { runVerb(Verb::Open); });
-    connect(ui.menuImageProps, &QAction::triggered, this, [this] { runVerb(Verb::Properties); });
+    connect(ui.menuImageOpen, &QAction::triggered, this, [this] { m_editor.runVerb(Verb::Open); });
+    connect(ui.menuImageProps, &QAction::triggered, this, [this] { m_editor.runVerb(Verb::Properties); });
     connect(ui.menuHelpAbout, &QAction::triggered, this, [this] { AboutForm(this).exec(); });
     connect(ui.menuHelpContents, &QAction::triggered, this, [this] {
         HelpContents(m_surroundings.desktop, m_surroundings.dialogs, m_surroundings.folders.data + "help/index.html");
@@ -181,8 +117,8 @@ void ControlForm::loadSettings()
     PlacementLoad(*this, settings, objectName(), QStringLiteral("0,0,11655,8505"));
     for (const SplitterSetting& setting : kSplitterSettings)
         splitterLoad(*(ui.*setting.splitter), settings, QLatin1String(setting.whenMissing));
-    loadKeywords(toPath(settings.GetSetting(QStringLiteral("Keywords"), folder + QStringLiteral("keywords.txt"))));
-    m_scan = loadScanSettings(settings, folderWithoutSeparator);
+    m_keywords.load(toPath(settings.GetSetting(QStringLiteral("Keywords"), folder + QStringLiteral("keywords.txt"))));
+    m_search.settings = loadScanSettings(settings, folderWithoutSeparator);
     for (const OptionSetting& option : kOptionSettings)
         (ui.*option.item)->setChecked(settings.choice(QLatin1String(option.key), option.whenMissing));
 }
@@ -193,7 +129,7 @@ void ControlForm::saveSettings()
     PlacementSave(*this, settings, objectName());
     for (const SplitterSetting& setting : kSplitterSettings)
         splitterSave(*(ui.*setting.splitter), settings);
-    saveScanSettings(m_scan, settings);
+    saveScanSettings(m_search.settings, settings);
     for (const OptionSetting& option : kOptionSettings)
         settings.saveChoice(QLatin1String(option.key), (ui.*option.item)->isChecked());
 }
@@ -201,9 +137,9 @@ void ControlForm::saveSettings()
 bool ControlForm::start(const std::vector<std::string>& paths)
 {
     if (paths.empty())
-        return findFiles();
+        return m_search.findFiles();
     show();
-    findFilesAmong(paths);
+    m_search.findFilesAmong(paths);
     return true;
 }
 
@@ -211,10 +147,9 @@ void ControlForm::closeEvent(QCloseEvent* event)
 {
     if (auto* show = findChild<SlideForm*>())
         show->close();
-    moveFocusTo(*ui.FileFinder);
-    if (OfferSave(true) == SaveResult::Failed) {
-        // What could not be saved is not thrown away by closing. Whoever wants that answers No.
-        MarkChanged();
+    m_boxes.moveFocusTo(*ui.FileFinder);
+    // What could not be saved is not thrown away by closing. Whoever wants that answers No.
+    if (m_editor.OfferSave(true) == ShownFile::SaveResult::Failed) {
         event->ignore();
         return;
     }
@@ -244,99 +179,9 @@ void ControlForm::dropEvent(QDropEvent* event)
     event->accept();
     // Later, as a question now would keep the program waiting that the files came from.
     QTimer::singleShot(0, this, [this, paths] {
-        moveFocusTo(*ui.FileFinder);
-        findFilesAmong(paths);
+        m_boxes.moveFocusTo(*ui.FileFinder);
+        m_search.findFilesAmong(paths);
     });
-}
-
-bool ControlForm::eventFilter(QObject* watched, QEvent* event)
-{
-    switch (event->type()) {
-    case QEvent::FocusOut:
-        if (isLeaving(*static_cast<QFocusEvent*>(event)))
-            leaveBox(watched);
-        break;
-    case QEvent::KeyPress:
-        if (watched == ui.KeywordList && isEnter(*static_cast<QKeyEvent*>(event))) {
-            insertKeyword();
-            return true;
-        }
-        break;
-    case QEvent::DragEnter:
-        // Files dropped on a box are for the window.
-        if (static_cast<QDragEnterEvent*>(event)->mimeData()->hasUrls()) {
-            event->ignore();
-            return true;
-        }
-        break;
-    default:
-        break;
-    }
-    return QMainWindow::eventFilter(watched, event);
-}
-
-/// Leaves the box being edited for `control`.
-void ControlForm::moveFocusTo(QWidget& control)
-{
-    const QWidget* left = focusWidget();
-    control.setFocus();
-    // In a window that is not in front, the focus moves without an event that says so.
-    if (!isActiveWindow() && left != focusWidget())
-        leaveBox(left);
-}
-
-int ControlForm::selectedFile() const
-{
-    const QModelIndexList selected = ui.FilesFoundList->selectionModel()->selectedIndexes();
-    return selected.isEmpty() ? -1 : selected.first().row();
-}
-
-/// Selects the file in `row`, also when it is selected already, and opens it.
-void ControlForm::selectFile(int row)
-{
-    {
-        const QScopedValueRollback updating(ControlsUpdating, true);
-        ui.FilesFoundList->setCurrentIndex(m_found.index(row));
-    }
-    OpenSelectedFile();
-}
-
-/// Selects the file shown again, where the selection was taken back: there is always one while a file is shown.
-void ControlForm::selectShownFile()
-{
-    const QScopedValueRollback updating(ControlsUpdating, true);
-    const QModelIndex shown = ui.FilesFoundList->currentIndex();
-    if (selectedFile() < 0 && shown.isValid())
-        ui.FilesFoundList->selectionModel()->select(shown, QItemSelectionModel::ClearAndSelect);
-}
-
-void ControlForm::pickFile(QWidget& button, std::optional<int> (FoundFiles::*neighbour)(int) const)
-{
-    moveFocusTo(button);
-    selectShownFile();
-    const SaveResult saved = OfferSave(false);
-    if (saved == SaveResult::Failed)
-        return;
-    if (const auto row = (m_found.*neighbour)(selectedFile()))
-        selectFile(*row);
-    else if (saved == SaveResult::Saved)
-        OpenSelectedFile();
-}
-
-void ControlForm::showSlideShowOptions()
-{
-    auto* form = findChild<SlideShowOptionForm*>();
-    if (form == nullptr)
-        form = new SlideShowOptionForm(
-            {m_found, *ui.FilesFoundList->selectionModel(), m_surroundings.dialogs, m_surroundings.settings}, this);
-    form->show();
-    form->activateWindow();
-}
-
-void ControlForm::runVerb(Verb verb)
-{
-    if (!CurrentFileName.empty())
-        ShellVerb(m_surroundings.desktop, CurrentFileName, *this, verb);
 }
 
 } // namespace ovisto

@@ -7,7 +7,6 @@
 #include "common/text/Unicode.h"
 #include "document/DataType.h"
 #include "document/Directories.h"
-#include "document/NodePath.h"
 #include "document/NodePaths.h"
 #include "ui/ControlForm/OsProperties.h"
 
@@ -17,23 +16,15 @@
 
 namespace ovisto {
 
-ProtectionLevel protectionLevel(const DictionaryEntry& entry)
-{
-    ProtectionLevel level = 0;
-    ErrorTrap trap;
-    trap.run([&] { level = static_cast<ProtectionLevel>(attributeToLong(AttributeGet(entry.node(), "prot"))); });
-    return level;
-}
-
-std::optional<QString> dataTypeCaption(int dataType, ProtectionLevel level)
+std::optional<QString> dataTypeCaption(int dataType, Protection protection)
 {
     const std::string name(dataTypeName(dataType));
     if (name.empty())
         return std::nullopt;
     const QString caption = QCoreApplication::translate("DataType", name.c_str());
-    if (level == 2)
+    if (protection == Protection::Required)
         return caption + QCoreApplication::translate("DataType", " Required");
-    if (level == 1)
+    if (protection == Protection::Protected)
         return caption + QCoreApplication::translate("DataType", " Protected");
     return caption;
 }

@@ -12,22 +12,17 @@
 
 namespace ovisto {
 
-/// How far a node is protected, as its dictionary entry says: 0 not at all, 1 its value may not be changed, 2 and above
-/// it may not be deleted either.
-using ProtectionLevel = std::uint8_t;
-
-ProtectionLevel protectionLevel(const DictionaryEntry& entry);
-constexpr bool isLocked(ProtectionLevel level)
+constexpr bool isLocked(Protection protection)
 {
-    return level > 0;
+    return protection != Protection::Free;
 }
-constexpr bool isDeletable(ProtectionLevel level)
+constexpr bool isDeletable(Protection protection)
 {
-    return level < 2;
+    return protection != Protection::Required;
 }
 
 /// The name of the data type for people, and how the value is protected. None for a type without a name.
-std::optional<QString> dataTypeCaption(int dataType, ProtectionLevel level);
+std::optional<QString> dataTypeCaption(int dataType, Protection protection);
 
 /// The value of a node as the box shows it at first: the lines of a text end with CR LF.
 std::string valueText(const ConstXmlNode& node, int dataType);

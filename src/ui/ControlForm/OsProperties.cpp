@@ -1,5 +1,6 @@
 #include "ui/ControlForm/OsProperties.h"
 
+#include "document/NodeChange.h"
 #include "document/NodeCreation.h"
 #include "document/NodePaths.h"
 
@@ -73,7 +74,8 @@ bool OsProperties::leave(OsProperty property, const std::string& boxText, XmlDoc
     }
     if ((row.lines ? withLf(boxText) : boxText) == node.text())
         return false;
-    node.setText(boxText);
+    if (node)
+        applyChange(JpegDoc, {.action = NodeAction::Set, .value = boxText, .node = node}, reporter);
     return true;
 }
 

@@ -1,13 +1,13 @@
 #include "ui/NodeAddForm/NodeAddForm.h"
 
-#include "document/NodePath.h"
 #include "ui/App/Text.h"
+
+#include <utility>
 
 namespace ovisto {
 
-NodeAddForm::NodeAddForm(XmlDocument& document, const TagDictionary& Merovel, bool technical, ErrorReporter& reporter,
-                         QWidget* owner)
-    : QDialog(owner), JpegDoc(document), m_reporter(reporter), m_entries(pickableEntries(Merovel, technical))
+NodeAddForm::NodeAddForm(const TagDictionary& Merovel, bool technical, Add add, QWidget* owner)
+    : QDialog(owner), m_add(std::move(add)), m_entries(Merovel.entries(technical))
 {
     ui.setupUi(this);
     for (const DictionaryEntry& entry : m_entries)
@@ -23,7 +23,7 @@ NodeAddForm::NodeAddForm(XmlDocument& document, const TagDictionary& Merovel, bo
 void NodeAddForm::addNode()
 {
     const int row = ui.NodeList->row(ui.NodeList->selectedItems().first());
-    NodeAddedXpath = addEntry(JpegDoc, m_entries[static_cast<std::size_t>(row)], m_reporter);
+    NodeAddedXpath = m_add(m_entries[static_cast<std::size_t>(row)]);
     accept();
 }
 

@@ -1,22 +1,26 @@
 #pragma once
 
-#include "ui/NodeAddForm/NodePicker.h"
+#include "document/TagDictionary.h"
 #include "ui_NodeAddForm.h"
 
 #include <QDialog>
 
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace ovisto {
 
-/// Lets an entry of the tag dictionary be picked, and adds its node to a document.
+/// Lets an entry of the tag dictionary be picked whose node is added to a document.
 class NodeAddForm : public QDialog {
     Q_OBJECT
 
 public:
-    NodeAddForm(XmlDocument& document, const TagDictionary& Merovel, bool technical, ErrorReporter& reporter,
-                QWidget* owner);
+    /// Adds the node of an entry to the document. Returns its path; nothing when it was there already.
+    using Add = std::function<std::string(const DictionaryEntry& entry)>;
+
+    /// With `technical`, technical nodes are offered too. The dictionary must outlive the form.
+    NodeAddForm(const TagDictionary& Merovel, bool technical, Add add, QWidget* owner);
 
     /// The path of the node that was added; empty when none was.
     std::string NodeAddedXpath;
@@ -25,8 +29,7 @@ private:
     void addNode();
 
     Ui::NodeAddForm ui;
-    XmlDocument& JpegDoc;
-    ErrorReporter& m_reporter;
+    Add m_add;
     std::vector<DictionaryEntry> m_entries; ///< those in NodeList, row by row
 };
 

@@ -36,4 +36,14 @@ private:
     Ui::ProgressForm ui;
 };
 
+/// Runs `loop`, which takes its time with many files, and shows how far it is. Nothing else can be done in `window`
+/// meanwhile.
+template <class Loop> void runWatched(QWidget& window, Loop loop)
+{
+    ProgressForm progress(&window);
+    window.setCursor(Qt::WaitCursor);
+    loop(progress);
+    window.unsetCursor();
+}
+
 } // namespace ovisto

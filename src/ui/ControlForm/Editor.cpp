@@ -1,0 +1,198 @@
+#include "ui/ControlForm/Editor.h"
+
+#include "common/text/PathText.h"
+#include "ui/App/Text.h"
+
+#include <QScopedValueRollback>
+
+namespace ovisto {
+
+using SaveResult = ShownFile::SaveResult;
+
+Editor::Editor(const WindowParts& parts)
+    : m_parts(parts), ui(parts.ui), ControlsUpdating(parts.ControlsUpdating),
+      m_file(parts.Merovel, parts.reporter, *this), m_list(parts, m_file), m_osPane(parts, m_file),
+      m_properties(parts, m_file)
+{
+    connect(&m_list, &FileListPane::selected, this, &Editor::OpenSelectedFile);
+    connect(&m_properties, &PropertyPane::nodeAdded, this, &Editor::nodeAdded);
+    connect(ui.FileSaver, &QPushButton::clicked, this, &Editor::saveAndReopen);
+    connect(ui.FileReset, &QPushButton::clicked, this, &Editor::reset);
+    connect(ui.Image1, &PictureBox::clicked, this,
+            [this](Qt::MouseButton button) { runVerb(button == Qt::LeftButton ? Verb::Open : Verb::Properties); });
+    const int markSize = ui.SaveWarning->style()->pixelMetric(QStyle::PM_SmallIconSize);
+    ui.SaveWarning->setPixmap(ui.SaveWarning->style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(markSize));
+    ui.SaveWarning->hide();
+    clearShownFile();
+}
+
+KeepOptions Editor::keepOptions() const
+{
+    return {.pCodifyMakerNote = ui.menuDecodeMaker->isChecked(),
+            .pCodifyThumb = ui.menuDecodeThumb->isChecked(),
+            .pCodifyExif1 = ui.menuDecodeExif1->isChecked()};
+}
+
+void Editor::OpenSelectedFile()
+{
+    m_list.settle();
+    if (!leaveShownFile())
+        return;
+    const auto path = m_list.existingSelection();
+    if (!path)
+        return;
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    m_parts.window.setWindowTitle(pathText(splitPath(*path).name) + QStringLiteral("[*]"));
+    m_file.open(*path, keepOptions());
+    RebuildTree();
+    showPicture();
+    enableEditing(true);
+    ui.NodeTree->setFocus();
+}
+
+bool Editor::leaveShownFile()
+{
+    if (OfferSave(true) == SaveResult::Failed) {
+        m_list.select(m_file.path());
+        return false;
+    }
+    clearShownFile();
+    return true;
+}
+
+bool Editor::settleChanges()
+{
+    const SaveResult saved = OfferSave(true);
+    if (saved == SaveResult::Saved)
+        OpenSelectedFile();
+    else if (saved == SaveResult::Failed)
+        m_list.select(m_file.path());
+    return saved != SaveResult::Failed;
+}
+
+/// Saves the file shown if it was changed; with `ask`, if the person wants that.
+SaveResult Editor::OfferSave(bool ask)
+{
+    m_parts.boxes.leaveFocused();
+    m_osPane.keepTexts();
+    return m_file.OfferSave(ask);
+}
+
+void Editor::step(std::optional<int> (FoundFiles::*neighbour)(int) const)
+{
+    m_list.selectShownFile();
+    const SaveResult saved = OfferSave(false);
+    if (saved == SaveResult::Failed)
+        return;
+    if (const auto row = (m_list.files().*neighbour)(m_list.selectedRow()))
+        m_list.open(*row);
+    else if (saved == SaveResult::Saved)
+        OpenSelectedFile();
+}
+
+void Editor::saveAndReopen()
+{
+    m_parts.boxes.leaveFocused();
+    m_list.selectShownFile();
+    if (m_file.SaveDocument() == SaveResult::Saved)
+        OpenSelectedFile();
+}
+
+void Editor::saveXml()
+{
+    if (settleChanges())
+        m_file.saveXml();
+}
+
+void Editor::reset()
+{
+    m_parts.boxes.leaveFocused();
+    m_list.selectShownFile();
+    m_file.clearChanged();
+    OpenSelectedFile();
+    if (m_file.isChanged())
+        m_parts.surroundings.dialogs.show(tr("All previous edits have been ignored, except for\r\n"
+                                             "nodes removed according to the Options menu."));
+}
+
+void Editor::runVerb(Verb verb)
+{
+    if (m_file.isOpen())
+        ShellVerb(m_parts.surroundings.desktop, m_file.path(), m_parts.window, verb);
+}
+
+bool Editor::wantsToSave(const std::string& path)
+{
+    return m_parts.surroundings.dialogs.ask(tr("Save Changes to file %1?").arg(pathText(path)));
+}
+
+void Editor::showChanged(bool changed)
+{
+    ui.SaveWarning->setVisible(changed);
+    m_parts.window.setWindowModified(changed);
+}
+
+void Editor::showBusy(bool busy)
+{
+    if (busy)
+        m_parts.window.setCursor(Qt::WaitCursor);
+    else
+        m_parts.window.unsetCursor();
+}
+
+void Editor::RebuildTree()
+{
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    clearPanes();
+    std::vector<Leaf> leaves;
+    ErrorTrap trap;
+    trap.run([&] { leaves = m_file.loadTree(ui.menuShowTechnical->isChecked()); });
+    m_osPane.showTexts();
+    if (trap.pending())
+        return ErrorReport(m_parts.reporter, "Internal JpegXml document error", trap.take());
+    m_properties.showTree(leaves);
+}
+
+void Editor::nodeAdded()
+{
+    RebuildTree();
+    showPicture();
+}
+
+void Editor::showPicture()
+{
+    ui.Image1->showFile(m_file.path(), m_parts.reporter);
+}
+
+/// No file is shown from now on, and none can be edited.
+void Editor::clearShownFile()
+{
+    clearPanes();
+    m_file.close();
+    m_parts.window.setWindowTitle(QStringLiteral("Ovisto[*]"));
+    enableEditing(false);
+}
+
+void Editor::clearPanes()
+{
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    m_properties.clear();
+    m_osPane.clear();
+    ui.Image1->clear();
+}
+
+void Editor::enableEditing(bool enabled)
+{
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    QWidget* const controls[] = {ui.FileTitle,      ui.FileSubject, ui.FileComments, ui.FileKeywords,
+                                 ui.FilePropPaster, ui.FileSaver,   ui.FileReset,    ui.NodeTree,
+                                 ui.NodeText,       ui.NodeHelp,    ui.ViewHexOpt,   ui.NodeAdder};
+    for (QWidget* control : controls)
+        control->setEnabled(enabled);
+    QAction* const items[] = {ui.menuFileSave, ui.menuFileSaveXML, ui.menuFileReset, ui.menuImageOpen,
+                              ui.menuImageProps};
+    for (QAction* item : items)
+        item->setEnabled(enabled);
+}
+
+} // namespace ovisto

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "ui/App/Desktop.h"
+#include "ui/ControlForm/FileListPane.h"
+#include "ui/ControlForm/OsPane.h"
+#include "ui/ControlForm/PropertyPane.h"
+#include "ui/ControlForm/ShownFile.h"
+#include "ui/ControlForm/WindowParts.h"
+
+#include <QObject>
+
+#include <optional>
+
+namespace ovisto {
+
+/// Opens the file selected in the list in the other panes, and sees to it that no change in them is lost unasked.
+class Editor : public QObject, private ShownFile::Window {
+    Q_OBJECT
+
+public:
+    explicit Editor(const WindowParts& parts);
+
+    FileListPane& list() { return m_list; }
+    OsPane& osPane() { return m_osPane; }
+    KeepOptions keepOptions() const;
+
+    void OpenSelectedFile();
+    /// Shows no file any more, its changes saved if the person wants that. Returns false when they could not be saved:
+    /// the file is still shown then.
+    bool leaveShownFile();
+    /// Offers to save the file shown, which stays. Returns false when its changes could not be saved.
+    bool settleChanges();
+    ShownFile::SaveResult OfferSave(bool ask);
+
+    // What buttons and menu items do with the file shown.
+
+    /// Saves it without asking and opens its neighbour in the list.
+    void step(std::optional<int> (FoundFiles::*neighbour)(int) const);
+    /// Saves it, changed or not, and opens it again, as its image data may have moved.
+    void saveAndReopen();
+    void saveXml();
+    /// Opens it anew, without its changes.
+    void reset();
+    void runVerb(Verb verb);
+
+private:
+    bool wantsToSave(const std::string& path) override;
+    void showChanged(bool changed) override;
+    void showBusy(bool busy) override;
+
+    void RebuildTree();
+    void nodeAdded();
+    void showPicture();
+    void clearShownFile();
+    void clearPanes();
+    void enableEditing(bool enabled);
+
+    const WindowParts& m_parts;
+    Ui::ControlForm& ui;
+    bool& ControlsUpdating;
+    ShownFile m_file;
+    FileListPane m_list;
+    OsPane m_osPane;
+    PropertyPane m_properties;
+};
+
+} // namespace ovisto

@@ -1,0 +1,94 @@
+#include "ui/ControlForm/FileSearch.h"
+
+#include "collection/FolderScan.h"
+#include "ui/App/Text.h"
+#include "ui/BrowserCapForm/BrowserCapForm.h"
+#include "ui/ControlForm/FailureMessages.h"
+#include "ui/ControlForm/NamedFiles.h"
+#include "ui/ControlForm/ScanReports.h"
+#include "ui/ProgressForm/ProgressForm.h"
+
+#include <QCoreApplication>
+
+#include <optional>
+#include <utility>
+
+namespace ovisto {
+
+namespace {
+
+QString text(const char* source)
+{
+    return QCoreApplication::translate("FileSearch", source);
+}
+
+} // namespace
+
+bool FileSearch::findFiles()
+{
+    {
+        BrowserCapForm chooser(settings, &m_parts.window);
+        chooser.exec();
+        if (chooser.Cancelled())
+            return false;
+        settings = chooser.settings();
+    }
+    m_parts.window.show();
+    m_parts.window.activateWindow();
+    scanFolder();
+    return true;
+}
+
+void FileSearch::scanFolder()
+{
+    if (!m_editor.leaveShownFile())
+        return;
+    std::optional<FolderScan> scan;
+    ErrorTrap trap;
+    trap.run([&] { scan.emplace(scanOptions(settings)); });
+    if (trap.pending())
+        return m_parts.surroundings.dialogs.show(toQString(Message::FolderNotFound));
+    std::vector<std::string> found;
+    clearList();
+    ScanReports reports(m_parts.reporter);
+    runWatched(m_parts.window, [&](ProgressForm& progress) {
+        progress.show();
+        scan->run(found, progress, reports);
+    });
+    listFiles(std::move(found), reports);
+}
+
+void FileSearch::findFilesAmong(const std::vector<std::string>& names)
+{
+    if (!m_editor.leaveShownFile())
+        return;
+    ScanOptions options = scanOptions(settings);
+    options.content = {};
+    std::vector<std::string> found;
+    clearList();
+    ScanReports reports(m_parts.reporter);
+    runWatched(m_parts.window, [&](ProgressForm& progress) { found = namedFiles(names, options, progress, reports); });
+    listFiles(std::move(found), reports);
+}
+
+/// Takes all files out of the list, unless those to be found are to be added to them.
+void FileSearch::clearList()
+{
+    if (!settings.ListAppend)
+        m_editor.list().clear();
+}
+
+void FileSearch::listFiles(std::vector<std::string> found, const ScanReports& reports)
+{
+    if (!reports.notReadToo().empty())
+        m_parts.surroundings.dialogs.show(notReadMessage(reports.notReadToo()));
+    FileListPane& list = m_editor.list();
+    list.append(std::move(found));
+    if (list.files().rowCount() > 0)
+        list.open(0); // which leaves none when none of them is there any more
+    if (list.files().rowCount() == 0)
+        m_parts.surroundings.dialogs.show(toQString(Message::NoFilesFound));
+    m_parts.ui.FilesFoundList->setToolTip(toQString(Phrase(Message::FilesFound, std::to_string(list.files().paths().size()))));
+}
+
+} // namespace ovisto

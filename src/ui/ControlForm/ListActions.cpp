@@ -1,0 +1,82 @@
+#include "ui/ControlForm/ListActions.h"
+
+#include "collection/BatchAction.h"
+#include "collection/Report.h"
+#include "ui/App/Text.h"
+#include "ui/BatchForm/BatchForm.h"
+#include "ui/BatchForm/BatchWatch.h"
+#include "ui/ControlForm/FailureMessages.h"
+#include "ui/ProgressForm/ProgressForm.h"
+#include "ui/SlideShowOptionForm/SlideShowOptionForm.h"
+
+namespace ovisto {
+
+void ListActions::showBatch()
+{
+    m_parts.boxes.moveFocusTo(*m_parts.ui.BatchShower);
+    if (!m_editor.leaveShownFile())
+        return;
+    if (m_batch == nullptr || !m_batch->isVisible()) { // one that was closed may not be gone yet
+        m_batch = new BatchForm(m_parts.Merovel, m_parts.ui.menuShowTechnical->isChecked(),
+                                m_parts.surroundings.dialogs, &m_parts.window);
+        m_batch->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_batch, &BatchForm::started, this, &ListActions::runBatch);
+    }
+    m_batch->show();
+    m_batch->activateWindow();
+}
+
+/// Makes a change to all files listed.
+void ListActions::runBatch(const NodeChange& change)
+{
+    // A file that was opened since must not be saved over what the batch makes of it.
+    m_parts.boxes.moveFocusTo(*m_parts.ui.BatchShower);
+    if (!m_editor.leaveShownFile())
+        return;
+    std::vector<FileFailure> notChanged;
+    runWatched(m_parts.window, [&](ProgressForm& progress) {
+        progress.show();
+        BatchWatch watch(progress, m_parts.reporter);
+        BatchAction(m_editor.list().files().paths(), change).run(watch, watch);
+        notChanged = watch.failedToo();
+    });
+    if (!notChanged.empty())
+        m_parts.surroundings.dialogs.show(notChangedMessage(notChanged));
+    m_batch->close();
+    m_editor.OpenSelectedFile();
+}
+
+void ListActions::generateReport()
+{
+    m_parts.boxes.moveFocusTo(*m_parts.ui.FileFinder);
+    if (!m_editor.settleChanges())
+        return;
+    const auto& [dialogs, desktop, settings, folders] = m_parts.surroundings;
+    const auto styleSheet =
+        dialogs.chooseFile(tr("Open Report"), pathText(folders.data), tr("XSL (*.xsl *.XSL);;All Files (*.*) (*)"));
+    if (!styleSheet)
+        return;
+    const ReportOptions options{
+        .styleSheet = toPath(*styleSheet), .folder = folders.writable, .keep = m_editor.keepOptions()};
+    ReportResult report;
+    runWatched(m_parts.window, [&](ProgressForm& progress) {
+        report = makeReport(m_editor.list().files().paths(), options, progress, m_parts.reporter);
+    });
+    if (!report.leftOut.empty())
+        dialogs.show(leftOutMessage(report.leftOut));
+    if (!report.path.empty() && !ShellVerb(desktop, report.path, m_parts.window, Verb::Open))
+        ErrorReport(m_parts.reporter, "Open " + report.path, {kInvalidCall, "No program was found that opens it"});
+}
+
+void ListActions::showSlideShowOptions()
+{
+    auto* form = m_parts.window.findChild<SlideShowOptionForm*>();
+    if (form == nullptr)
+        form = new SlideShowOptionForm({m_editor.list().files(), *m_parts.ui.FilesFoundList->selectionModel(),
+                                        m_parts.surroundings.dialogs, m_parts.surroundings.settings},
+                                       &m_parts.window);
+    form->show();
+    form->activateWindow();
+}
+
+} // namespace ovisto

@@ -1,0 +1,274 @@
+#include "ui/ControlForm/PropertyPane.h"
+
+#include "common/system/File.h"
+#include "document/DataType.h"
+#include "document/NodePath.h"
+#include "document/PropertyTree.h"
+#include "ui/App/PictureFit.h"
+#include "ui/App/Text.h"
+#include "ui/ControlForm/NodeInspection.h"
+#include "ui/NodeAddForm/NodeAddForm.h"
+
+#include <QFontDatabase>
+#include <QScopedValueRollback>
+
+#include <filesystem>
+#include <system_error>
+#include <unordered_map>
+#include <utility>
+
+namespace ovisto {
+
+namespace {
+
+constexpr int kKeyRole = Qt::UserRole;      // the item's key, which is the node's "leafIndex"
+constexpr int kPathRole = Qt::UserRole + 1; // the node's path
+
+constexpr QSize kLargestThumbnail(1024, 1024); // cameras make them 160 x 120
+
+std::string textOf(const QTreeWidgetItem& item, int role)
+{
+    return item.data(0, role).toString().toStdString();
+}
+
+} // namespace
+
+PropertyPane::PropertyPane(const WindowParts& parts, ShownFile& file)
+    : m_parts(parts), ui(parts.ui), ControlsUpdating(parts.ControlsUpdating), m_file(file)
+{
+    // Not the current item, which is there as soon as the tree has the focus.
+    connect(ui.NodeTree, &QTreeWidget::itemSelectionChanged, this, &PropertyPane::selectionChanged);
+    connect(ui.NodeTree, &QTreeWidget::itemPressed, this, &PropertyPane::itemPressed);
+    connect(ui.ViewHexOpt, &QCheckBox::toggled, this, &PropertyPane::setValueFont);
+    connect(ui.ViewHexOpt, &QCheckBox::toggled, this, [this] {
+        if (!ControlsUpdating)
+            ShowNodeValue();
+    });
+    connect(ui.NodeText, &TextBox::textChanged, this, &PropertyPane::nodeTextChanged);
+    connect(ui.NodeAdder, &QPushButton::clicked, this, &PropertyPane::addNode);
+    connect(ui.NodeDeleter, &QPushButton::clicked, this, &PropertyPane::deleteNode);
+    parts.boxes.add(*ui.NodeText, [this] { leaveNodeText(); });
+}
+
+void PropertyPane::clear()
+{
+    CurrentNode = {};
+    CurrentProt = Protection::Free;
+    ui.TreeStack->setCurrentWidget(ui.TreeHint);
+    ui.NodeTree->clear();
+    ui.Image2->clear();
+    ui.NodeID->clear();
+    ui.NodeDataType->clear();
+    ui.NodeHelp->clear();
+    ui.NodeText->putText({});
+    ui.NodeText->setReadOnly(false);
+    ui.ValueStack->setCurrentWidget(ui.NodeText);
+    ui.ViewHexOpt->setChecked(false);
+    ui.NodeDeleter->setEnabled(false);
+}
+
+void PropertyPane::showTree(const std::vector<Leaf>& leaves)
+{
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    std::unordered_map<std::string, QTreeWidgetItem*> items;
+    QTreeWidgetItem* ReselectItem = nullptr;
+    for (const Leaf& leaf : leaves) {
+        const auto parent = items.find(leaf.parentKey);
+        QTreeWidgetItem* item = LoadLeaf(leaf, parent != items.end() ? parent->second : nullptr);
+        items.emplace(leaf.key, item);
+        if (leaf.path == CurrentXPath)
+            ReselectItem = item;
+    }
+    ui.NodeTree->expandAll();
+    ui.NodeTree->scrollToTop();
+    ui.TreeStack->setCurrentWidget(ui.NodeTree);
+    if (ReselectItem != nullptr) {
+        ui.NodeTree->setCurrentItem(ReselectItem);
+        nodeClicked(ReselectItem);
+    }
+}
+
+/// Adds the item for `leaf` to the tree, as the last one below `parent` or as the top one.
+QTreeWidgetItem* PropertyPane::LoadLeaf(const Leaf& leaf, QTreeWidgetItem* parent)
+{
+    auto* item = new QTreeWidgetItem(QStringList(toQString(leaf.label)));
+    item->setData(0, kKeyRole, toQString(leaf.key));
+    item->setData(0, kPathRole, toQString(leaf.path));
+    if (parent != nullptr)
+        parent->addChild(item);
+    else
+        ui.NodeTree->addTopLevelItem(item);
+    return item;
+}
+
+std::string PropertyPane::LeafXPathForItem(const QTreeWidgetItem& item) const
+{
+    return leafXPath(textOf(item, kKeyRole));
+}
+
+XmlNode PropertyPane::DocNodeForItem(const QTreeWidgetItem& item)
+{
+    return m_file.node(LeafXPathForItem(item));
+}
+
+QTreeWidgetItem* PropertyPane::selectedItem() const
+{
+    const QList<QTreeWidgetItem*> selected = ui.NodeTree->selectedItems();
+    return selected.isEmpty() ? nullptr : selected.first();
+}
+
+/// Removes the item with `key`, and those below it, from the tree.
+void PropertyPane::removeItem(const std::string& key)
+{
+    for (QTreeWidgetItemIterator item(ui.NodeTree); *item != nullptr; ++item) {
+        if (textOf(**item, kKeyRole) == key) {
+            delete *item;
+            return;
+        }
+    }
+}
+
+void PropertyPane::selectionChanged()
+{
+    if (ControlsUpdating)
+        return;
+    m_selectedByClick = true;
+    nodeClicked(selectedItem());
+}
+
+/// A click on the item that was selected already shows its node anew.
+void PropertyPane::itemPressed(const QTreeWidgetItem* item)
+{
+    if (!std::exchange(m_selectedByClick, false))
+        nodeClicked(item);
+}
+
+void PropertyPane::nodeClicked(const QTreeWidgetItem* item)
+{
+    if (item == nullptr)
+        return;
+    CurrentXPath = textOf(*item, kPathRole);
+    CurrentNode = DocNodeForItem(*item);
+    if (!CurrentNode) {
+        m_parts.surroundings.dialogs.show(tr("Unexpected error - Node '%1' not found. Please reload the file.")
+                                              .arg(item->data(0, kKeyRole).toString()));
+        return;
+    }
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    showEntry(m_parts.Merovel.entry(CurrentXPath));
+    ui.NodeID->setText(toQString(AttributeGet(CurrentNode, "id")));
+    ui.ValueStack->setCurrentWidget(ui.NodeText);
+    ui.Image2->clear();
+    if (isThumbnail(CurrentNode))
+        loadThumbnail();
+    const int dataType = shownDataType(CurrentNode);
+    ui.ViewHexOpt->setChecked(dataType == kByte);
+    ui.NodeText->putText(toQString(valueText(CurrentNode, dataType)));
+    if (const auto caption = dataTypeCaption(dataType, CurrentProt))
+        ui.NodeDataType->setText(*caption);
+}
+
+/// Shows what the dictionary says of the node.
+void PropertyPane::showEntry(const DictionaryEntry& entry)
+{
+    CurrentProt = entry.protection();
+    ui.NodeDeleter->setEnabled(isDeletable(CurrentProt));
+    ui.NodeText->setReadOnly(isLocked(CurrentProt));
+    ui.NodeHelp->setPlainText(toQString(entry.help()));
+}
+
+/// Shows the value as it is in the document, or, for reading, the characters or the picture that its digits stand for.
+void PropertyPane::ShowNodeValue()
+{
+    const QScopedValueRollback updating(ControlsUpdating, true);
+    if (ui.ViewHexOpt->isChecked()) {
+        ui.NodeText->putText(toQString(CurrentNode.text()));
+        ui.NodeText->setReadOnly(isLocked(CurrentProt));
+        ui.ValueStack->setCurrentWidget(ui.NodeText);
+    } else if (isThumbnail(CurrentNode)) {
+        ui.ValueStack->setCurrentWidget(ui.Image2);
+    } else {
+        ui.NodeText->putText(toQString(translatedText(CurrentNode.text())));
+        ui.NodeText->setReadOnly(true);
+    }
+}
+
+/// Gives the digits of a hexadecimal text the same width.
+void PropertyPane::setValueFont(bool hexadecimal)
+{
+    ui.NodeText->setFont(hexadecimal ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : m_parts.window.font());
+}
+
+/// Reads the thumbnail in CurrentNode, by way of a file that is there for the moment only.
+void PropertyPane::loadThumbnail()
+{
+    const std::string digits = CurrentNode.text();
+    if (digits.empty())
+        return;
+    const std::string& folder = m_parts.surroundings.folders.writable;
+    const std::string path = folder + "thumbnail.jpg";
+    ErrorTrap trap;
+    trap.run([&] {
+        createFolders(folder);
+        OutputFile file(path);
+        file.write(bytesOf(digits));
+        file.flush();
+    });
+    trap.run([&] {
+        const QImage picture = fittedPicture(path, kLargestThumbnail);
+        ui.Image2->showPicture(turned(picture, thumbnailOrientation(m_file.document())));
+    });
+    if (trap.pending())
+        ErrorReport(m_parts.reporter, "Invalid thumbnail", trap.take());
+    std::error_code notThere;
+    std::filesystem::remove(path, notThere);
+}
+
+bool PropertyPane::canEdit() const
+{
+    return !ControlsUpdating && ui.NodeText->isEnabled() && !ui.NodeText->isReadOnly();
+}
+
+void PropertyPane::nodeTextChanged()
+{
+    if (canEdit() && !CurrentNode)
+        m_parts.surroundings.dialogs.show(tr("Click on a node in the property NodeTree to select a value first."));
+}
+
+/// A text of several lines is shown with other line breaks than the node has, so leaving it changes the node even when
+/// nothing was typed.
+void PropertyPane::leaveNodeText()
+{
+    if (canEdit() && CurrentNode)
+        m_file.setText(CurrentNode, ui.NodeText->exactText().toStdString());
+}
+
+void PropertyPane::addNode()
+{
+    m_parts.boxes.leaveFocused();
+    NodeAddForm form(
+        m_parts.Merovel, ui.menuShowTechnical->isChecked(),
+        [this](const DictionaryEntry& entry) { return m_file.addNode(entry); }, &m_parts.window);
+    form.exec();
+    if (!form.NodeAddedXpath.empty())
+        Q_EMIT nodeAdded();
+}
+
+void PropertyPane::deleteNode()
+{
+    m_parts.boxes.leaveFocused();
+    const QTreeWidgetItem* item = selectedItem();
+    if (!CurrentNode || item == nullptr)
+        return;
+    {
+        const QScopedValueRollback updating(ControlsUpdating, true);
+        const std::string companionKey = m_file.deleteNode(CurrentNode);
+        delete item;
+        if (!companionKey.empty())
+            removeItem(companionKey);
+        ui.NodeTree->setCurrentItem(ui.NodeTree->currentItem());
+    }
+    nodeClicked(selectedItem());
+}
+
+} // namespace ovisto

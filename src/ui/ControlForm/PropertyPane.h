@@ -1,0 +1,59 @@
+#pragma once
+
+#include "ui/ControlForm/ShownFile.h"
+#include "ui/ControlForm/WindowParts.h"
+
+#include <QObject>
+
+#include <string>
+#include <vector>
+
+namespace ovisto {
+
+/// The properties of the file shown: their tree, NodeTree, and the node selected in it, NodeFrame.
+class PropertyPane : public QObject {
+    Q_OBJECT
+
+public:
+    PropertyPane(const WindowParts& parts, ShownFile& file);
+
+    void clear();
+    /// Fills the tree, which is empty. The node that was selected last, maybe in another file, is selected again.
+    void showTree(const std::vector<Leaf>& leaves);
+
+Q_SIGNALS:
+    /// A node was added: the tree has to be shown anew.
+    void nodeAdded();
+
+private:
+    QTreeWidgetItem* LoadLeaf(const Leaf& leaf, QTreeWidgetItem* parent);
+    std::string LeafXPathForItem(const QTreeWidgetItem& item) const;
+    XmlNode DocNodeForItem(const QTreeWidgetItem& item);
+    QTreeWidgetItem* selectedItem() const;
+    void removeItem(const std::string& key);
+
+    void selectionChanged();
+    void itemPressed(const QTreeWidgetItem* item);
+    void nodeClicked(const QTreeWidgetItem* item);
+    void showEntry(const DictionaryEntry& entry);
+    void ShowNodeValue();
+    void setValueFont(bool hexadecimal);
+    void loadThumbnail();
+
+    bool canEdit() const;
+    void nodeTextChanged();
+    void leaveNodeText();
+    void addNode();
+    void deleteNode();
+
+    const WindowParts& m_parts;
+    Ui::ControlForm& ui;
+    bool& ControlsUpdating;
+    ShownFile& m_file;
+    XmlNode CurrentNode; ///< of the tree item selected
+    Protection CurrentProt = Protection::Free;
+    std::string CurrentXPath;       ///< of the item clicked last, maybe in another file
+    bool m_selectedByClick = false; ///< the press to come has selected the item, and its node is shown
+};
+
+} // namespace ovisto
