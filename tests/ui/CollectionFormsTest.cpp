@@ -11,12 +11,12 @@
 
 namespace ovisto::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr const char* kDescription = "/JPEG/Exif[@id='FFE1']/IFD[@id='010E']";
-constexpr const char* kThumbnailIfd = "/JPEG/Exif[@id='FFE1']/IFD1";
 const QString kNothingFound =
-    QStringLiteral("No files found with search criteria specified.  Click 'Find Files' button to try again.");
+    u"No files found with search criteria specified.  Click 'Find Files' button to try again."_s;
 
 void press(const QWidget& form, const char* button)
 {
@@ -31,11 +31,12 @@ void chooseFolder(const ScanSettings& scan, const char* button = "FolderSelector
         QTest::keyClicks(&controlOf<QLineEdit>(form, "FolderPath"), scan.FolderNameSelected);
         controlOf<QLineEdit>(form, "FilePattern").setText(scan.FilePattern);
         controlOf<QLineEdit>(form, "SearchWords").setText(scan.SearchWords);
-        controlOf<QCheckBox>(form, "SubFolderScanOpt").setChecked(scan.SubFolderScan);
-        controlOf<QCheckBox>(form, "ListAppendOpt").setChecked(scan.ListAppend);
-        controlOf<QCheckBox>(form, "SearchAllWordsOpt").setChecked(scan.SearchAllWords);
-        controlOf<QCheckBox>(form, "SearchWordsWholeOpt").setChecked(scan.SearchWordsWhole);
-        controlOf<QCheckBox>(form, "SearchRegExpOpt").setChecked(scan.SearchRegExp);
+        for (const auto& [box, choice] : {std::pair("SubFolderScanOpt", scan.SubFolderScan),
+                                          {"ListAppendOpt", scan.ListAppend},
+                                          {"SearchAllWordsOpt", scan.SearchAllWords},
+                                          {"SearchWordsWholeOpt", scan.SearchWordsWhole},
+                                          {"SearchRegExpOpt", scan.SearchRegExp}})
+            controlOf<QCheckBox>(form, box).setChecked(choice);
         press(form, button);
     });
 }
@@ -44,75 +45,93 @@ ScanSettings jpegsIn(const QString& folder)
 {
     ScanSettings scan;
     scan.FolderNameSelected = folder;
-    scan.FilePattern = QStringLiteral("*.jpg;*.jpeg");
+    scan.FilePattern = u"*.jpg;*.jpeg"_s;
     return scan;
 }
 
 /// What will happen when the file or folder called `name` is shown.
-void whenProgressShows(const char* name, const std::function<void(ProgressForm&)>& work)
+void whenProgressShows(const QString& name, const std::function<void(ProgressForm&)>& work)
 {
-    const QString end = QLatin1Char('/') + QLatin1String(name);
     whenOpen<ProgressForm>(
-        work, [end](ProgressForm& form) { return controlOf<QLabel>(form, "Label1").text().endsWith(end); });
+        work, [name](ProgressForm& form) { return controlOf<QLabel>(form, "Label1").text().endsWith(u'/' + name); });
 }
 
-void cancelAt(const char* name)
+void cancelAt(const QString& name)
 {
     whenProgressShows(name, [](ProgressForm& form) { press(form, "ProcessCanceler"); });
 }
 
-/// Three photographs that have the same content, shown in a window.
-void openThree(Window& window)
-{
-    for (const char* name : {"1.jpg", "2.jpg", "3.jpg"})
-        window.copy("little-endian.jpg", name);
-    window.open({window.folder().toStdString()});
-}
-
-/// The dialog of a batch, with the node of this label chosen.
-BatchForm& openBatch(Window& window, const char* label)
-{
-    window.click("BatchShower");
-    for (auto* form : window.form().findChildren<BatchForm*>()) {
-        if (!form->isVisible())
-            continue;
-        auto& list = controlOf<QListWidget>(*form, "NodeList");
-        list.setCurrentItem(list.findItems(QLatin1String(label), Qt::MatchExactly).first());
-        return *form;
+/// A window with three photographs that have the same content.
+class ThreeWindow : public Window {
+public:
+    ThreeWindow()
+    {
+        for (const char* name : {"1.jpg", "2.jpg", "3.jpg"})
+            copy("little-endian.jpg", name);
+        openFolder();
     }
-    qFatal("no batch form");
-}
+    void openFolder() { open({folder().toStdString()}); }
 
-/// The text of a node in all three, as one line.
-QString inThree(const Window& window, const char* node)
-{
-    QStringList texts;
-    for (const char* name : {"1.jpg", "2.jpg", "3.jpg"})
-        texts << QString::fromStdString(inFile(window.path(name), node).value_or("-"));
-    return texts.join(QLatin1Char(' '));
-}
+    /// Lists what is found with this choice. Returns the list, and the file that is shown.
+    QString find(const ScanSettings& scan)
+    {
+        chooseFolder(scan);
+        click("FileFinder");
+        return listed() + u" > "_s + title().section(u'[', 0, 0);
+    }
 
-/// Writes a style sheet with this template for the whole report, and lets it be chosen.
-void chooseStyleSheet(Window& window, const QString& content)
-{
-    const std::string path = window.path("style.xsl");
-    writeTextFile(path, (QStringLiteral("<xsl:stylesheet version='1.0' "
-                                        "xmlns:xsl='http://www.w3.org/1999/XSL/Transform'>"
-                                        "<xsl:output omit-xml-declaration='yes'/><xsl:template match='/'>") +
-                         content + QStringLiteral("</xsl:template></xsl:stylesheet>"))
-                            .toStdString());
-    window.dialogs.file = QString::fromStdString(path);
-}
+    /// The dialog of a batch, with the node of this label and a value chosen.
+    BatchForm& openBatch(const QString& label, const QString& value = u"batch"_s)
+    {
+        click("BatchShower");
+        click("BatchShower"); // which shows the same
+        for (auto* form : this->form().findChildren<BatchForm*>()) {
+            if (!form->isVisible())
+                continue;
+            auto& list = controlOf<QListWidget>(*form, "NodeList");
+            list.setCurrentItem(list.findItems(label, Qt::MatchExactly).first());
+            controlOf<QLineEdit>(*form, "NodeValue").setText(value);
+            return *form;
+        }
+        qFatal("no batch form");
+    }
 
-/// The text of a report, which is UTF-16.
-QString reportText(const Window& window, const char* name)
-{
-    QFile file(QDir(window.writable()).filePath(QLatin1String(name)));
-    if (!file.open(QFile::ReadOnly))
-        return QStringLiteral("no report");
-    const QByteArray bytes = file.readAll();
-    return QString::fromUtf16(reinterpret_cast<const char16_t*>(bytes.constData()), bytes.size() / 2);
-}
+    /// The text of a node in all three.
+    QString inThree(const char* node = kDescription)
+    {
+        QStringList texts;
+        for (const char* name : {"1.jpg", "2.jpg", "3.jpg"})
+            texts << QString::fromStdString(inFile(path(name), node).value_or("-"));
+        return texts.join(u'|').replace(u"Mountain lake before breakfast"_s, u"old"_s);
+    }
+
+    /// Makes a report with a style sheet that has this template for all files. Returns its text.
+    QString report(const QString& content, const QString& name)
+    {
+        dialogs.file = QString::fromStdString(path("style.xsl"));
+        writeTextFile(path("style.xsl"), (u"<xsl:stylesheet version='1.0' "
+                                          "xmlns:xsl='http://www.w3.org/1999/XSL/Transform'>"
+                                          "<xsl:output omit-xml-declaration='yes'/><xsl:template match='/'>"_s +
+                                          content + u"</xsl:template></xsl:stylesheet>"_s)
+                                             .toStdString());
+        trigger("menuGenerate");
+        QFile file(QDir(writable()).filePath(name));
+        if (!file.open(QFile::ReadOnly))
+            return u"no report"_s;
+        const QByteArray bytes = file.readAll();
+        return QString::fromUtf16(reinterpret_cast<const char16_t*>(bytes.constData()), bytes.size() / 2);
+    }
+
+    /// Whether the messages since the last time are as many as these, and begin with them.
+    bool saysOf(const QStringList& beginnings)
+    {
+        const QStringList messages = dialogs.taken();
+        return std::ranges::equal(messages, beginnings, [](const QString& message, const QString& begin) {
+            return message.startsWith(begin);
+        });
+    }
+    QString pathOf(const char* name) { return QString::fromStdString(path(name)); }
+};
 
 } // namespace
 
@@ -125,109 +144,72 @@ private Q_SLOTS:
         Window window;
         const auto form = window.newForm();
         chooseFolder(jpegsIn(window.folder()), "FormCanceller");
-        QVERIFY(!form->start({}));
-        QVERIFY(!form->isVisible());
-        for (const char* key : {"ControlForm", "Folder", "SubFolderScan"})
-            QCOMPARE(window.settings().GetSetting(QLatin1String(key), QStringLiteral("none")), QStringLiteral("none"));
+        QVERIFY(!form->start({}) && !form->isVisible());
+        for (const QString& key : {u"ControlForm"_s, u"Folder"_s, u"SubFolderScan"_s})
+            QCOMPARE(window.settings().GetSetting(key, u"none"_s), u"none"_s);
     }
 
     void listsWhatIsChosen()
     {
-        Window window;
-        QVERIFY(QDir().mkpath(window.folder() + QStringLiteral("/below")));
-        window.copy("night.jpg", "b.JPG");
-        window.copy("xmp.jpg", "a.jpeg");
-        window.copy("little-endian.jpg", "below/c.jpg");
-        window.copy("night.jpg", "d.tif");
-        ScanSettings scan = jpegsIn(window.folder());
+        ThreeWindow window;
+        QVERIFY(QDir(window.folder()).mkpath(u"new/below"_s));
+        window.copy("night.jpg", "new/b.JPG");
+        window.copy("xmp.jpg", "new/a.jpeg");
+        window.copy("little-endian.jpg", "new/below/c.jpg");
+        window.copy("night.jpg", "new/d.tif");
+        ScanSettings scan = jpegsIn(window.folder() + u"/new"_s);
         chooseFolder(scan);
         window.open({});
-        QCOMPARE(window.listed(), QStringLiteral("a.jpeg b.JPG c.jpg"));
-        QCOMPARE(window.selectedFile(), 0);
-        QCOMPARE(window.control<QListView>("FilesFoundList").toolTip(), QStringLiteral("List of files found (3)"));
-
-        scan.SubFolderScan = false;
-        scan.ListAppend = true;
-        scan.FilePattern = QStringLiteral("*.tif");
+        QCOMPARE(window.listed() + window.title(), u"a.jpeg b.JPG c.jpga.jpeg[*]"_s);
+        QCOMPARE(window.control<QWidget>("FilesFoundList").toolTip(), u"List of files found (3)"_s);
         window.selectFile(1);
-        chooseFolder(scan);
-        window.click("FileFinder");
-        QCOMPARE(window.listed(), QStringLiteral("a.jpeg b.JPG c.jpg d.tif"));
-        QCOMPARE(window.selectedFile(), 0);
+        ScanSettings more = scan;
+        more.SubFolderScan = false;
+        more.ListAppend = true;
+        more.FilePattern = u"*.tif"_s;
+        QCOMPARE(window.find(more), u"a.jpeg b.JPG c.jpg d.tif > a.jpeg"_s);
+        scan.SearchWords = u"mountain lake, nonsense"_s;
+        QCOMPARE(window.find(scan), u"c.jpg > c.jpg"_s);
 
-        scan = jpegsIn(window.folder());
-        scan.SearchWords = QStringLiteral("mountain lake, nonsense");
-        chooseFolder(scan);
+        // A choice that is cancelled is forgotten.
+        more.SearchWords = u"words"_s;
+        more.SearchAllWords = more.SearchWordsWhole = more.SearchRegExp = true;
+        chooseFolder(more, "FormCanceller");
         window.click("FileFinder");
-        QCOMPARE(window.listed(), QStringLiteral("c.jpg"));
-        scan.SearchAllWords = true;
-        chooseFolder(scan);
-        window.click("FileFinder");
-        QCOMPARE(window.dialogs.taken(), QStringList(kNothingFound));
-        QVERIFY(window.listed().isEmpty() && window.form().windowTitle() == QStringLiteral("Ovisto[*]"));
-    }
-
-    void tellsWhatCannotBeSearched()
-    {
-        Window window;
-        window.open({window.copy("night.jpg")});
-        chooseFolder(jpegsIn(QStringLiteral("/nowhere/at/all")));
-        window.click("FileFinder");
-        QCOMPARE(window.dialogs.taken(), QStringList(QStringLiteral("Folder not found")));
-        QCOMPARE(window.listed(), QStringLiteral("night.jpg"));
-        ScanSettings scan = jpegsIn(window.folder());
-        scan.SearchRegExp = true;
-        scan.SearchWords = QStringLiteral("(");
-        chooseFolder(scan);
-        window.click("FileFinder");
-        const QStringList messages = window.dialogs.taken();
-        QCOMPARE(messages.size(), 2);
-        QVERIFY(messages[0].startsWith(QStringLiteral("Checking file contents\r\n5 : ")));
-        QCOMPARE(messages[1], kNothingFound);
-    }
-
-    void keepsItsSettingsWhenTheChoiceIsCancelled()
-    {
-        Window window;
-        window.copy("night.jpg");
-        chooseFolder(jpegsIn(window.folder()));
-        window.open({});
-        ScanSettings other = jpegsIn(QStringLiteral("/"));
-        other.SearchWords = QStringLiteral("words");
-        other.SubFolderScan = false;
-        other.ListAppend = other.SearchAllWords = other.SearchWordsWhole = other.SearchRegExp = true;
-        chooseFolder(other, "FormCanceller");
-        window.click("FileFinder");
-        QCOMPARE(window.listed(), QStringLiteral("night.jpg"));
         whenOpen<BrowserCapForm>([&](BrowserCapForm& form) {
-            QCOMPARE(controlOf<QLineEdit>(form, "FolderPath").text(), window.folder());
-            QCOMPARE(controlOf<QLineEdit>(form, "FilePattern").text(), QStringLiteral("*.jpg;*.jpeg"));
-            QVERIFY(controlOf<QLineEdit>(form, "SearchWords").text().isEmpty());
-            for (const char* box : {"ListAppendOpt", "SearchAllWordsOpt", "SearchWordsWholeOpt", "SearchRegExpOpt"})
-                QVERIFY(!controlOf<QCheckBox>(form, box).isChecked());
-            QVERIFY(controlOf<QCheckBox>(form, "SubFolderScanOpt").isChecked());
+            QVERIFY(form.settings() == scan);
             form.close();
         });
         window.click("FileFinder");
+        QCOMPARE(window.listed(), u"c.jpg"_s);
+
+        QVERIFY(window.dialogs.messages.isEmpty());
+        scan.SearchAllWords = true;
+        QCOMPARE(window.find(scan), u" > Ovisto"_s);
+        QVERIFY(window.saysOf({kNothingFound}));
+        scan.SearchRegExp = true;
+        scan.SearchWords = u"("_s;
+        window.find(scan);
+        QVERIFY(window.saysOf({u"Checking file contents\r\n5 : "_s, kNothingFound}));
+        window.openFolder();
+        QVERIFY(window.find(jpegsIn(u"/nowhere/at/all"_s)).startsWith(u"1.jpg 2.jpg 3.jpg"_s));
+        QVERIFY(window.saysOf({u"Folder not found"_s}));
     }
 
     void showsTheFolderAmongItsNeighbours()
     {
         QTemporaryDir folder;
         for (int i = 0; i < 300; ++i)
-            QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("folder %1/below").arg(i, 3)));
-        const QString hidden = folder.filePath(QStringLiteral(".hidden/here"));
-        const QString chosen = folder.filePath(QStringLiteral("folder 217"));
+            QVERIFY(QDir(folder.path()).mkpath(u"folder %1/below"_s.arg(i, 3)));
+        const QString hidden = folder.filePath(u".hidden/here"_s);
         QVERIFY(QDir().mkpath(hidden));
-        for (const QString& start : {chosen, hidden}) {
-            BrowserCapForm form(jpegsIn(start + QLatin1Char('/')), nullptr);
+        for (const QString& start : {folder.filePath(u"folder 217"_s), hidden}) {
+            BrowserCapForm form(jpegsIn(start + u'/'), nullptr);
             form.show();
             const auto& tree = controlOf<FolderTree>(form, "FolderTree");
-            const auto row = [&] { return tree.visualRect(tree.currentIndex()); };
-            const auto neighbours = [&] { return tree.model()->rowCount(tree.currentIndex().parent()); };
-            QTRY_VERIFY(start == hidden || neighbours() == 300);
+            QTRY_VERIFY(start == hidden || tree.model()->rowCount(tree.currentIndex().parent()) == 300);
             QTest::qWait(50);
-            QTRY_VERIFY(tree.viewport()->rect().contains(row().center()));
+            QTRY_VERIFY(tree.viewport()->rect().contains(tree.visualRect(tree.currentIndex()).center()));
             QCOMPARE(form.SelectedFolder(), start);
         }
     }
@@ -235,273 +217,186 @@ private Q_SLOTS:
     void goesToTheFolderAbove()
     {
         QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("a/b")));
-        BrowserCapForm form(jpegsIn(folder.filePath(QStringLiteral("a/b"))), nullptr);
+        QVERIFY(QDir(folder.path()).mkpath(u"a/b"_s));
+        const QString above = folder.filePath(u"a"_s);
+        const QString below = folder.filePath(u"a/b"_s);
+        BrowserCapForm form(jpegsIn(below + u"/gone/for/good"_s), nullptr); // which starts above it
         form.show();
         auto& path = controlOf<QLineEdit>(form, "FolderPath");
         auto& tree = controlOf<FolderTree>(form, "FolderTree");
-        QVERIFY(form.Cancelled());
+        QVERIFY(form.Cancelled() && form.SelectedFolder() == below);
         press(form, "FolderUp");
-        QCOMPARE(path.text(), folder.filePath(QStringLiteral("a")));
-        QCOMPARE(form.SelectedFolder(), path.text());
-        QTest::keyClicks(&path, QStringLiteral("/b"));
-        QCOMPARE(tree.selected(), folder.filePath(QStringLiteral("a/b")));
-        QTest::keyClicks(&path, QStringLiteral("/gone"));
-        QCOMPARE(tree.selected(), folder.filePath(QStringLiteral("a/b")));
-        QCOMPARE(form.SelectedFolder(), folder.filePath(QStringLiteral("a/b/gone")));
-        QCOMPARE(path.text(), form.SelectedFolder());
+        QVERIFY(path.text() == above && form.SelectedFolder() == above);
+        QTest::keyClicks(&path, u"/b"_s);
+        QCOMPARE(tree.selected(), below);
+        QTest::keyClicks(&path, u"/gone"_s);
+        QCOMPARE(tree.selected(), below);
+        QVERIFY(form.SelectedFolder() == below + u"/gone"_s && path.text() == form.SelectedFolder());
         press(form, "FolderUp");
-        QCOMPARE(path.text(), folder.filePath(QStringLiteral("a/b")));
+        QCOMPARE(path.text(), below);
         path.selectAll();
         QTest::keyClick(&path, Qt::Key_Delete);
-        QCOMPARE(form.SelectedFolder(), folder.filePath(QStringLiteral("a/b")));
+        QCOMPARE(form.SelectedFolder(), below);
         press(form, "FolderHome");
         QCOMPARE(form.SelectedFolder(), QDir::homePath());
         tree.select(QDir::rootPath());
         QVERIFY(!controlOf<QToolButton>(form, "FolderUp").isEnabled());
         tree.select(folder.path());
-        const QModelIndex above = tree.currentIndex().parent();
-        QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(above).center());
+        const QModelIndex parent = tree.currentIndex().parent();
+        QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(parent).center());
         QCOMPARE(form.SelectedFolder(), QFileInfo(folder.path()).path());
         press(form, "FolderSelector");
         QVERIFY(!form.Cancelled());
     }
 
-    void startsAboveAFolderThatIsGone()
-    {
-        QTemporaryDir folder;
-        const BrowserCapForm form(jpegsIn(folder.filePath(QStringLiteral("gone/for/good"))), nullptr);
-        QCOMPARE(form.SelectedFolder(), folder.path());
-    }
-
     void keepsWhatWasFoundBeforeACancel()
     {
-        Window window;
-        openThree(window);
-        QVERIFY(QDir().mkpath(window.folder() + QStringLiteral("/below")));
+        ThreeWindow window;
+        QVERIFY(QDir(window.folder()).mkpath(u"below"_s));
         window.copy("night.jpg", "below/4.jpg");
-        cancelAt("2.jpg");
-        chooseFolder(jpegsIn(window.folder()));
-        window.click("FileFinder");
-        QCOMPARE(window.listed(), QStringLiteral("1.jpg"));
-        QCOMPARE(window.form().windowTitle(), QStringLiteral("1.jpg[*]"));
-        cancelAt("below"); // before anything in there is listed
-        chooseFolder(jpegsIn(window.folder()));
-        window.click("FileFinder");
-        QCOMPARE(window.listed(), QStringLiteral("1.jpg 2.jpg 3.jpg"));
-        QVERIFY(window.dialogs.messages.isEmpty());
-        QCOMPARE(QApplication::activeModalWidget(), nullptr);
+        cancelAt(u"2.jpg"_s);
+        QCOMPARE(window.find(jpegsIn(window.folder())), u"1.jpg > 1.jpg"_s);
+        cancelAt(u"below"_s); // before anything in there is listed
+        QCOMPARE(window.find(jpegsIn(window.folder())), u"1.jpg 2.jpg 3.jpg > 1.jpg"_s);
+        QVERIFY(window.dialogs.messages.isEmpty() && QApplication::activeModalWidget() == nullptr);
         QCOMPARE(window.form().cursor().shape(), Qt::ArrowCursor);
-    }
 
-    void showsHowFarItIs()
-    {
-        Window window;
-        openThree(window);
         QStringList seen;
         whenOpen<ProgressForm>([](ProgressForm& form) { form.close(); },
                                [&](ProgressForm& form) {
                                    const auto& bar = controlOf<QProgressBar>(form, "ProgressBar");
-                                   seen << QStringLiteral("%1 of %2").arg(bar.value()).arg(bar.maximum());
+                                   seen << u"%1/%2"_s.arg(bar.value()).arg(bar.maximum());
                                    return seen.size() == 3;
                                });
-        chooseFolder(jpegsIn(window.folder()));
-        window.click("FileFinder");
-        QCOMPARE(seen, QStringList({QStringLiteral("0 of 2"), QStringLiteral("1 of 2"), QStringLiteral("2 of 2")}));
-        QCOMPARE(window.listed(), QStringLiteral("1.jpg 2.jpg"));
+        QCOMPARE(window.find(jpegsIn(window.folder())), u"1.jpg 2.jpg > 1.jpg"_s);
+        QCOMPARE(seen.join(u' '), u"0/2 1/2 2/2"_s);
     }
 
-    void setsAValueInAllFiles()
+    void changesAllFiles()
     {
-        Window window;
-        openThree(window);
-        window.selectFile(1);
-        window.select(kDescription);
-        window.type("NodeText", QStringLiteral("typed"));
-        window.dialogs.answers = {true};
-        BatchForm& form = openBatch(window, "Image Description");
-        QCOMPARE(inThree(window, kDescription).count(QStringLiteral("typed")), 1);
-        QCOMPARE(window.form().windowTitle(), QStringLiteral("Ovisto[*]"));
-        // What is changed between is asked for once more.
+        ThreeWindow window;
+        BatchForm& form = window.openBatch(u"Image Description"_s);
+        QCOMPARE(window.form().findChildren<BatchForm*>().size(), 1);
+        // A file that is opened and changed beside it is not lost, and not saved over what the batch makes of it.
         window.selectFile(2);
-        window.select(kDescription);
-        window.type("NodeText", QStringLiteral("lost"));
-        window.dialogs.taken();
-        window.dialogs.answers = {false};
-        controlOf<QLineEdit>(form, "NodeValue").setText(QStringLiteral("batch"));
+        window.edit(kDescription, u"typed"_s);
+        blockSaving(window.path("3.jpg"));
+        window.dialogs.answers = {true, false};
         press(form, "BatchStarter");
-        QCOMPARE(window.dialogs.taken().size(), 1);
-        QCOMPARE(inThree(window, kDescription), QStringLiteral("batch batch batch"));
+        QVERIFY(window.saysOf({u"Save Changes to file "_s, window.pathOf("~3.jpg")}));
+        QCOMPARE(window.inThree() + window.text("NodeText"), u"old|old|oldtyped"_s);
+        QVERIFY(QDir(window.pathOf("~3.jpg")).removeRecursively() && window.isChanged());
+        press(form, "BatchStarter");
+        QVERIFY(window.saysOf({u"Save Changes to file "_s}));
+        QCOMPARE(window.inThree(), u"batch|batch|batch"_s);
         QVERIFY(!form.isVisible());
-        QCOMPARE(window.form().windowTitle(), QStringLiteral("3.jpg[*]"));
-        QCOMPARE(window.text("NodeText"), QStringLiteral("batch"));
-    }
+        QCOMPARE(window.title() + window.text("NodeText"), u"3.jpg[*]batch"_s);
 
-    void deletesANodeFromTheFilesThatHaveIt()
-    {
-        Window window;
-        openThree(window);
-        BatchForm& form = openBatch(window, "Thumbnail");
-        controlOf<QRadioButton>(form, "ActionDelOpt").setChecked(true);
-        QVERIFY(!controlOf<QLineEdit>(form, "NodeValue").isEnabled());
-        press(form, "BatchStarter");
-        QCOMPARE(inThree(window, kThumbnailIfd), QStringLiteral("- - -"));
+        BatchForm& second = window.openBatch(u"Thumbnail"_s, {});
+        QVERIFY(&second != &form);
+        controlOf<QRadioButton>(second, "ActionDelOpt").setChecked(true);
+        QVERIFY(!controlOf<QLineEdit>(second, "NodeValue").isEnabled());
+        press(second, "BatchStarter");
+        QCOMPARE(window.inThree(kThumbnailIfd), u"-|-|-"_s);
         QVERIFY(window.dialogs.messages.isEmpty());
     }
 
     void refusesABatchThatCannotBeDone()
     {
-        Window window;
-        openThree(window);
-        const QString before = inThree(window, kDescription);
-        BatchForm& form = openBatch(window, "Exif Data");
+        ThreeWindow window;
+        BatchForm& form = window.openBatch(u"Exif Data"_s);
         press(form, "BatchStarter");
-        QCOMPARE(
-            window.dialogs.taken(),
-            QStringList(QStringLiteral("I don't know what type of data this node requires - can't set its value.")));
+        QVERIFY(window.saysOf({u"I don't know what type of data this node requires - can't set its value."_s}));
+        const int common = controlOf<QListWidget>(form, "NodeList").count();
         QVERIFY(form.isVisible());
         press(form, "FormCanceller");
         QVERIFY(!form.isVisible());
-        QCOMPARE(inThree(window, kDescription), before);
-        BatchForm& second = openBatch(window, "Image Description");
-        QVERIFY(&second != &form && controlOf<QLineEdit>(second, "NodeValue").text().isEmpty());
-    }
-
-    void offersTechnicalNodesWithTheTechnicalData()
-    {
-        Window window;
-        openThree(window);
-        const auto nodes = [&] {
-            BatchForm& form = openBatch(window, "Image Description");
-            const int count = controlOf<QListWidget>(form, "NodeList").count();
-            press(form, "FormCanceller");
-            return count;
-        };
-        const int common = nodes();
         window.trigger("menuShowTechnical");
-        QVERIFY(nodes() > common);
+        QVERIFY(controlOf<QListWidget>(window.openBatch(u"Exif Data"_s), "NodeList").count() > common);
     }
 
     void endsABatchAtAFileThatCannotBeWritten()
     {
-        Window window;
-        openThree(window);
+        ThreeWindow window;
         window.select(kDescription);
-        QFile::remove(QString::fromStdString(window.path("1.jpg"))); // which ends nothing
-        const QString old = QString::fromStdString(inFile(window.path("3.jpg"), kDescription).value());
-        QVERIFY(QDir().mkpath(QString::fromStdString(window.path("~2.jpg/full"))));
-        BatchForm& form = openBatch(window, "Image Description");
-        controlOf<QLineEdit>(form, "NodeValue").setText(QStringLiteral("batch"));
+        QFile::remove(window.pathOf("1.jpg")); // which ends nothing
+        blockSaving(window.path("2.jpg"));
+        BatchForm& form = window.openBatch(u"Image Description"_s);
         press(form, "BatchStarter");
-        const QStringList messages = window.dialogs.taken();
-        QCOMPARE(messages.size(), 2);
-        QVERIFY(messages[0].startsWith(QString::fromStdString(window.path("1.jpg")) + QStringLiteral("\r\n")));
-        QVERIFY(messages[1].startsWith(QString::fromStdString(window.path("2.jpg")) + QStringLiteral("\r\n")));
-        QCOMPARE(inFile(window.path("2.jpg"), kDescription).value(), old.toStdString());
-        QCOMPARE(inFile(window.path("3.jpg"), kDescription).value(), old.toStdString());
+        QVERIFY(window.saysOf({window.pathOf("1.jpg") + u"\r\n"_s, window.pathOf("2.jpg") + u"\r\n"_s}));
+        QCOMPARE(inFile(window.path("2.jpg"), kDescription), inFile(window.path("3.jpg"), kDescription));
         QVERIFY(!form.isVisible());
-        QCOMPARE(window.form().windowTitle(), QStringLiteral("2.jpg[*]"));
-    }
-
-    void tellsOfManyFilesThatCannotBeReplacedInOneMessage()
-    {
-        Window window;
-        openThree(window);
-        const QString before = inThree(window, kDescription);
-        window.copy("little-endian.jpg", "4.jpg");
-        window.open({window.folder().toStdString()});
-        whenProgressShows("4.jpg", [&](ProgressForm&) {
-            for (const char* name : {"1.jpg", "2.jpg", "3.jpg"})
-                QFile::setPermissions(QString::fromStdString(window.path(name)), QFile::ReadOwner);
-        });
-        BatchForm& form = openBatch(window, "Image Description");
-        controlOf<QLineEdit>(form, "NodeValue").setText(QStringLiteral("batch"));
-        press(form, "BatchStarter");
-        const QStringList messages = window.dialogs.taken();
-        QCOMPARE(messages.size(), 2);
-        QVERIFY(messages[0].startsWith(QString::fromStdString(window.path("1.jpg")) + QStringLiteral("\r\n")));
-        const QStringList lines = messages[1].split(QStringLiteral("\r\n"));
-        QCOMPARE(lines.size(), 3);
-        QCOMPARE(lines[0], QStringLiteral("Other files that could not be changed (2):"));
-        QVERIFY(lines[1].contains(QString::fromStdString(window.path("2.jpg"))));
-        QCOMPARE(inThree(window, kDescription), before);
+        QCOMPARE(window.title(), u"2.jpg[*]"_s);
     }
 
     void stopsABatch()
     {
-        Window window;
-        openThree(window);
-        const QString third = QString::fromStdString(inFile(window.path("3.jpg"), kDescription).value());
-        BatchForm& form = openBatch(window, "Image Description");
-        controlOf<QLineEdit>(form, "NodeValue").setText(QStringLiteral("batch"));
-        cancelAt("3.jpg");
-        press(form, "BatchStarter");
-        QCOMPARE(inThree(window, kDescription), QStringLiteral("batch batch ") + third);
+        ThreeWindow window;
+        cancelAt(u"3.jpg"_s);
+        press(window.openBatch(u"Image Description"_s), "BatchStarter");
+        QCOMPARE(window.inThree(), u"batch|batch|old"_s);
         QVERIFY(window.dialogs.messages.isEmpty());
+
+        // Of those already on their way, one message tells.
+        window.copy("little-endian.jpg", "4.jpg");
+        window.openFolder();
+        whenProgressShows(u"4.jpg"_s, [&](ProgressForm&) {
+            for (const char* name : {"1.jpg", "2.jpg", "3.jpg"})
+                QFile::setPermissions(window.pathOf(name), QFile::ReadOwner);
+        });
+        press(window.openBatch(u"Image Description"_s, u"more"_s), "BatchStarter");
+        QCOMPARE(window.dialogs.messages.value(1).count(u"\r\n"_s), 2);
+        QVERIFY(window.dialogs.messages.value(1).contains(window.pathOf("2.jpg")));
+        QVERIFY(
+            window.saysOf({window.pathOf("1.jpg") + u"\r\n"_s, u"Other files that could not be changed (2):\r\n"_s}));
+        QCOMPARE(window.inThree(), u"batch|batch|old"_s);
     }
 
     void reportsOnAllFiles()
     {
-        Window window;
-        openThree(window);
+        ThreeWindow window;
+        window.trigger("menuGenerate"); // no style sheet is chosen
+        QVERIFY(window.dialogs.messages.isEmpty());
         writeTextFile(window.path("diary.jpg"), "Dear diary");
-        window.open({window.folder().toStdString()});
+        window.openFolder();
         window.dialogs.taken();
-        chooseStyleSheet(window, QStringLiteral("<HTML><xsl:value-of select='count(/JPEGs/JPEG)'/></HTML>"));
-        window.trigger("menuGenerate");
-        QCOMPARE(reportText(window, "Report.HTM"), QStringLiteral("<HTML>3</HTML>\n"));
-        QCOMPARE(window.desktop.done, QStringList(QStringLiteral("open %1/Report.HTM").arg(window.writable())));
-        const QStringList messages = window.dialogs.taken();
-        QCOMPARE(messages.size(), 1);
-        QVERIFY(messages[0].contains(QStringLiteral("diary.jpg")));
+        QCOMPARE(window.report(u"<HTML><xsl:value-of select='count(/JPEGs/JPEG)'/></HTML>"_s, u"Report.HTM"_s),
+                 u"<HTML>3</HTML>\n"_s);
+        QCOMPARE(window.desktop.done, QStringList(u"open %1/Report.HTM"_s.arg(window.writable())));
+        QVERIFY(window.dialogs.messages.value(0).contains(u"diary.jpg"_s));
+        QVERIFY(window.saysOf({u"The report does not cover"_s}));
 
         window.desktop.canOpen = false;
-        QFile::remove(QString::fromStdString(window.path("diary.jpg")));
-        window.open({window.folder().toStdString()});
-        cancelAt("3.jpg");
-        chooseStyleSheet(window, QStringLiteral("files: <xsl:value-of select='count(/JPEGs/JPEG)'/>"));
-        window.trigger("menuGenerate");
-        QCOMPARE(reportText(window, "Report.txt"), QStringLiteral("files: 2\n"));
-        QVERIFY(window.dialogs.taken().value(0).startsWith(
-            QStringLiteral("Open %1/Report.txt\r\n").arg(window.writable())));
-    }
+        QFile::remove(window.pathOf("diary.jpg"));
+        window.openFolder();
+        cancelAt(u"3.jpg"_s);
+        QCOMPARE(window.report(u"files: <xsl:value-of select='count(/JPEGs/JPEG)'/>"_s, u"Report.txt"_s),
+                 u"files: 2\n"_s);
+        QVERIFY(window.saysOf({u"Open %1/Report.txt\r\n"_s.arg(window.writable())}));
 
-    void tellsWhyThereIsNoReport()
-    {
-        Window window;
-        openThree(window);
-        window.trigger("menuGenerate");
-        QVERIFY(window.dialogs.messages.isEmpty());
-        chooseStyleSheet(window, QStringLiteral("<open>"));
-        window.trigger("menuGenerate");
-        QStringList messages = window.dialogs.taken();
-        QCOMPARE(messages.size(), 1);
-        QVERIFY(messages[0].startsWith(*window.dialogs.file + QStringLiteral("\r\n")));
-        chooseStyleSheet(window, QStringLiteral("&lt;?xml?&gt;<xsl:processing-instruction name='x'/>"));
-        QVERIFY(QDir(window.writable()).mkpath(QStringLiteral("Report.txt/full")));
-        window.trigger("menuGenerate");
-        messages = window.dialogs.taken();
-        QCOMPARE(messages.size(), 1);
-        QVERIFY(messages[0].startsWith(QStringLiteral("Create file %1/Report.").arg(window.writable())));
-        QVERIFY(window.desktop.done.isEmpty());
+        window.report(u"<open>"_s, {});
+        QVERIFY(window.saysOf({*window.dialogs.file + u"\r\n"_s}));
+        QVERIFY(QDir(window.writable()).remove(u"Report.txt"_s));
+        QVERIFY(QDir(window.writable()).mkpath(u"Report.txt/full"_s));
+        window.report(u"text"_s, {});
+        QVERIFY(window.saysOf({u"Create file %1/Report."_s.arg(window.writable())}));
+        QCOMPARE(window.desktop.done.size(), 2);
     }
 
     void tellsTheNameOfEveryControl()
     {
         const TagDictionary Merovel(OVISTO_SOURCE_FOLDER "/data/Merovel.xml");
-        TestDialogs dialogs;
-        BrowserCapForm chooser(jpegsIn(QDir::homePath()), nullptr);
-        BatchForm batch(Merovel, true, dialogs, nullptr);
-        ProgressForm progress(nullptr);
-        for (const QDialog* form : {static_cast<const QDialog*>(&chooser), static_cast<const QDialog*>(&batch),
-                                    static_cast<const QDialog*>(&progress)}) {
+        Window window{"night.jpg"};
+        const BrowserCapForm chooser(jpegsIn(QDir::homePath()), nullptr);
+        const BatchForm batch(Merovel, true, window.dialogs, nullptr);
+        const ProgressForm progress(nullptr);
+        for (const QWidget* form : std::initializer_list<const QWidget*>{&window.form(), &chooser, &batch, &progress}) {
             QVERIFY(!form->windowTitle().isEmpty());
             for (QWidget* control : form->findChildren<QWidget*>()) {
-                const bool isOurs =
-                    !control->objectName().isEmpty() && !control->objectName().startsWith(QStringLiteral("qt_"));
-                if (isOurs && control->focusPolicy() != Qt::NoFocus)
+                const QString name = control->objectName();
+                if (!name.isEmpty() && !name.startsWith(u"qt_"_s) && control->focusPolicy() != Qt::NoFocus)
                     QVERIFY2(!QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name).isEmpty(),
-                             qPrintable(control->objectName()));
+                             qPrintable(name));
             }
         }
     }

@@ -1,21 +1,21 @@
 #include "ControlFormFixture.h"
 
+#include "../support/RecordingReporter.h"
 #include "collection/DocumentLoad.h"
 #include "writer/JpegDocument.h"
 
 #include <QFile>
 #include <QLineEdit>
 
+#include <filesystem>
+
 namespace ovisto::test {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString kSource = QStringLiteral(OVISTO_SOURCE_FOLDER);
-
-class NoReports : public ErrorReporter {
-public:
-    void report(const Phrase& context, const Error&) override { qFatal("reported: %s", inEnglish(context).c_str()); }
-};
 
 } // namespace
 
@@ -31,28 +31,35 @@ bool TestDialogs::ask(const QString& question)
 
 bool TestDesktop::open(const std::string& path)
 {
-    done << QStringLiteral("open ") + QString::fromStdString(path);
+    done << u"open "_s + QString::fromStdString(path);
     return canOpen;
 }
 
 void TestDesktop::showProperties(const std::string& path, QWidget&)
 {
-    done << QStringLiteral("properties ") + QString::fromStdString(path);
+    done << u"properties "_s + QString::fromStdString(path);
 }
 
-Window::Window() : m_settings(m_writable.filePath(QStringLiteral("settings.ini"))) {}
+Window::Window(std::initializer_list<const char*> samples) : m_settings(m_writable.filePath(u"settings.ini"_s))
+{
+    std::vector<std::string> paths;
+    for (const char* sample : samples)
+        paths.push_back(copy(sample));
+    if (!paths.empty())
+        open(paths);
+}
 
 std::string Window::copy(const char* sample, const char* name)
 {
     const std::string target = path(name != nullptr ? name : sample);
-    QFile::copy(kSource + QStringLiteral("/samples/") + QLatin1String(sample), QString::fromStdString(target));
+    QFile::copy(kSource + u"/samples/"_s + QLatin1String(sample), QString::fromStdString(target));
     return target;
 }
 
 std::unique_ptr<ControlForm> Window::newForm()
 {
-    const std::string data = (kSource + QStringLiteral("/data/")).toStdString();
-    const std::string writable = (m_writable.path() + QLatin1Char('/')).toStdString();
+    const std::string data = (kSource + u"/data/"_s).toStdString();
+    const std::string writable = (m_writable.path() + u'/').toStdString();
     return std::make_unique<ControlForm>(TagDictionary(data + "Merovel.xml"),
                                          Surroundings{dialogs, desktop, m_settings, {data, writable}});
 }
@@ -85,7 +92,13 @@ void Window::type(const char* box, const QString& text)
     if (text.isEmpty())
         QTest::keyClick(&widget, Qt::Key_Delete);
     for (const QChar character : text)
-        QTest::keyClick(&widget, character == QLatin1Char('\n') ? '\r' : character.toLatin1());
+        QTest::keyClick(&widget, character == u'\n' ? '\r' : character.toLatin1());
+}
+
+void Window::edit(const char* nodePath, const QString& text)
+{
+    select(nodePath);
+    type("NodeText", text);
 }
 
 void Window::visit(const char* box)
@@ -100,6 +113,14 @@ QString Window::text(const char* name)
     if (auto* label = qobject_cast<QLabel*>(&widget))
         return label->text();
     return boxText(widget);
+}
+
+QString Window::texts(const char* controls)
+{
+    QStringList texts;
+    for (const QByteArray& name : QByteArray(controls).split(' '))
+        texts << text(name);
+    return texts.join(u'|');
 }
 
 QTreeWidgetItem* Window::item(const char* nodePath)
@@ -145,8 +166,8 @@ QString Window::listed()
     QStringList names;
     const auto* list = control<QListView>("FilesFoundList").model();
     for (int row = 0; row < list->rowCount(); ++row)
-        names << list->index(row, 0).data().toString().section(QLatin1Char('/'), -1);
-    return names.join(QLatin1Char(' '));
+        names << list->index(row, 0).data().toString().section(u'/', -1);
+    return names.join(u' ');
 }
 
 std::optional<std::string> inFile(const std::string& path, const std::string& nodePath)
@@ -160,8 +181,14 @@ void setInFile(const std::string& path, const std::string& nodePath, const std::
 {
     XmlDocument document = loadDocument(path);
     document.selectSingleNode(nodePath).setText(text);
-    NoReports reporter;
+    RecordingReporter reporter;
     JpegDocument(reporter).WriteJpeg(document, path);
+}
+
+void blockSaving(const std::string& path)
+{
+    const std::filesystem::path file(path);
+    std::filesystem::create_directories(file.parent_path() / ("~" + file.filename().string()) / "full");
 }
 
 } // namespace ovisto::test

@@ -13,6 +13,7 @@
 
 #include <deque>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
@@ -55,7 +56,8 @@ template <class Control> Control& controlOf(const QWidget& form, const char* nam
 /// The main window on copies of sample photographs, and a person before it.
 class Window {
 public:
-    Window();
+    /// Opens the window with copies of these samples, where any are named.
+    Window(std::initializer_list<const char*> samples = {});
 
     /// Puts a copy of a sample into the folder, under another name if wanted.
     std::string copy(const char* sample, const char* name = nullptr);
@@ -71,9 +73,16 @@ public:
     void click(const char* button);
     void trigger(const char* menuItem);
     void type(const char* box, const QString& text);
+    /// Selects the node and types its value, which is not left yet.
+    void edit(const char* nodePath, const QString& text);
     /// Puts the focus into `box` and takes it away again.
     void visit(const char* box);
     QString text(const char* control);
+    /// The texts of controls, the names separated by a blank, joined by "|".
+    QString texts(const char* controls);
+    bool isVisible(const char* name) { return control<QWidget>(name).isVisible(); }
+    bool isEnabled(const char* name) { return control<QWidget>(name).isEnabled(); }
+    QString title() { return m_form->windowTitle(); }
 
     /// The tree item with this node path; null when there is none.
     QTreeWidgetItem* item(const char* nodePath);
@@ -122,5 +131,19 @@ std::optional<std::string> inFile(const std::string& path, const std::string& no
 
 /// Sets the text of a node in a file.
 void setInFile(const std::string& path, const std::string& nodePath, const std::string& text);
+
+/// Lets every attempt to write the file at `path` fail.
+void blockSaving(const std::string& path);
+
+/// The nodes that the tests look at.
+inline constexpr const char* kDescription = "/JPEG/Exif[@id='FFE1']/IFD[@id='010E']";
+inline constexpr const char* kExifIfd = "/JPEG/Exif[@id='FFE1']/IFDE";
+inline constexpr const char* kThumbnailIfd = "/JPEG/Exif[@id='FFE1']/IFD1";
+inline constexpr const char* kThumbnail = "/JPEG/Exif[@id='FFE1']/IFD1/THUM";
+inline constexpr const char* kMakerNote = "/JPEG/Exif[@id='FFE1']/IFDE/MAKE";
+inline constexpr const char* kTitle = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']";
+inline constexpr const char* kComments = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9C']";
+inline constexpr const char* kKeywords = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9E']";
+inline constexpr const char* kComment = "/JPEG/APP1[@id='FFFE']";
 
 } // namespace ovisto::test

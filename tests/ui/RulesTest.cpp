@@ -1,3 +1,4 @@
+#include "../support/CountingProgress.h"
 #include "../support/RecordingReporter.h"
 #include "collection/ContentFilter.h"
 #include "common/Error.h"
@@ -17,11 +18,12 @@
 
 #include <QAbstractItemModelTester>
 #include <QDir>
-#include <QListView>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace ovisto::test {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,18 +43,21 @@ private Q_SLOTS:
             QCOMPARE(translatedText(row.digits), std::string(row.text));
     }
 
-    void namesDataTypes()
+    void showsValuesByTheirType()
     {
-        QCOMPARE(dataTypeCaption(2, Protection::Free).value(), QStringLiteral("String"));
-        QCOMPARE(dataTypeCaption(11, Protection::Protected).value(), QStringLiteral("Unicode String Protected"));
-        QCOMPARE(dataTypeCaption(7, Protection::Required).value(), QStringLiteral("Undefined Required"));
+        QCOMPARE(dataTypeCaption(11, Protection::Protected).value(), u"Unicode String Protected"_s);
+        QCOMPARE(dataTypeCaption(7, Protection::Required).value(), u"Undefined Required"_s);
         QVERIFY(!dataTypeCaption(12, Protection::Free));
+        XmlDocument JpegDoc;
+        JpegDoc.loadText("<JPEG><IFD>one\ntwo</IFD></JPEG>");
+        for (const auto& [dataType, text] : {std::pair(2, "one\r\ntwo"), {11, "one\r\ntwo"}, {7, "one\ntwo"}})
+            QCOMPARE(valueText(JpegDoc.documentElement().childElement("IFD"), dataType), std::string(text));
     }
 
     void buildsTheTree()
     {
         QTemporaryDir folder;
-        const std::string path = folder.filePath(QStringLiteral("Merovel.xml")).toStdString();
+        const std::string path = folder.filePath(u"Merovel.xml"_s).toStdString();
         writeTextFile(path, "<JPEG label='File'><Exif id='FFE1' label='Exif'><IFD id='9C9B' label='Title'/>"
                             "<IFD id='0001' label='Technical' vis='1'/><IFD id='0002' label='Never' vis='2'/>"
                             "</Exif></JPEG>");
@@ -66,18 +71,15 @@ private Q_SLOTS:
                 leaves << QString::fromStdString(leaf.key + "<" + leaf.parentKey + " " + leaf.label);
             return leaves;
         };
-        QCOMPARE(told(false),
-                 QStringList({QStringLiteral("x000001< File"), QStringLiteral("x000002<x000001 Exif"),
-                              QStringLiteral("x000003<x000002 0004"), QStringLiteral("x000004<x000001 ")}));
+        QCOMPARE(told(false), QStringList({u"x000001< File"_s, u"x000002<x000001 Exif"_s, u"x000003<x000002 0004"_s,
+                                           u"x000004<x000001 "_s}));
         removeLeafKeys(JpegDoc);
-        QCOMPARE(told(true).value(2), QStringLiteral("x000003<x000002 Technical"));
+        QCOMPARE(told(true).value(2), u"x000003<x000002 Technical"_s);
         QCOMPARE(JpegDoc.selectSingleNode(leafXPath("x000004")).text(), std::string("4"));
         QCOMPARE(loadLeaves(JpegDoc, Merovel, false).osProperties.boxText(OsProperty::Title), std::string("Sunset"));
 
-        ErrorTrap trap;
         XmlDocument nothing;
-        trap.run([&] { loadLeaves(nothing, Merovel, false); });
-        QCOMPARE(trap.take().number, kObjectNotSet);
+        QCOMPARE(errorNumberOf([&] { loadLeaves(nothing, Merovel, false); }), kObjectNotSet);
     }
 
     void givesBackTheTextPutIn()
@@ -87,12 +89,12 @@ private Q_SLOTS:
             box.putText(QString::fromUtf8(text));
             QCOMPARE(box.exactText(), QString::fromUtf8(text));
         }
-        box.putText(QStringLiteral("a\n\u00A0b"));
+        box.putText(u"a\n\u00A0b"_s);
         QTest::keyClick(&box, Qt::Key_Return);
-        QCOMPARE(box.exactText(), QStringLiteral("\na\n\u00A0b"));
-        box.putText(QStringLiteral("a\r\nb"));
+        QCOMPARE(box.exactText(), u"\na\n\u00A0b"_s);
+        box.putText(u"a\r\nb"_s);
         QTest::keyClick(&box, Qt::Key_Return);
-        QCOMPARE(box.exactText(), QStringLiteral("\r\na\r\nb"));
+        QCOMPARE(box.exactText(), u"\r\na\r\nb"_s);
     }
 
     void stepsRoundTheList()
@@ -112,87 +114,70 @@ private Q_SLOTS:
         QCOMPARE(found.paths(), std::vector<std::string>{"a"});
     }
 
-    void holdsAMillionFiles()
-    {
-        FoundFiles found;
-        QListView view;
-        view.setUniformItemSizes(true);
-        view.setModel(&found);
-        found.append(std::vector<std::string>(1'000'000, "/a/folder/of/photographs/one of many.jpg"));
-        view.show();
-        view.setCurrentIndex(found.index(999'999));
-        QVERIFY(view.visualRect(found.index(999'999)).intersects(view.viewport()->rect()));
-    }
-
     void findsWhatIsNamed()
     {
-        class Stopping : public Progress {
-        public:
-            std::size_t left = 0;
-            bool step(const std::string&, std::size_t, std::size_t) override { return left > 0 && left-- > 0; }
-        };
-        class Reporter : public ErrorReporter {
-            void report(const Phrase& context, const Error&) override { qFatal("%s", inEnglish(context).c_str()); }
-        } reporter;
         QTemporaryDir folder;
         const QDir root(folder.path());
-        QVERIFY(root.mkpath(QStringLiteral("a/deep")));
-        for (const char* name : {"z.JPG", "b.jpeg", "c.png", "a/1.jpg", "a/deep/2.jpg"})
-            writeTextFile(root.filePath(QLatin1String(name)).toStdString(), "x");
-        const std::string path = folder.path().toStdString();
-        const auto names = [&](std::vector<std::string> named, std::size_t steps, bool subFolders = true) {
-            Stopping progress;
-            progress.left = steps;
-            ScanOptions options;
-            options.subFolders = subFolders;
-            QStringList result;
-            for (const std::string& found : namedFiles(named, options, progress, reporter))
-                result << root.relativeFilePath(QString::fromStdString(found));
-            return result.join(QLatin1Char(' '));
-        };
-        QCOMPARE(names({path}, 99), QStringLiteral("b.jpeg z.JPG a/1.jpg a/deep/2.jpg"));
-        QCOMPARE(names({path + "/a/../a", path + "/c.png", path}, 99, false),
-                 QStringLiteral("a/1.jpg c.png b.jpeg z.JPG"));
-        QCOMPARE(names({path + "/a", path, "gone.jpg"}, 1), QStringLiteral("a/1.jpg"));
+        QVERIFY(root.mkpath(u"a/deep"_s));
+        for (const QString& name : {u"z.JPG"_s, u"b.jpeg"_s, u"c.png"_s, u"a/1.jpg"_s, u"a/deep/2.jpg"_s})
+            writeTextFile(root.filePath(name).toStdString(), "x");
         QVERIFY(QDir::setCurrent(folder.path()));
-        QCOMPARE(names({"a", "gone.jpg"}, 99), QStringLiteral("a/1.jpg a/deep/2.jpg gone.jpg"));
+        const std::string path = folder.path().toStdString();
+        const struct {
+            std::vector<std::string> named;
+            std::size_t steps;
+            bool subFolders;
+            const char* found;
+        } cases[] = {{{path}, 99, true, "b.jpeg z.JPG a/1.jpg a/deep/2.jpg"},
+                     {{path + "/a/../a", path + "/c.png", path}, 99, false, "a/1.jpg c.png b.jpeg z.JPG"},
+                     {{path + "/a", path, "gone.jpg"}, 1, true, "a/1.jpg"},
+                     {{"a", "gone.jpg"}, 99, true, "a/1.jpg a/deep/2.jpg gone.jpg"}};
+        for (const auto& c : cases) {
+            CountingProgress progress(c.steps);
+            RecordingReporter reporter;
+            ScanOptions options;
+            options.subFolders = c.subFolders;
+            QStringList found;
+            for (const std::string& name : namedFiles(c.named, options, progress, reporter))
+                found << root.relativeFilePath(QString::fromStdString(name));
+            QCOMPARE(found.join(u' '), QLatin1String(c.found));
+            QVERIFY(reporter.contexts.empty());
+        }
     }
 
     void understandsTypedFolders()
     {
-        const QString home = QDir::homePath();
-        const QDir inHome(home);
-        QCOMPARE(typedFolder(QStringLiteral("/a/../b/")), QStringLiteral("/b"));
-        QCOMPARE(typedFolder(QStringLiteral("~")), QDir::cleanPath(home));
-        QCOMPARE(typedFolder(QStringLiteral("~/x")), inHome.filePath(QStringLiteral("x")));
-        QCOMPARE(typedFolder(QStringLiteral("~x")), inHome.filePath(QStringLiteral("~x")));
+        const QDir home = QDir::home();
+        QCOMPARE(typedFolder(u"/a/../b/"_s), u"/b"_s);
+        for (const auto& [typed, below] : {std::pair("~", "."), {"~/x", "x"}, {"~x", "~x"}, {"x", "x"}})
+            QCOMPARE(typedFolder(QLatin1String(typed)), QDir::cleanPath(home.filePath(QLatin1String(below))));
     }
 
     void tellsWhatAReportLeavesOut()
     {
         std::vector<FileFailure> leftOut{{"/a.jpg", {kOpenFailed, "File open failure /a.jpg"}},
                                          {"/b.jpg", {kOpenFailed, "not well-formed"}}};
-        QCOMPARE(leftOutMessage(leftOut), QStringLiteral("The report does not cover these files:\r\n"
-                                                         "File open failure /a.jpg\r\n/b.jpg: not well-formed"));
+        QCOMPARE(leftOutMessage(leftOut), u"The report does not cover these files:\r\n"
+                                          "File open failure /a.jpg\r\n/b.jpg: not well-formed"_s);
         leftOut.resize(12, leftOut.back());
-        QVERIFY(leftOutMessage(leftOut).endsWith(QStringLiteral("\r\nand 2 more")));
+        QVERIFY(leftOutMessage(leftOut).endsWith(u"\r\nand 2 more"_s));
     }
 
     void readsPlacements()
     {
-        QCOMPARE(placement(QStringLiteral("0,0,11655,8505")).value(), QRect(0, 0, 777, 567));
-        QCOMPARE(placement(QStringLiteral("-150, 30 ,1500,1500")).value(), QRect(-10, 2, 100, 100));
+        QCOMPARE(placement(u"0,0,11655,8505"_s).value(), QRect(0, 0, 777, 567));
+        QCOMPARE(placement(u"-150, 30 ,1500,1500"_s).value(), QRect(-10, 2, 100, 100));
         for (const char* nonsense : {"", "1,2,3", "left,top,wide,high", "0,0,0,0", "0,0,99999999999,15", "0,0,-15,15"})
             QVERIFY(!placement(QLatin1String(nonsense)));
         QTemporaryDir folder;
-        Settings settings(folder.filePath(QStringLiteral("settings.ini")));
-        settings.SaveSetting(QStringLiteral("Window"), QStringLiteral("far,off,the,screen"));
+        Settings settings(folder.filePath(u"settings.ini"_s));
+        settings.SaveSetting(u"Window"_s, u"far,off,the,screen"_s);
         QWidget window;
-        PlacementLoad(window, settings, QStringLiteral("Window"), QStringLiteral("0,0,4500,3000"));
+        PlacementLoad(window, settings, u"Window"_s, u"0,0,4500,3000"_s);
         QCOMPARE(window.size(), QSize(300, 200));
         window.move(20, 10);
-        PlacementSave(window, settings, QStringLiteral("Window"));
-        QCOMPARE(settings.GetSetting(QStringLiteral("Window"), {}), QStringLiteral("300,150,4500,3000"));
+        PlacementSave(window, settings, u"Window"_s);
+        QCOMPARE(settings.GetSetting(u"Window"_s, {}), u"300,150,4500,3000"_s);
     }
 
     void keepsWindowsOnTheScreen()
@@ -207,21 +192,20 @@ private Q_SLOTS:
     void forgetsWholeWords()
     {
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("settings.ini"));
-        ScanSettings scan = loadScanSettings(Settings(path), QStringLiteral("/here"));
-        QCOMPARE(scan.FolderNameSelected, QStringLiteral("/here"));
-        QVERIFY(scan.SubFolderScan && !scan.SearchAllWords && !scan.SearchRegExp && !scan.SearchWordsWhole);
-        scan.SearchWords = QStringLiteral("sea, \"sand\"");
+        Settings settings(folder.filePath(u"settings.ini"_s));
+        ScanSettings scan = loadScanSettings(settings, u"/here"_s);
+        ScanSettings first;
+        first.FolderNameSelected = u"/here"_s;
+        first.FilePattern = u"*.jpg;*.jpeg"_s;
+        QVERIFY(scan == first);
+        scan.SearchWords = u"sea, \"sand\""_s;
         scan.SubFolderScan = false;
         scan.SearchAllWords = scan.SearchWordsWhole = scan.SearchRegExp = scan.ListAppend = true;
-        Settings settings(path);
         saveScanSettings(scan, settings);
-        scan = loadScanSettings(Settings(path), {});
-        QCOMPARE(scan.SearchWords, QStringLiteral("sea, \"sand\""));
-        QVERIFY(!scan.SubFolderScan && scan.SearchAllWords && scan.SearchRegExp);
-        QVERIFY(!scan.SearchWordsWhole && !scan.ListAppend);
-        settings.SaveSetting(QStringLiteral("SubFolderScan"), QStringLiteral("yes"));
-        QVERIFY(!settings.choice(QStringLiteral("SubFolderScan"), true));
+        scan.SearchWordsWhole = scan.ListAppend = false;
+        QVERIFY(loadScanSettings(settings, {}) == scan);
+        settings.SaveSetting(u"SubFolderScan"_s, u"yes"_s);
+        QVERIFY(!settings.choice(u"SubFolderScan"_s, true));
     }
 
     void turnsPictures()
@@ -243,13 +227,11 @@ private Q_SLOTS:
     {
         RecordingReporter reporter;
         ScanReports reports(reporter);
-        for (const Phrase& context :
-             {Phrase("/proc/1"), Phrase("/proc/2"), Phrase(Message::CheckingContents), Phrase("/proc/3")})
+        for (const char* context : {"/proc/1", "/proc/2", kContentCheckContext, "/proc/3"})
             reports.report(context, systemError(kPermissionDenied));
-        QCOMPARE(reporter.contexts, std::vector<std::string>({"/proc/1", "Checking file contents"}));
-        QCOMPARE(notReadMessage(reports.notReadToo()),
-                 QStringLiteral("Other folders that could not be read (2):\r\n"
-                                "/proc/2: Permission denied\r\n/proc/3: Permission denied"));
+        QCOMPARE(reporter.contexts, std::vector<std::string>({"/proc/1", kContentCheckContext}));
+        QCOMPARE(notReadMessage(reports.notReadToo()), u"Other folders that could not be read (2):\r\n"
+                                                       "/proc/2: Permission denied\r\n/proc/3: Permission denied"_s);
     }
 
     void fitsPicturesTurned()
@@ -261,9 +243,7 @@ private Q_SLOTS:
         QCOMPARE(upright.height(), 300);
         QVERIFY(upright.width() < 300);
         QCOMPARE(fittedSize({65500, 1}, {100, 100}), QSize(100, 1));
-        ErrorTrap trap;
-        trap.run([&] { fittedPicture(samples + "README.md", {9, 9}); });
-        QCOMPARE(trap.take().number, kInvalidPicture);
+        QCOMPARE(errorNumberOf([&] { fittedPicture(samples + "README.md", {9, 9}); }), kInvalidPicture);
     }
 };
 

@@ -13,11 +13,13 @@
 
 namespace ovisto::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kHint = QStringLiteral("Press ESC or click the image to exit show,\r\n"
-                                     "left/right arrow to skip slides,\r\n"
-                                     "space to pause/unpause.");
+const QString kHint = u"Press ESC or click the image to exit show,\r\n"
+                      "left/right arrow to skip slides,\r\n"
+                      "space to pause/unpause."_s;
 
 /// How a show is started.
 struct Start {
@@ -30,18 +32,17 @@ struct Start {
 /// A show of copies of sample photographs, with a person before it.
 class Show {
 public:
-    Show() : m_settings(m_folder.filePath(QStringLiteral("settings.ini"))), m_selection(&m_files) {}
+    /// Names samples for the list; others are listed, but not there. Starts a show of them with `start`, where given.
+    explicit Show(const QStringList& names = {}, std::optional<Start> start = {}) : m_selection(&m_files)
+    {
+        for (const QString& name : names)
+            m_files.append({m_window.copy(qPrintable(name))});
+        if (start)
+            this->start(*start);
+    }
     ~Show() { delete m_form; }
 
-    std::string path(const char* name) const { return m_folder.filePath(QLatin1String(name)).toStdString(); }
-    /// Names samples for the list. Others are listed, but not there.
-    void list(const QStringList& names)
-    {
-        for (const QString& name : names) {
-            QFile::copy(QStringLiteral(OVISTO_SOURCE_FOLDER "/samples/") + name, m_folder.filePath(name));
-            m_files.append({m_folder.filePath(name).toStdString()});
-        }
-    }
+    std::string path(const char* name) const { return m_window.path(name); }
     FoundFiles& files() { return m_files; }
     int selectedFile() const { return m_selection.currentIndex().row(); }
 
@@ -50,7 +51,7 @@ public:
         auto timers = std::pair(std::make_unique<TestTimer>(), std::make_unique<TestTimer>());
         timer = timers.first.get();
         pointerTimer = timers.second.get();
-        m_form = new SlideForm({m_files, m_selection, dialogs, m_settings},
+        m_form = new SlideForm({m_files, m_selection, dialogs, settings()},
                                {std::move(timers.first), std::move(timers.second)}, nullptr);
         m_selection.setCurrentIndex(m_files.index(start.row), QItemSelectionModel::ClearAndSelect);
         m_form->SlideShow(start.fullscreen, start.resize, start.details, 5);
@@ -58,8 +59,8 @@ public:
 
     SlideForm& form() { return *m_form; }
     bool isOver() const { return !m_form || !m_form->isVisible(); }
-    SlidePicture& image() { return *m_form->findChild<SlidePicture*>(QStringLiteral("Image1")); }
-    CaptionLine& details() { return *m_form->findChild<CaptionLine*>(QStringLiteral("FileDetails")); }
+    SlidePicture& image() { return *m_form->findChild<SlidePicture*>(u"Image1"_s); }
+    CaptionLine& details() { return *m_form->findChild<CaptionLine*>(u"FileDetails"_s); }
     QString title() const { return m_form->windowTitle(); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(m_form.data(), key, modifiers); }
     void movePointer(const QPoint& to)
@@ -69,7 +70,7 @@ public:
     }
     /// A size of the window in points of the screen.
     QSize onScreen(const QSize& size) const { return size * m_form->devicePixelRatioF(); }
-    QSize sizeInFile(const char* name) const { return QImage(m_folder.filePath(QLatin1String(name))).size(); }
+    QSize sizeInFile(const char* name) const { return QImage(QString::fromStdString(path(name))).size(); }
     /// Compares what is to be seen with the picture, point by point, in the middle of black.
     void verifyPoints()
     {
@@ -83,100 +84,79 @@ public:
         QCOMPARE(screen.copy(place), picture.convertToFormat(screen.format()));
         QCOMPARE(m_form->grab().toImage().pixelColor(0, 50), QColor(Qt::black));
     }
-    QString setting(const char* key) const { return m_settings.GetSetting(QLatin1String(key), {}); }
-    Settings& settings() { return m_settings; }
+    Settings& settings() { return m_window.settings(); }
+    QString place() { return settings().GetSetting(u"SlideForm"_s, {}); }
 
-    TestDialogs dialogs;
+private:
+    Window m_window; // which is not opened
+
+public:
+    TestDialogs& dialogs = m_window.dialogs;
     TestTimer* timer = nullptr;
     TestTimer* pointerTimer = nullptr;
 
 private:
-    QTemporaryDir m_folder;
-    Settings m_settings;
     FoundFiles m_files;
     QItemSelectionModel m_selection;
     QPointer<SlideForm> m_form;
 };
 
-const QStringList kThree = {QStringLiteral("little-endian.jpg"), QStringLiteral("no-exif.jpg"),
-                            QStringLiteral("portrait.jpg")};
+const QStringList kThree = {u"little-endian.jpg"_s, u"no-exif.jpg"_s, u"portrait.jpg"_s};
 
 class SlideFormTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void goesOnByItself()
+    void goesOnByItselfAndByKeys()
     {
-        Show show;
-        show.list(kThree);
-        show.start({.row = 1});
-        QTRY_COMPARE(show.title(), QStringLiteral("no-exif.jpg"));
-        QCOMPARE(show.timer->interval, 5000);
-        QVERIFY(show.details().text().isEmpty());
-        QVERIFY(!show.image().picture().isNull());
-        show.timer->pass();
-        QTRY_COMPARE(show.title(), QStringLiteral("portrait.jpg"));
-        QVERIFY(show.image().picture().height() > show.image().picture().width());
-        show.timer->pass();
-        QTRY_COMPARE(show.title(), QStringLiteral("little-endian.jpg"));
-        QVERIFY(show.details().text().contains(QLatin1String("\"Mountain lake\" -- ")));
-        QVERIFY(show.details().isVisible());
-    }
-
-    void isMovedByKeys()
-    {
-        Show show;
-        show.list(kThree);
-        show.start();
-        show.press(Qt::Key_Left);
-        QTRY_COMPARE(show.title(), QStringLiteral("portrait.jpg"));
-        show.press(Qt::Key_Right);
-        QTRY_COMPARE(show.title(), QStringLiteral("little-endian.jpg"));
+        Show show(kThree, Start{.row = 1});
+        QTRY_COMPARE(show.title(), u"no-exif.jpg"_s);
+        QVERIFY(show.details().text().isEmpty() && !show.image().picture().isNull());
+        constexpr auto kTime = Qt::Key_unknown; // no key: time passes
+        const struct {
+            Qt::Key key;
+            const char* title;
+            int interval;
+        } steps[] = {{kTime, "portrait.jpg", 5000},
+                     {kTime, "little-endian.jpg", 5000},
+                     {Qt::Key_Left, "portrait.jpg", 5000},
+                     {Qt::Key_Right, "little-endian.jpg", 5000},
+                     {Qt::Key_Space, "little-endian.jpg (paused)", 0},
+                     {Qt::Key_Right, "no-exif.jpg (paused)", 0},
+                     {Qt::Key_Left, "little-endian.jpg", 5000},
+                     {Qt::Key_Space, "little-endian.jpg (paused)", 0},
+                     {Qt::Key_Space, "little-endian.jpg", 5000}};
+        for (const auto& step : steps) {
+            if (step.key == kTime)
+                show.timer->pass();
+            else
+                show.press(step.key);
+            QTRY_COMPARE(show.title(), QLatin1String(step.title));
+            QCOMPARE(show.timer->interval, step.interval);
+        }
+        QVERIFY(show.details().isVisible() && show.details().text().contains("\"Mountain lake\" -- "_L1) &&
+                !show.details().text().contains(u"paused"_s));
         for (const auto modifier : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
             for (const auto key : {Qt::Key_Escape, Qt::Key_Right, Qt::Key_Space, Qt::Key_A})
                 show.press(key, modifier);
         }
         show.press(Qt::Key_Shift);
-        QVERIFY(!show.isOver() && show.dialogs.messages.isEmpty());
-        QCOMPARE(show.title(), QStringLiteral("little-endian.jpg"));
+        QVERIFY(!show.isOver() && show.dialogs.messages.isEmpty() && show.title() == u"little-endian.jpg"_s);
         for (const auto key : {Qt::Key_A, Qt::Key_Return, Qt::Key_Up, Qt::Key_F1, Qt::Key_Tab})
             show.press(key);
         QCOMPARE(show.dialogs.taken(), QStringList(5, kHint));
     }
 
-    void pausesInAWindow()
-    {
-        Show show;
-        show.list(kThree);
-        show.start();
-        QTRY_COMPARE(show.title(), QStringLiteral("little-endian.jpg"));
-        const QString line = show.details().text();
-        show.press(Qt::Key_Space);
-        QCOMPARE(show.title(), QStringLiteral("little-endian.jpg (paused)"));
-        QCOMPARE(show.timer->interval, 0);
-        QCOMPARE(show.details().text(), line);
-        show.press(Qt::Key_Right);
-        QTRY_COMPARE(show.title(), QStringLiteral("no-exif.jpg (paused)"));
-        show.press(Qt::Key_Left);
-        QTRY_COMPARE(show.title(), QStringLiteral("little-endian.jpg"));
-        show.press(Qt::Key_Space);
-        show.press(Qt::Key_Space);
-        QCOMPARE(show.title(), QStringLiteral("little-endian.jpg"));
-        QCOMPARE(show.timer->interval, 5000);
-    }
-
     void pausesOnAFullScreen()
     {
         for (const bool details : {true, false}) {
-            Show show;
-            show.list(kThree);
-            show.start({.fullscreen = true, .details = details});
+            Show show(kThree, Start{.fullscreen = true, .details = details});
             QTRY_VERIFY(!show.image().picture().isNull());
             const QString line = show.details().text();
-            QVERIFY(line.startsWith(QLatin1String("\"Mountain lake\"")));
+            QVERIFY(line.startsWith("\"Mountain lake\""_L1));
             QCOMPARE(show.details().isVisible(), details);
             show.press(Qt::Key_Space);
-            QCOMPARE(show.details().text(), line + QStringLiteral(" (paused)"));
+            QCOMPARE(show.details().text(), line + u" (paused)"_s);
             QVERIFY(show.details().isVisible() && show.title().isEmpty());
             show.press(Qt::Key_Space);
             QCOMPARE(show.details().text(), line);
@@ -186,74 +166,60 @@ private Q_SLOTS:
 
     void coversTheScreen()
     {
-        Show show;
-        show.list(kThree);
-        show.settings().SaveSetting(QStringLiteral("SlideForm"), QStringLiteral("150,300,6000,4500"));
+        Show show(kThree);
+        show.settings().SaveSetting(u"SlideForm"_s, u"150,300,6000,4500"_s);
         show.start({.fullscreen = true});
-        QVERIFY(show.form().isFullScreen());
-        QVERIFY(show.form().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+        QVERIFY(show.form().isFullScreen() && show.form().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
         QTRY_COMPARE(show.form().geometry(), show.form().screen()->geometry());
         show.movePointer({50, 50});
         show.pointerTimer->pass();
-        QCOMPARE(show.form().cursor().shape(), Qt::BlankCursor);
         QCOMPARE(show.pointerTimer->interval, 0);
-        show.movePointer({50, 50}); // as when the picture below it changes
-        QCOMPARE(show.form().cursor().shape(), Qt::BlankCursor);
-        show.movePointer({60, 50});
+        for (const int x : {50, 60}) { // not moved, as when the picture below changes; and moved
+            QCOMPARE(show.form().cursor().shape(), Qt::BlankCursor);
+            show.movePointer({x, 50});
+        }
         QCOMPARE(show.form().cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(show.pointerTimer->interval, 2000);
         show.press(Qt::Key_Escape);
-        QCOMPARE(show.setting("SlideForm"), QStringLiteral("150,300,6000,4500"));
+        QCOMPARE(show.place(), u"150,300,6000,4500"_s);
     }
 
-    void remembersItsPlace()
+    void remembersItsPlaceAndFile()
     {
-        Show show;
-        show.list(kThree);
-        show.start();
-        QCOMPARE(show.form().pos(), QPoint(0, 0));
-        QCOMPARE(show.form().size(), QSize(777, 567));
+        Show show(kThree, Start{});
+        const auto place = [&] { return QRect(show.form().pos(), show.form().size()); };
+        QCOMPARE(place(), QRect(0, 0, 777, 567));
         show.form().move(30, 40);
         show.form().resize(500, 400);
         show.press(Qt::Key_Right);
         show.form().close();
         QCOMPARE(show.timer->interval, 0);
         QCOMPARE(show.selectedFile(), 0); // as the show was not ended by key or click
-        QCOMPARE(show.setting("SlideForm"), QStringLiteral("450,600,7500,6000"));
-        show.start();
-        QCOMPARE(show.form().pos(), QPoint(30, 40));
-        QCOMPARE(show.form().size(), QSize(500, 400));
-    }
-
-    void endsAtTheFileShown()
-    {
+        QCOMPARE(show.place(), u"450,600,7500,6000"_s);
         for (const bool byClick : {true, false}) {
-            Show show;
-            show.list(kThree);
             show.start();
+            QCOMPARE(place(), QRect(30, 40, 500, 400));
             show.press(Qt::Key_Left);
-            QTRY_COMPARE(show.title(), QStringLiteral("portrait.jpg"));
+            QTRY_COMPARE(show.title(), u"portrait.jpg"_s);
             if (byClick)
                 QTest::mouseClick(&show.image(), Qt::LeftButton);
             else
                 show.press(Qt::Key_Escape);
-            QVERIFY(show.isOver());
-            QCOMPARE(show.selectedFile(), 2);
+            QVERIFY(show.isOver() && show.selectedFile() == 2);
         }
     }
 
     void showsWhatCannotBeShown()
     {
-        Show show;
+        Show show({u"little-endian.jpg"_s, u"missing.jpg"_s, u"text.jpg"_s});
         writeTextFile(show.path("text.jpg"), "This is no picture.");
-        show.list({QStringLiteral("little-endian.jpg"), QStringLiteral("missing.jpg"), QStringLiteral("text.jpg")});
         show.start();
-        QTRY_COMPARE(show.title(), QStringLiteral("little-endian.jpg"));
+        QTRY_COMPARE(show.title(), u"little-endian.jpg"_s);
         show.timer->pass();
-        QTRY_COMPARE(show.image().text(), QStringLiteral("missing.jpg\nFile not found"));
+        QTRY_COMPARE(show.image().text(), u"missing.jpg\nFile not found"_s);
         QVERIFY(show.details().text().isEmpty());
         show.timer->pass();
-        QTRY_COMPARE(show.image().text(), QStringLiteral("text.jpg\nInvalid picture"));
+        QTRY_COMPARE(show.image().text(), u"text.jpg\nInvalid picture"_s);
         show.timer->pass();
         QTRY_VERIFY(!show.image().picture().isNull());
         QVERIFY(show.image().text().isEmpty() && show.dialogs.messages.isEmpty());
@@ -261,23 +227,21 @@ private Q_SLOTS:
 
     void outlivesItsFiles()
     {
-        Show show;
-        show.list(kThree);
-        show.start();
-        QTRY_COMPARE(show.title(), QStringLiteral("little-endian.jpg"));
+        Show show(kThree, Start{});
+        QTRY_COMPARE(show.title(), u"little-endian.jpg"_s);
         QTest::qWait(100); // the neighbours are there
         for (const char* name : {"little-endian.jpg", "no-exif.jpg", "portrait.jpg"})
             QFile::remove(QString::fromStdString(show.path(name)));
         show.timer->pass();
-        QTRY_COMPARE(show.image().text(), QStringLiteral("no-exif.jpg\nFile not found"));
+        QTRY_COMPARE(show.image().text(), u"no-exif.jpg\nFile not found"_s);
         show.timer->pass();
-        QTRY_COMPARE(show.title(), QStringLiteral("portrait.jpg"));
+        QTRY_COMPARE(show.title(), u"portrait.jpg"_s);
         show.files().remove(1, 2);
         show.timer->pass();
-        QTRY_COMPARE(show.title(), QStringLiteral("little-endian.jpg"));
+        QTRY_COMPARE(show.title(), u"little-endian.jpg"_s);
         show.files().clear();
         show.press(Qt::Key_Left);
-        QTRY_COMPARE(show.title(), QStringLiteral("Slide Show"));
+        QTRY_COMPARE(show.title(), u"Slide Show"_s);
         show.timer->pass();
         QVERIFY(!show.isOver() && show.image().picture().isNull());
         QTest::mouseClick(&show.image(), Qt::LeftButton);
@@ -286,13 +250,11 @@ private Q_SLOTS:
 
     void fitsThePicture()
     {
-        Show show;
-        show.list({QStringLiteral("portrait.jpg")});
-        show.start({.details = false});
-        show.form().resize(200, 100);
-        QTRY_COMPARE(show.image().picture().height(), show.onScreen({200, 100}).height());
-        show.form().resize(301, 150);
-        QTRY_COMPARE(show.image().picture().height(), show.onScreen({301, 150}).height());
+        Show show({u"portrait.jpg"_s}, Start{.details = false});
+        for (const QSize size : {QSize(200, 100), QSize(301, 150)}) {
+            show.form().resize(size);
+            QTRY_COMPARE(show.image().picture().height(), show.onScreen(size).height());
+        }
         show.verifyPoints();
         show.form().resize(800, 700);
         QTRY_COMPARE(show.image().picture().size(), show.sizeInFile("portrait.jpg").transposed());
@@ -301,9 +263,7 @@ private Q_SLOTS:
 
     void scrollsALargePicture()
     {
-        Show show;
-        show.list({QStringLiteral("portrait.jpg")});
-        show.start({.resize = false});
+        Show show({u"portrait.jpg"_s}, Start{.resize = false});
         show.form().resize(100, 150);
         QTRY_COMPARE(show.image().picture().size(), show.sizeInFile("portrait.jpg").transposed());
         QTRY_COMPARE(show.image().height(), qRound(show.image().picture().height() / show.form().devicePixelRatioF()));
@@ -315,23 +275,21 @@ private Q_SLOTS:
 
     void opensFromTheMainWindow()
     {
-        Window window;
-        window.open({window.copy("little-endian.jpg"), window.copy("night.jpg"), window.copy("no-exif.jpg")});
+        Window window{"little-endian.jpg", "night.jpg", "no-exif.jpg"};
         window.click("SlideShower");
         window.click("SlideShower");
         QCOMPARE(window.form().findChildren<SlideShowOptionForm*>().size(), 1);
         auto& options = window.control<SlideShowOptionForm>("SlideShowOptionForm");
-        QTRY_VERIFY(options.isVisible());
-        QVERIFY(!options.isModal());
+        QTRY_VERIFY(options.isVisible() && !options.isModal());
         window.control<QCheckBox>("FullscreenOpt").setChecked(false);
         window.click("OKButton");
         auto& show = window.control<SlideForm>("SlideForm");
         QVERIFY(show.isVisible() && !show.isFullScreen());
         QTest::keyClick(&show, Qt::Key_Right);
-        QTRY_COMPARE(show.windowTitle(), QStringLiteral("night.jpg"));
+        QTRY_COMPARE(show.windowTitle(), u"night.jpg"_s);
         QTest::keyClick(&show, Qt::Key_Escape);
         QCOMPARE(window.selectedFile(), 1);
-        QTRY_COMPARE(window.form().windowTitle(), QStringLiteral("night.jpg[*]"));
+        QTRY_COMPARE(window.form().windowTitle(), u"night.jpg[*]"_s);
 
         window.click("SlideShower");
         window.click("OKButton");
@@ -341,51 +299,40 @@ private Q_SLOTS:
         QVERIFY(!another || !another->isVisible());
     }
 
-    void remembersOptions_data()
-    {
-        QTest::addColumn<QString>("button");
-        QTest::newRow("of a show") << QStringLiteral("OKButton");
-        QTest::newRow("of no show") << QStringLiteral("CancelButton");
-    }
-
     void remembersOptions()
     {
-        QFETCH(QString, button);
-        Show show;
-        TestDialogs dialogs;
-        QWidget owner;
-        QItemSelectionModel selection(&show.files());
-        const auto opened = [&] {
-            auto* form = new SlideShowOptionForm({show.files(), selection, dialogs, show.settings()}, &owner);
-            form->show();
-            return form;
-        };
-        const auto box = [](QWidget* form, const char* name) {
-            return form->findChild<QCheckBox*>(QLatin1String(name));
-        };
-        QWidget* form = opened();
-        for (const char* name : {"FullscreenOpt", "ResizeOpt", "DetailsOpt"})
-            QVERIFY(box(form, name)->isChecked());
-        auto* seconds = form->findChild<QLineEdit*>(QStringLiteral("SlideSecondsPer"));
-        QCOMPARE(seconds->text(), QStringLiteral("5"));
-        box(form, "FullscreenOpt")->setChecked(false);
-        box(form, "DetailsOpt")->setChecked(false);
-        seconds->setText(QStringLiteral("40"));
-        QTest::mouseClick(form->findChild<QPushButton*>(button), Qt::LeftButton);
-        QVERIFY(!form->isVisible());
-        QCOMPARE(owner.findChildren<SlideForm*>().size(), button == QLatin1String("OKButton") ? 1 : 0);
-        QCOMPARE(show.setting("SlideFullscreen"), QStringLiteral("0"));
-        QCOMPARE(show.setting("SlideResize"), QStringLiteral("1"));
-        QCOMPARE(show.setting("SlideDetails"), QStringLiteral("0"));
-        QCOMPARE(show.setting("SlideSecondsPer"), QStringLiteral("40"));
+        for (const char* button : {"OKButton", "CancelButton"}) {
+            Show show;
+            QWidget owner;
+            QItemSelectionModel selection(&show.files());
+            const auto opened = [&]() -> QWidget& {
+                auto* form = new SlideShowOptionForm({show.files(), selection, show.dialogs, show.settings()}, &owner);
+                form->show();
+                return *form;
+            };
+            /// Which options are on, and the seconds.
+            const auto options = [](QWidget& form) {
+                QString on;
+                for (const char* name : {"FullscreenOpt", "ResizeOpt", "DetailsOpt"})
+                    on += controlOf<QCheckBox>(form, name).isChecked() ? u'1' : u'0';
+                return on + u' ' + controlOf<QLineEdit>(form, "SlideSecondsPer").text();
+            };
+            QWidget& first = opened();
+            QCOMPARE(options(first), u"111 5"_s);
+            controlOf<QCheckBox>(first, "FullscreenOpt").setChecked(false);
+            controlOf<QCheckBox>(first, "DetailsOpt").setChecked(false);
+            controlOf<QLineEdit>(first, "SlideSecondsPer").setText(u"40"_s);
+            QTest::mouseClick(&controlOf<QPushButton>(first, button), Qt::LeftButton);
+            QVERIFY(!first.isVisible());
+            QCOMPARE(owner.findChildren<SlideForm*>().size(), button == "OKButton"_ba ? 1 : 0);
 
-        form = opened();
-        QVERIFY(!box(form, "FullscreenOpt")->isChecked() && box(form, "ResizeOpt")->isChecked());
-        seconds = form->findChild<QLineEdit*>(QStringLiteral("SlideSecondsPer"));
-        seconds->setText(QStringLiteral("soon"));
-        QTest::mouseClick(form->findChild<QPushButton*>(QStringLiteral("OKButton")), Qt::LeftButton);
-        QVERIFY(form->isVisible());
-        QCOMPARE(dialogs.taken(), QStringList(QStringLiteral("Seconds/Slide\r\n13 : Type mismatch")));
+            QWidget& second = opened();
+            QCOMPARE(options(second), u"010 40"_s);
+            controlOf<QLineEdit>(second, "SlideSecondsPer").setText(u"soon"_s);
+            QTest::mouseClick(&controlOf<QPushButton>(second, "OKButton"), Qt::LeftButton);
+            QVERIFY(second.isVisible());
+            QCOMPARE(show.dialogs.taken(), QStringList(u"Seconds/Slide\r\n13 : Type mismatch"_s));
+        }
     }
 };
 

@@ -17,6 +17,8 @@ struct ScanSettings {
     bool SearchAllWords = false;
     bool SearchWordsWhole = false;
     bool SearchRegExp = false;
+
+    bool operator==(const ScanSettings&) const = default;
 };
 
 /// As the settings store has it; `folder` is where a first run looks. ListAppend and FilePattern are not stored.

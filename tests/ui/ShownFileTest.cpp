@@ -1,0 +1,225 @@
+#include "ui/ControlForm/ShownFile.h"
+#include "../support/RecordingReporter.h"
+#include "ControlFormFixture.h"
+#include "common/system/File.h"
+#include "document/NodePath.h"
+
+#include <QFile>
+
+namespace ovisto::test {
+
+using namespace Qt::StringLiterals;
+using SaveResult = ShownFile::SaveResult;
+
+namespace {
+
+/// A window that notes what it is told, and a person who gives one answer.
+class TestWindow : public ShownFile::Window {
+public:
+    bool answer = false;
+    QStringList told;
+    bool isMarked = false;
+
+    bool wantsToSave(const std::string& path) override
+    {
+        told << QString::fromStdString(path).section(u'/', -1) + u'?';
+        return answer;
+    }
+    void showChanged(bool changed) override { isMarked = changed; }
+    void showBusy(bool busy) override { told << (busy ? u"busy"_s : u"ready"_s); }
+};
+
+const TagDictionary& dictionary()
+{
+    static const TagDictionary dictionary(OVISTO_SOURCE_FOLDER "/data/Merovel.xml");
+    return dictionary;
+}
+
+/// A copy of a sample, open.
+struct Opened {
+    explicit Opened(const char* sample) : path(folder.copy(sample)) { open(); }
+
+    void open(const KeepOptions& keep = {})
+    {
+        file.open(path, keep);
+        loadTree();
+    }
+    void loadTree()
+    {
+        loadError = errorNumberOf([&] { leaves = file.loadTree(true); });
+    }
+    XmlNode node(const char* nodePath) { return file.node(nodePath); }
+    std::string text(const char* nodePath) { return node(nodePath).text(); }
+    /// The contexts of what was reported since the last time.
+    std::vector<std::string> reported() { return std::exchange(reporter.contexts, {}); }
+
+    test::Window folder;
+    TestWindow window;
+    RecordingReporter reporter;
+    std::string path;
+    ShownFile file{dictionary(), reporter, window};
+    std::vector<Leaf> leaves;
+    int loadError = 0;
+};
+
+} // namespace
+
+class ShownFileTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isSavedWhenThePersonWantsIt()
+    {
+        enum { Unchanged, Changed, Blocked };
+        const struct {
+            const char* name;
+            int file;
+            bool ask, answer;
+            SaveResult result;
+            const char* told;
+            bool isWritten, isChanged;
+        } cases[] = {{"unchanged", Unchanged, false, true, SaveResult::NotSaved, "", false, false},
+                     {"unchanged, to be asked", Unchanged, true, true, SaveResult::NotSaved, "", false, false},
+                     {"not to be asked", Changed, false, false, SaveResult::Saved, "busy ready", true, false},
+                     {"yes", Changed, true, true, SaveResult::Saved, "night.jpg? busy ready", true, false},
+                     {"no", Changed, true, false, SaveResult::NotSaved, "night.jpg?", false, false},
+                     {"yes, and fails", Blocked, true, true, SaveResult::Failed, "night.jpg? busy ready", false, true},
+                     // The mark goes whatever becomes of a save that nobody was asked about.
+                     {"fails unasked", Blocked, false, false, SaveResult::Failed, "busy ready", false, false}};
+        for (const auto& c : cases) {
+            Opened opened("night.jpg");
+            const std::string before = readTextFile(opened.path);
+            if (c.file != Unchanged)
+                opened.file.setText(opened.node(kDescription), "Typed");
+            if (c.file == Blocked)
+                blockSaving(opened.path);
+            opened.window.answer = c.answer;
+            QVERIFY2(opened.file.OfferSave(c.ask) == c.result, c.name);
+            QCOMPARE(opened.window.told.join(u' '), QLatin1String(c.told));
+            QCOMPARE(inFile(opened.path, kDescription) == "Typed", c.isWritten);
+            QCOMPARE(readTextFile(opened.path) == before, !c.isWritten);
+            QVERIFY2(opened.file.isChanged() == c.isChanged && opened.window.isMarked == c.isChanged, c.name);
+            QCOMPARE(opened.reporter.contexts.empty(), c.result != SaveResult::Failed);
+        }
+        Opened unchanged("night.jpg"); // saving means writing
+        QFile::remove(QString::fromStdString(unchanged.path));
+        QVERIFY(unchanged.file.SaveDocument() == SaveResult::Failed);
+    }
+
+    void countsAsChangedByWhatChangesIt()
+    {
+        using Change = std::function<void(Opened&)>;
+        const auto set = [](const char* node, const char* text) -> Change {
+            return [=](Opened& opened) { opened.file.setText(opened.node(node), text); };
+        };
+        const auto box = [](OsProperty property, const char* text) -> Change {
+            return [=](Opened& opened) { opened.file.setBoxText(property, text); };
+        };
+        const auto add = [](const char* node, const char* added) -> Change {
+            return [=](Opened& opened) { QCOMPARE(opened.file.addNode(dictionary().entry(node)), std::string(added)); };
+        };
+        const auto remove = [](const char* node, const char* itemToo) -> Change {
+            return [=](Opened& opened) {
+                const std::string key = *itemToo != 0 ? AttributeGet(opened.node(itemToo), "leafIndex") : std::string();
+                QCOMPARE(opened.file.deleteNode(opened.node(node)), key);
+            };
+        };
+        const auto twice = [](const Change& first, const Change& second) -> Change {
+            return [=](Opened& opened) { first(opened), opened.loadTree(), second(opened); };
+        };
+        const char* own = "little-endian.jpg";
+        const char* none = "no-exif.jpg";
+        const auto title = box(OsProperty::Title, "Storm");
+        const auto keywords = box(OsProperty::Keywords, "a\r\nb");
+        const struct {
+            const char* sample;
+            Change change;
+            bool isChanged;
+            const char *node, *text; ///< what is there after the change
+        } cases[] = {
+            {own, set(kDescription, "Mountain lake before breakfast"), false, kTitle, "Mountain lake"},
+            {own, set(kDescription, "a\r\nb"), true, kDescription, "a\r\nb"},
+            {none, box(OsProperty::Title, ""), false, "/JPEG/Exif", ""},
+            {own, box(OsProperty::Title, "Mountain lake"), false, kTitle, "Mountain lake"},
+            {own, box(OsProperty::Title, ""), true, kTitle, ""},
+            {none, keywords, true, kKeywords, "a\r\nb"},
+            // The node of a first title counts as that of the keywords, so its text waits for the next tree.
+            {none, title, true, kTitle, ""},
+            {none, twice(title, title), true, kTitle, "Storm"},
+            {none, twice(title, keywords), true, kKeywords, "a\r\nb"},
+            {own, add(kExifIfd, ""), false, kTitle, "Mountain lake"},
+            {none, add(kThumbnail, kThumbnail), true, "/JPEG/Exif/IFD1/IFD[@id='0103']", "6"},
+            {none, add(kThumbnail, kThumbnail), true, "//*[@leafIndex]", ""},
+            {own, remove(kThumbnail, kThumbnailIfd), true, kThumbnailIfd, ""},
+            {own, remove(kExifIfd, ""), true, "/JPEG/Exif/IFD[@id='8769']", ""}, // whose item stays
+        };
+        for (const auto& c : cases) {
+            Opened opened(c.sample);
+            c.change(opened);
+            QVERIFY2(opened.file.isChanged() == c.isChanged && opened.window.isMarked == c.isChanged, c.node);
+            QCOMPARE(opened.text(c.node), std::string(c.text));
+            opened.open(); // which begins anew
+            QVERIFY2(!opened.file.isChanged() && !opened.window.isMarked && opened.reporter.contexts.empty(), c.node);
+        }
+    }
+
+    void showsLinesAsTheBoxesNeedThem()
+    {
+        Opened opened("little-endian.jpg");
+        setInFile(opened.path, kTitle, "up\n\tdown\u00A0");
+        setInFile(opened.path, kComments, "first\nsecond");
+        opened.open();
+        QCOMPARE(opened.file.boxText(OsProperty::Title), std::string("up\n\tdown\u00A0"));
+        QCOMPARE(opened.file.boxText(OsProperty::Comments), std::string("first\r\nsecond"));
+        for (const auto property : {OsProperty::Title, OsProperty::Comments})
+            opened.file.setBoxText(property, opened.file.boxText(property));
+        QVERIFY(!opened.file.isChanged());
+    }
+
+    void reportsWhatCannotBeRead()
+    {
+        Opened opened("xmp.jpg");
+        QVERIFY(!opened.leaves.empty() && opened.loadError == 0);
+        opened.open({.pCodifyExif1 = false});
+        QVERIFY(opened.file.isChanged() && !opened.node("/JPEG/APP1[@id='FFE1']"));
+
+        std::string bytes = readTextFile(opened.path);
+        writeTextFile(opened.path, std::string(bytes).replace(bytes.find("<?xpacket") + 20, 3, "]]>"));
+        opened.open();
+        std::vector<std::string> contexts = opened.reported();
+        QCOMPARE(contexts.size(), std::size_t{1});
+        QVERIFY(contexts[0].find(" line:") < contexts[0].find(" pos:") &&
+                contexts[0].find(" src:") < contexts[0].size());
+        QCOMPARE(opened.loadError, kObjectNotSet);
+        bytes = readTextFile(opened.path);
+        QVERIFY(opened.file.SaveDocument() == SaveResult::Failed && readTextFile(opened.path) == bytes);
+
+        opened.reported();
+        writeTextFile(opened.path, "Dear diary");
+        opened.open();
+        contexts = opened.reported();
+        QCOMPARE(contexts.size(), std::size_t{2});
+        QVERIFY(contexts[0].empty() && contexts[1].find(" line:") < contexts[1].size());
+        opened.file.close();
+        QVERIFY(!opened.file.isOpen() && !opened.file.document().documentElement());
+    }
+
+    void exportsItsDocument()
+    {
+        Opened opened("night.jpg");
+        opened.file.setText(opened.node(kDescription), "Exported");
+        opened.file.saveXml();
+        const std::string xml = readTextFile(opened.path + ".XML");
+        QVERIFY(xml.find(">Exported<") != std::string::npos && xml.find("leafIndex") == std::string::npos);
+        QCOMPARE(opened.window.told.join(u' '), u"busy ready"_s);
+        QFile::remove(QString::fromStdString(opened.path + ".XML"));
+        blockSaving(opened.path + ".XML/~"); // a folder of that name is in the way
+        opened.file.saveXml();
+        QCOMPARE(opened.reported(), std::vector<std::string>{"Save XML File " + opened.path + ".XML"});
+    }
+};
+
+} // namespace ovisto::test
+
+QTEST_MAIN(ovisto::test::ShownFileTest)
+#include "ShownFileTest.moc"
