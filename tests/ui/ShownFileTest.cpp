@@ -155,7 +155,9 @@ private Q_SLOTS:
         };
         for (const auto& c : cases) {
             Opened opened(c.sample);
+            const std::string before = opened.file.document().xml();
             c.change(opened);
+            QCOMPARE(opened.file.document().xml() == before, !c.isChanged);
             QVERIFY2(opened.file.isChanged() == c.isChanged && opened.window.isMarked == c.isChanged, c.node);
             QCOMPARE(opened.text(c.node), std::string(c.text));
             opened.open(); // which begins anew
