@@ -264,6 +264,7 @@ private Q_SLOTS:
         QCOMPARE(upright->picture.height(), 60);
         QVERIFY(upright->picture.width() < 60);
         QVERIFY(decoded(samples + "no-exif.jpg", kAny, wanted)->details.isEmpty());
+        QCOMPARE(decoded(samples + "README.md", kAny, wanted)->failure, u"README.md\nInvalid picture"_s);
         QVERIFY(!decoded(samples + "portrait.jpg", 100, wanted));
         QVERIFY(!decoded(samples + "portrait.jpg", kAny, abandoned));
     }
