@@ -237,7 +237,7 @@ Bytes imageData(const Bytes& jpeg)
     std::size_t position = 2;
     while (position + 4 <= jpeg.size()) {
         const bool isScan = jpeg[position] == 0xFF && jpeg[position + 1] == 0xDA;
-        position += std::size_t{2} + 256 * jpeg[position + 2] + jpeg[position + 3];
+        position += 2 + std::size_t{256} * jpeg[position + 2] + jpeg[position + 3];
         if (isScan && position + 2 <= jpeg.size())
             return {jpeg.begin() + static_cast<std::ptrdiff_t>(position), jpeg.end() - 2};
     }
