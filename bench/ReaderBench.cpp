@@ -16,7 +16,7 @@ std::string photograph;
 
 class Silent : public ovisto::ErrorReporter {
 public:
-    void report(const std::string& /*context*/, const ovisto::Error& /*error*/) override {}
+    void report(const ovisto::Phrase& /*context*/, const ovisto::Error& /*error*/) override {}
 };
 
 void translate(benchmark::State& state)

@@ -1,5 +1,7 @@
 #include "jpeg/ByteReader.h"
 #include "common/Error.h"
+#include "common/system/posix/SystemCalls.h"
+#include "common/text/CodePage.h"
 #include "common/text/Hex.h"
 #include "common/text/Unicode.h"
 #include "support/JpegBytes.h"
@@ -7,9 +9,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <filesystem>
 #include <optional>
+
+#include <unistd.h>
 
 namespace ovisto::test {
 
@@ -31,6 +37,19 @@ private:
     std::optional<InputFile> m_file;
     std::optional<ByteReader> m_reader;
 };
+
+constexpr std::int64_t kPage = 16384;
+
+/// Reads as a poor disk does: interrupted at every second call, half of the bytes each time, and only junk in the
+/// second half of the fifth page.
+ssize_t troubledRead(int file, void* into, std::size_t size, off_t offset)
+{
+    static bool isInterrupted = false;
+    isInterrupted = !isInterrupted;
+    std::memset(into, 0xEE, size);
+    errno = isInterrupted ? EINTR : EIO;
+    return isInterrupted || offset > 4 * kPage ? ssize_t{-1} : pread(file, into, (size + 1) / 2, offset);
+}
 
 } // namespace
 
@@ -114,6 +133,22 @@ TEST_F(ByteReaderTest, ReadsZerosWhereTheFileWasCutMeanwhile)
     std::filesystem::resize_file(path(), 20'000);
     EXPECT_EQ(reader.ReadHexString({20'000}, 3), "780000");
     EXPECT_EQ(reader.ReadHexString({39'000}, 2), "0000");
+}
+
+TEST_F(ByteReaderTest, NeverTakesStaleBytesForThoseThatCannotBeRead)
+{
+    Bytes content;
+    for (std::uint8_t page = 0; page < 5; ++page)
+        content.insert(content.end(), kPage, page);
+    ByteReader& reader = over(content);
+    SystemCalls calls = systemCalls();
+    calls.pread = troubledRead;
+    const ReplacedSystemCalls replaced(calls);
+    for (const char* time : {"first", "again"}) {
+        for (const std::int64_t page : {0, 1, 2, 3})
+            EXPECT_EQ(reader.ReadByte({page * kPage + 1}), page) << time;
+        EXPECT_EQ(errorNumberOf([&] { reader.ReadByte({4 * kPage + 1}); }), kDeviceError) << time;
+    }
 }
 
 } // namespace ovisto::test

@@ -1,16 +1,20 @@
 #include "reader/JpegXml.h"
+#include "common/system/posix/SystemCalls.h"
 #include "common/text/Hex.h"
 #include "common/xml/XmlDocument.h"
 #include "support/JpegBytes.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <regex>
 #include <span>
 #include <string>
 #include <vector>
+
+#include <unistd.h>
 
 namespace ovisto::test {
 
@@ -262,6 +266,22 @@ TEST(JpegXml, GivesUpOnDirectoriesThatRepeatTheSameBytesAgainAndAgain)
     ASSERT_TRUE(translation.error);
     EXPECT_EQ(translation.error->number, kOutOfMemory);
     EXPECT_TRUE(translation.text.ends_with("</Exif>\r\n</JPEG>"));
+}
+
+TEST(JpegXml, FailsWhenTheDiskFailsInsideADirectory)
+{
+    ExifBytes exif;
+    exif.ifd0({exif.ascii(0x010E, std::string(40'000, 'x'))});
+    const Bytes jpeg = JpegBytes().exif(exif).end();
+    SystemCalls calls = systemCalls();
+    calls.pread = [](int file, void* into, std::size_t size, off_t offset) {
+        errno = EIO;
+        return offset == 16384 ? ssize_t{-1} : pread(file, into, size, offset);
+    };
+    const ReplacedSystemCalls replaced(calls);
+    const Translation translation = translate(jpeg);
+    ASSERT_TRUE(translation.error);
+    EXPECT_EQ(translation.error->number, kDeviceError);
 }
 
 } // namespace ovisto::test

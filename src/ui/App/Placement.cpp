@@ -94,8 +94,8 @@ void PlacementSave(const QWidget& window, Settings& settings, const QString& key
 void splitterLoad(QSplitter& splitter, const Settings& settings, const QString& whenMissing)
 {
     const QList<int> sizes = numbers(settings.GetSetting(splitter.objectName(), whenMissing));
-    constexpr int kMostPixels = 100'000; // more than any screen has
-    const auto isSize = [](int size) { return size > 0 && size < kMostPixels; };
+    constexpr int kMostShown = 100'000; // pixels, more than any screen has
+    const auto isSize = [](int size) { return size > 0 && size < kMostShown; };
     const bool sensible = sizes.size() == splitter.count() && std::ranges::all_of(sizes, isSize);
     splitter.setSizes(sensible ? sizes : numbers(whenMissing));
 }
