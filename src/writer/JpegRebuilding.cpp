@@ -3,8 +3,8 @@
 #include "common/text/NumberText.h"
 #include "common/text/Unicode.h"
 #include "document/NodePath.h"
-#include "writer/ExifSegment.h"
 #include "jpeg/Segments.h"
+#include "writer/ExifSegment.h"
 #include "writer/SegmentWriter.h"
 
 #include <algorithm>

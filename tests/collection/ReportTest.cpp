@@ -272,7 +272,8 @@ TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
         const Bytes report = contentOf(result.path);
         for (const char* text : c.texts) {
             const Bytes part = bytes(utf16Bytes(text));
-            EXPECT_NE(std::search(report.begin(), report.end(), part.begin(), part.end()), report.end()) << c.style << " " << text;
+            EXPECT_NE(std::search(report.begin(), report.end(), part.begin(), part.end()), report.end())
+                << c.style << " " << text;
         }
     }
 }

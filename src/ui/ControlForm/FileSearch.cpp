@@ -88,7 +88,8 @@ void FileSearch::listFiles(std::vector<std::string> found, const ScanReports& re
         list.open(0); // which leaves none when none of them is there any more
     if (list.files().rowCount() == 0)
         m_parts.surroundings.dialogs.show(toQString(Message::NoFilesFound));
-    m_parts.ui.FilesFoundList->setToolTip(toQString(Phrase(Message::FilesFound, std::to_string(list.files().paths().size()))));
+    m_parts.ui.FilesFoundList->setToolTip(
+        toQString(Phrase(Message::FilesFound, std::to_string(list.files().paths().size()))));
 }
 
 } // namespace ovisto

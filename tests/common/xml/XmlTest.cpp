@@ -92,9 +92,9 @@ TEST(XmlDocument, SaysWhereAndWhyATextDoesNotParse)
     EXPECT_EQ(error->line, 3);
     EXPECT_GT(error->linepos, 0);
     EXPECT_EQ(error->srcText, "  <c></b></a>");
-    EXPECT_EQ(
-        inEnglish(parseErrorText(*error)).find(inEnglish(error->reason) + " line:3 pos:" + std::to_string(error->linepos) + " src:  <c>"),
-        0U);
+    EXPECT_EQ(inEnglish(parseErrorText(*error))
+                  .find(inEnglish(error->reason) + " line:3 pos:" + std::to_string(error->linepos) + " src:  <c>"),
+              0U);
     EXPECT_FALSE(document.documentElement()) << "the former content is gone";
 }
 
