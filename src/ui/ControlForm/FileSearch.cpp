@@ -8,21 +8,10 @@
 #include "ui/ControlForm/ScanReports.h"
 #include "ui/ProgressForm/ProgressForm.h"
 
-#include <QCoreApplication>
-
 #include <optional>
 #include <utility>
 
 namespace ovisto {
-
-namespace {
-
-QString text(const char* source)
-{
-    return QCoreApplication::translate("FileSearch", source);
-}
-
-} // namespace
 
 bool FileSearch::findFiles()
 {
