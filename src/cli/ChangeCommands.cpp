@@ -52,8 +52,8 @@ NodeChange changeOf(const ChangeOptions& options, const TagDictionary& dictionar
     trap.run([&] { change.entry = dictionary.entry(options.nodePath); });
     if (!change.entry)
         throw Error{kInvalidCall, "The tag dictionary has no node " + options.nodePath};
-    if (const std::string reason = objection(change); !reason.empty())
-        throw Error{kInvalidCall, options.nodePath + ": " + reason};
+    if (const Phrase reason = objection(change); !reason.isEmpty())
+        throw Error{kInvalidCall, {Message::InContext, options.nodePath, reason}};
     return change;
 }
 

@@ -54,14 +54,14 @@ bool isPartOfImage(const DictionaryEntry& entry)
 
 } // namespace
 
-std::string objection(const NodeChange& change)
+Phrase objection(const NodeChange& change)
 {
     if (change.action == NodeAction::Set && !change.entry.hasDataType())
-        return "I don't know what type of data this node requires - can't set its value.";
+        return Message::NoDataType;
     if (isPartOfImage(change.entry))
-        return "The image cannot be shown without this node as it is.";
+        return Message::NodeOfTheImage;
     if (change.action == NodeAction::Delete && change.entry.protection() == Protection::Required)
-        return "This node is required by others and cannot be deleted by itself.";
+        return Message::NodeRequired;
     return {};
 }
 

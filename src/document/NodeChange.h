@@ -26,8 +26,8 @@ struct ChangeResult {
     explicit operator bool() const { return changed; }
 };
 
-/// Why the change cannot be made to any file, as a sentence for a person; empty when it can.
-std::string objection(const NodeChange& change);
+/// Why the change cannot be made to any file; empty when it can.
+Phrase objection(const NodeChange& change);
 
 /// Makes the change to a document, creating the node where Set or Add misses it. Deleting a node removes the entry that
 /// pointed to it too, or the directory that was there for it. A node that cannot be created is reported, and the error

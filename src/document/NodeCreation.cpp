@@ -94,8 +94,8 @@ XmlNode CreateNode(XmlDocument& document, const DictionaryEntry& entry, ErrorRep
             insert(parent, element, nextSibling(parent, templateNode));
         });
     }
-    if (trap.pending())
-        ErrorReport(reporter, "Create node failed " + path, trap.take());
+    reportPending(
+        reporter, [&] { return Phrase(Message::CreateNodeFailed, path); }, trap);
     return element;
 }
 

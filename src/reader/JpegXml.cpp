@@ -62,7 +62,7 @@ Translation FileTranslation::run()
 void FileTranslation::checkStart()
 {
     if (m_reader.ReadInteger({1}) != kStartOfImage)
-        throw Error{kStructureError, "Not a JPEG file - hFFD8 expected at start of file " + m_fileName};
+        throw Error{kStructureError, {Message::NotAJpeg, m_fileName}};
 }
 
 void FileTranslation::scanSegments()
@@ -72,10 +72,9 @@ void FileTranslation::scanSegments()
     case SegmentsEnd::Scan:
         return appendImage(segments.position);
     case SegmentsEnd::UnknownMarker:
-        throw Error{kStructureError,
-                    "Header seems corrupted - unknown Marker " + hexNumber(segments.marker) + " " + m_fileName};
+        throw Error{kStructureError, {Message::UnknownMarker, hexNumber(segments.marker), m_fileName}};
     case SegmentsEnd::EndOfFile:
-        throw Error{kStructureError, "No StartOfStream marker found " + m_fileName};
+        throw Error{kStructureError, {Message::NoScan, m_fileName}};
     }
 }
 

@@ -109,10 +109,7 @@ void layOutCountedBytes(std::int64_t& pos, XmlNode exif, const ExifPart& part, E
     if (!bytes)
         return;
     AttributeSet(bytes, "o", std::to_string(pos));
-    reported(reporter,
-             "Can't tie up the MakerNote to its entry in the header (!?"
-             "?)",
-             [&] { advance(pos, hexLength(bytes)); });
+    reported(reporter, Message::MakerNoteNotTiedUp, [&] { advance(pos, hexLength(bytes)); });
 }
 
 /// Bytes whose number stands in an entry of its own.
@@ -146,7 +143,7 @@ void layOutPart(std::int64_t& pos, XmlNode exif, const ExifPart& part, ErrorRepo
 
 std::int64_t layOutExif(XmlNode exif, ErrorReporter& reporter)
 {
-    reported(reporter, "Exif section - calculate data length", [&] { countComponents(exif); });
+    reported(reporter, Message::ExifLengthFailed, [&] { countComponents(exif); });
 
     std::int64_t pos = kTiffHeaderSize;
     for (const ExifPart& part : kExifParts)
@@ -156,7 +153,7 @@ std::int64_t layOutExif(XmlNode exif, ErrorReporter& reporter)
 
 void CalcOffsets(std::int64_t& pos, XmlNode directory, ErrorReporter& reporter)
 {
-    reported(reporter, "Exif Offset Calculation failed", [&] {
+    reported(reporter, Message::ExifOffsetsFailed, [&] {
         AttributeSet(directory, "o", std::to_string(pos));
         const std::vector<XmlNode> entries = directory.childElements("IFD");
         advance(pos, kEntrySize * static_cast<std::int64_t>(entries.size()) + kDirectoryFrameSize);

@@ -75,7 +75,7 @@ void writeEntryValue(SegmentWriter& writer, const ConstXmlNode& entry, int dataT
 {
     const std::string text = entry.text();
     reported(
-        writer.reporter(), [&] { return "Data format " + std::to_string(dataType) + " error:" + text; },
+        writer.reporter(), [&] { return Phrase(Message::ValueFailed, std::to_string(dataType), text); },
         [&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
 }
 
@@ -116,8 +116,7 @@ void WriteExif(SegmentWriter& writer, XmlNode exif)
     // A value that does not fill its entry, or is of a type that cannot be written, is shorter than it was laid out.
     if (!trap.pending())
         trap.run([&] { checkSegmentLength(length, writer.written() - start); });
-    if (trap.pending())
-        ErrorReport(writer.reporter(), "Exif write failed", trap.error());
+    reportPending(writer.reporter(), Message::ExifWriteFailed, trap);
     writer.IntelOrder = false;
     trap.raise();
 }

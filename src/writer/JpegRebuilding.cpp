@@ -43,7 +43,7 @@ void writeOtherApp1(SegmentWriter& writer, const XmlNode& element)
     const std::string text = app1Text(element);
     // It stands in a CDATA section when it is read.
     if (text.find("]]>") != std::string::npos)
-        throw Error{kInvalidCall, "The text has \"]]>\", which could not be read back"};
+        throw Error{kInvalidCall, Message::TextHasCdataEnd};
     writer.WriteHex("FFE1");
     writer.WriteInteger(static_cast<std::int64_t>(characterCount(identifier) + characterCount(text)) + kLengthAndZeros);
     writer.writeTerminated(identifier + '\0' + text);
@@ -84,12 +84,12 @@ void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& t
     if (images.empty())
         throw systemError(kObjectNotSet);
     if (images.size() > 1)
-        throw Error{kInvalidCall, "The document has more than one IMG element"};
+        throw Error{kInvalidCall, Message::MoreThanOneImage};
     const ConstXmlNode& image = images.front();
     const auto place = imagePlace(from);
     if (!place || AttributeGet(image, "offset") != numberText(place->offset) ||
         AttributeGet(image, "length") != numberText(place->length))
-        throw Error{kInvalidCall, "The file was changed after it was read"};
+        throw Error{kInvalidCall, Message::FileWasChanged};
     const std::int64_t offset = std::int64_t{attributeToLong(AttributeGet(image, "offset"))} - 1;
     const std::int64_t length = std::int64_t{attributeToLong(AttributeGet(image, "length"))} + 1;
     if (offset < 0)
@@ -115,11 +115,10 @@ void rebuildJpeg(XmlDocument& document, const InputFile& oldFile, OutputFile& ne
                  ErrorReporter& reporter)
 {
     const auto writeMarker = [&](const char* marker) { SegmentWriter(newFile, reporter).WriteHex(marker); };
-    const std::string writeFailed = newName + " write failed";
-    reported(reporter, "Write to " + newName, [&] { writeMarker("FFD8"); });
+    const Phrase writeFailed(Message::WriteFailed, newName);
+    reported(reporter, Phrase(Message::WriteTo, newName), [&] { writeMarker("FFD8"); });
     reported(reporter, writeFailed, [&] { writeSegments(document, newFile, reporter); });
-    reported(reporter, newName + " transfer of image from existing file failed",
-             [&] { copyImage(document, oldFile, newFile); });
+    reported(reporter, Phrase(Message::ImageTransferFailed, newName), [&] { copyImage(document, oldFile, newFile); });
     reported(reporter, writeFailed, [&] { writeMarker("FFD9"); });
 }
 

@@ -13,7 +13,7 @@ namespace ovisto {
 namespace {
 
 /// The file at `path`, opened. A failure is reported in `context`.
-template <class File> File opened(ErrorReporter& reporter, const std::string& context, const std::string& path)
+template <class File> File opened(ErrorReporter& reporter, const Phrase& context, const std::string& path)
 {
     std::optional<File> file;
     reported(reporter, context, [&] { file.emplace(path); });
@@ -25,9 +25,9 @@ void raise(const std::optional<ReplaceFailure>& failure, const std::string& targ
 {
     if (!failure)
         return;
-    const std::string context = failure->step == ReplaceStep::Delete
-                                    ? "Delete old file " + target
-                                    : "Rename file " + temporaryNameOf(target) + " to " + target;
+    const Phrase context = failure->step == ReplaceStep::Delete
+                               ? Phrase(Message::DeleteOldFile, target)
+                               : Phrase(Message::RenameFile, temporaryNameOf(target), target);
     ErrorReport(reporter, context, failure->error);
     throw failure->error;
 }
@@ -59,7 +59,7 @@ void NewVersion::bringToDisk()
 {
     const auto sync = [&] { m_newFile.sync(); };
     if (!m_onDisk)
-        spared([&] { reported(m_reporter, m_temporaryName + " write failed", sync); });
+        spared([&] { reported(m_reporter, Phrase(Message::WriteFailed, m_temporaryName), sync); });
     m_onDisk = true;
 }
 
@@ -98,7 +98,7 @@ template <class Fill> void NewVersion::writeWhole(Fill fill)
     };
     spared([&] {
         fill();
-        reported(m_reporter, m_temporaryName + " write failed", finish);
+        reported(m_reporter, Phrase(Message::WriteFailed, m_temporaryName), finish);
     });
 }
 

@@ -39,7 +39,7 @@ std::vector<std::uint8_t> bytesOf(std::string_view hex)
 
 void SegmentWriter::WriteHex(std::string_view hex)
 {
-    reported(m_reporter, "Temp file write failed", [&] { writeBytes(bytesOf(hex)); });
+    reported(m_reporter, Message::SegmentWriteFailed, [&] { writeBytes(bytesOf(hex)); });
 }
 
 void SegmentWriter::WriteSegmentHex(std::string_view hex)
@@ -54,7 +54,7 @@ void SegmentWriter::WriteSegmentHex(std::string_view hex)
 void SegmentWriter::WriteInteger(std::int64_t number)
 {
     reported(
-        m_reporter, [&] { return "Temp file write integer " + std::to_string(number); },
+        m_reporter, [&] { return Phrase(Message::SegmentWriteInteger, std::to_string(number)); },
         [&] {
             writeNumber(number, 2);
             if (number < 0 || number > std::numeric_limits<std::uint16_t>::max())
@@ -66,7 +66,7 @@ void SegmentWriter::WriteInteger(std::int64_t number)
 void SegmentWriter::WriteLong(std::int64_t number)
 {
     reported(
-        m_reporter, [&] { return "Temp file write long " + std::to_string(number); },
+        m_reporter, [&] { return Phrase(Message::SegmentWriteLong, std::to_string(number)); },
         [&] {
             writeNumber(number, 4);
             if (number < 0 || number > std::numeric_limits<std::int32_t>::max())
@@ -78,7 +78,7 @@ void SegmentWriter::WriteNarrowString(std::string_view text)
 {
     constexpr std::size_t kFieldSize = 4;
     const std::size_t length = characterCount(text);
-    reported(m_reporter, "Temp file write string", [&] {
+    reported(m_reporter, Message::SegmentWriteString, [&] {
         writeBytes(codePageBytes(text));
         writeZeros(length < kFieldSize - 1 ? kFieldSize - length : 1);
     });
@@ -88,12 +88,12 @@ void SegmentWriter::WriteWideString(std::string_view text)
 {
     constexpr char16_t kFirstNegative = 0x8000; // as a signed unit, which is how it is split into its bytes
     const std::u16string units = utf16(text);
-    reported(m_reporter, "Temp file write string", [&] {
+    reported(m_reporter, Message::SegmentWriteString, [&] {
         for (const char16_t unit : units) {
             if (unit >= kFirstNegative)
                 throw systemError(kOverflow);
             if (isUnreadable(unit))
-                throw Error{kInvalidCall, "The text has a control character that could not be read back"};
+                throw Error{kInvalidCall, Message::TextHasControl};
             writeNumber(unit, 2);
         }
         writeZeros(units.empty() ? 4 : 2);
@@ -102,7 +102,7 @@ void SegmentWriter::WriteWideString(std::string_view text)
 
 void SegmentWriter::writeTerminated(std::string_view text)
 {
-    reported(m_reporter, "Temp file write string", [&] {
+    reported(m_reporter, Message::SegmentWriteString, [&] {
         writeBytes(codePageBytes(text));
         writeZeros(1);
     });
@@ -135,8 +135,7 @@ void SegmentWriter::writeZeros(std::size_t count)
 void checkSegmentLength(std::int64_t said, std::int64_t written)
 {
     if (written != said)
-        throw Error{kInvalidCall, "The segment would have " + std::to_string(written) + " bytes, but its length says " +
-                                      std::to_string(said)};
+        throw Error{kInvalidCall, {Message::SegmentLengthWrong, std::to_string(written), std::to_string(said)}};
 }
 
 } // namespace ovisto

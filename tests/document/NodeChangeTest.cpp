@@ -97,8 +97,7 @@ TEST(NodeChange, DoesNotWriteWhatCouldNotBeMadeInFull)
 
 TEST(NodeChange, ObjectsToValuesWithoutATypeAndToSpoilingTheImage)
 {
-    EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE")),
-              "I don't know what type of data this node requires - can't set its value.");
+    EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE")), Phrase(Message::NoDataType));
     EXPECT_EQ(objection(changeOf(NodeAction::Delete, kExif + "/IFDE")), "");
     EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE/IFD[@id='A001']")), "") << "required, but metadata";
     for (const char* path : {"/JPEG", "/JPEG/SOS", "/JPEG/IMG", "/JPEG/APP1[@id='FFDB']"})

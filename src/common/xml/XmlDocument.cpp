@@ -146,7 +146,7 @@ bool takesTooMuchMemory(std::string_view text)
 }
 
 /// An error of the document as a whole.
-XmlParseError documentError(int code, const std::string& reason)
+XmlParseError documentError(int code, const Phrase& reason)
 {
     return {.code = code, .reason = reason, .line = 0, .linepos = 0, .srcText = {}};
 }
@@ -156,8 +156,7 @@ std::optional<XmlParseError> validate(xmlDoc* doc, std::string_view source)
 {
     // The parser could not have it. The validator would look for it again, and at any place.
     if (const xmlDtd* type = doc->intSubset; doc->extSubset == nullptr && type != nullptr && type->SystemID != nullptr)
-        return documentError(XML_DTD_LOAD_ERROR,
-                             "The document type \"" + toString(type->SystemID) + "\" cannot be loaded");
+        return documentError(XML_DTD_LOAD_ERROR, {Message::DocumentTypeNotLoaded, toString(type->SystemID)});
     std::optional<XmlParseError> firstError;
     const auto remember = [](void* userData, xmlError* error) {
         auto& [found, text] = *static_cast<std::pair<std::optional<XmlParseError>*, std::string_view>*>(userData);
@@ -171,8 +170,7 @@ std::optional<XmlParseError> validate(xmlDoc* doc, std::string_view source)
     xmlSetStructuredErrorFunc(nullptr, nullptr);
     if (valid)
         return std::nullopt;
-    return firstError ? firstError
-                      : documentError(XML_DTD_UNKNOWN_ELEM, "The content does not match the document type");
+    return firstError ? firstError : documentError(XML_DTD_UNKNOWN_ELEM, Message::ContentDoesNotMatch);
 }
 
 } // namespace

@@ -154,7 +154,7 @@ template <class Node> std::vector<Node> selectedNodes(xmlNode* from, const std::
     context.node = from;
     const XmlPtr<xmlXPathObject> found(xmlXPathEval(xmlText(xpath.c_str()), &context));
     if (!found || found->type != XPATH_NODESET)
-        throw Error{kInvalidCall, "Not a valid path: " + xpath};
+        throw Error{kInvalidCall, {Message::NotAPath, xpath}};
     std::vector<Node> nodes;
     nodes.reserve(static_cast<std::size_t>(xmlXPathNodeSetGetLength(found->nodesetval)));
     for (int i = 0; i < xmlXPathNodeSetGetLength(found->nodesetval); ++i) {

@@ -125,7 +125,7 @@ public:
         for (int i = 0; i < kLines && end != std::string::npos; ++i)
             end = m_text.find('\n', end == 0 ? 0 : end + 1);
         const std::string reason = m_text.substr(0, end);
-        return {kInvalidCall, reason.empty() ? "The style sheet cannot be applied" : reason};
+        return {kInvalidCall, reason.empty() ? Phrase(Message::StyleSheetNotApplied) : Phrase(reason)};
     }
 
 private:
@@ -179,7 +179,7 @@ void stop(xsltTransformContext* context)
 
 Error tooMuchMemory()
 {
-    return {kOutOfMemory, "The style sheet takes far more memory than the documents need"};
+    return {kOutOfMemory, Message::StyleSheetTooLarge};
 }
 
 std::string resultText(xmlDoc* result, xsltStylesheet* style)

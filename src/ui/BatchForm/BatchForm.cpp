@@ -27,8 +27,8 @@ NodeChange BatchForm::change() const
 void BatchForm::start()
 {
     const NodeChange chosen = change();
-    const std::string reason = objection(chosen);
-    if (reason.empty())
+    const Phrase reason = objection(chosen);
+    if (reason.isEmpty())
         Q_EMIT started(chosen);
     else
         m_dialogs.show(toQString(reason));
