@@ -227,9 +227,10 @@ private Q_SLOTS:
     {
         RecordingReporter reporter;
         ScanReports reports(reporter);
-        for (const char* context : {"/proc/1", "/proc/2", Message::CheckingContents, "/proc/3"})
+        for (const Phrase& context :
+             {Phrase("/proc/1"), Phrase("/proc/2"), Phrase(Message::CheckingContents), Phrase("/proc/3")})
             reports.report(context, systemError(kPermissionDenied));
-        QCOMPARE(reporter.contexts, std::vector<std::string>({"/proc/1", Message::CheckingContents}));
+        QCOMPARE(reporter.contexts, std::vector<std::string>({"/proc/1", sourceText(Message::CheckingContents)}));
         QCOMPARE(notReadMessage(reports.notReadToo()), u"Other folders that could not be read (2):\r\n"
                                                        "/proc/2: Permission denied\r\n/proc/3: Permission denied"_s);
     }
