@@ -35,7 +35,7 @@ bool TestDesktop::open(const std::string& path)
     return canOpen;
 }
 
-void TestDesktop::showProperties(const std::string& path, QWidget&)
+void TestDesktop::showProperties(const std::string& path, QWidget& /*owner*/)
 {
     done << u"properties "_s + QString::fromStdString(path);
 }
@@ -51,7 +51,7 @@ Window::Window(std::initializer_list<const char*> samples) : m_settings(m_writab
 
 std::string Window::copy(const char* sample, const char* name)
 {
-    const std::string target = path(name != nullptr ? name : sample);
+    std::string target = path(name != nullptr ? name : sample);
     QFile::copy(kSource + u"/samples/"_s + QLatin1String(sample), QString::fromStdString(target));
     return target;
 }

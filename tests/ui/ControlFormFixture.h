@@ -29,7 +29,11 @@ public:
 
     void show(const QString& message) override { messages << message; }
     bool ask(const QString& question) override;
-    std::optional<QString> chooseFile(const QString&, const QString&, const QString&) override { return file; }
+    std::optional<QString> chooseFile(const QString& /*title*/, const QString& /*folder*/,
+                                      const QString& /*filter*/) override
+    {
+        return file;
+    }
 
     /// What was said since the last time.
     QStringList taken() { return std::exchange(messages, {}); }
@@ -77,7 +81,7 @@ public:
     void edit(const char* nodePath, const QString& text);
     /// Puts the focus into `box` and takes it away again.
     void visit(const char* box);
-    QString text(const char* control);
+    QString text(const char* name);
     /// The texts of controls, the names separated by a blank, joined by "|".
     QString texts(const char* controls);
     bool isVisible(const char* name) { return control<QWidget>(name).isVisible(); }

@@ -59,7 +59,7 @@ void ShownFile::setBoxText(OsProperty property, const std::string& text)
 
 std::string ShownFile::addNode(const DictionaryEntry& entry)
 {
-    const std::string path = entry.path();
+    std::string path = entry.path();
     if (JpegDoc.selectSingleNode(path))
         return {};
     // A node that could not be made with all that it needs was reported, and is shown as far as it is there.
