@@ -1,5 +1,5 @@
 <?xml version="1.0" encoding="UTF-8"?>
-<!-- A line for each shot, fields between commas, for a spreadsheet. Numbers stand without their units. -->
+<!-- One line per shot, fields separated by commas, for a spreadsheet. Numbers have no units. -->
 <xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform"
                 xmlns:str="http://exslt.org/strings" exclude-result-prefixes="str">
   <xsl:import href="parts/shot.xsl"/>
@@ -38,7 +38,7 @@
     <xsl:text>,</xsl:text>
   </xsl:template>
 
-  <!-- Quotes are needed around commas, quotes and line breaks only. -->
+  <!-- Only commas, quotes and line breaks need quotes around the field. -->
   <xsl:template name="quoted">
     <xsl:param name="text"/>
     <xsl:choose>

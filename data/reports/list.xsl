@@ -1,5 +1,5 @@
 <?xml version="1.0" encoding="UTF-8"?>
-<!-- A plain text with some lines for each shot. -->
+<!-- A plain text with a few lines per shot. -->
 <xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
   <xsl:import href="parts/shot.xsl"/>
   <xsl:output method="text"/>

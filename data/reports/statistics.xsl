@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="UTF-8"?>
-<!-- A web page that counts the shots by camera, focal length, sensitivity and month, with bars. The text has to begin
-     with <html, as that makes the extension of the report; hence no document type. -->
+<!-- A web page that counts the shots by camera, focal length, sensitivity and month, with bars. The text must
+     begin with <html, which decides the extension of the report; hence no document type. -->
 <xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform"
                 xmlns:exsl="http://exslt.org/common" exclude-result-prefixes="exsl">
   <xsl:import href="parts/shot.xsl"/>
@@ -64,7 +64,7 @@
     </html>
   </xsl:template>
 
-  <!-- One chart of a list of values: a bar for each different one. -->
+  <!-- A chart of a list of values: one bar for each distinct value. -->
   <xsl:template match="/" mode="chart">
     <xsl:param name="title"/>
     <xsl:param name="order"/>

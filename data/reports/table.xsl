@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="UTF-8"?>
-<!-- A web page with a row for each shot: when, with what and how it was taken. The text has to begin with <html, as
-     that makes the extension of the report; hence no document type. -->
+<!-- A web page with one row per shot: when, with what and how it was taken. The text must begin with <html, which
+     decides the extension of the report; hence no document type. -->
 <xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
   <xsl:import href="parts/shot.xsl"/>
   <xsl:output method="html" indent="no"/>

@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="UTF-8"?>
-<!-- What a photograph says of how it was taken, in the words of people. For style sheets to import; each template but
-     the first is applied to a JPEG element. -->
+<!-- How a photograph was taken, in readable form. For style sheets to import; apply each template but the first to a
+     JPEG element. -->
 <xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform"
                 xmlns:math="http://exslt.org/math" exclude-result-prefixes="math">
 
@@ -20,8 +20,8 @@
     </xsl:choose>
   </xsl:template>
 
-  <!-- Many models begin with the name of their maker, or the part of it that people use: "NIKON CORPORATION", "NIKON
-       D70". -->
+  <!-- Many model names begin with the name of the maker, or with the part of it that people use: "NIKON CORPORATION",
+       "NIKON D70". -->
   <xsl:template match="JPEG" mode="camera">
     <xsl:variable name="make" select="normalize-space(Exif/IFD[@id='010F'])"/>
     <xsl:variable name="model" select="normalize-space(Exif/IFD[@id='0110'])"/>
@@ -47,15 +47,15 @@
     </xsl:if>
   </xsl:template>
 
-  <!-- 1/125 s; 8 s; 10/1250 as 1/125 s. Some cameras say it as a power of two only. -->
+  <!-- 1/125 s; 8 s; 10/1250 as 1/125 s. Some cameras give it only as a power of two. -->
   <xsl:template match="JPEG" mode="time">
     <xsl:variable name="time" select="Exif/IFDE/IFD[@id='829A']"/>
     <xsl:variable name="power" select="Exif/IFDE/IFD[@id='9201']"/>
-    <xsl:variable name="told" select="substring-before($time, '/') div substring-after($time, '/')"/>
+    <xsl:variable name="given" select="substring-before($time, '/') div substring-after($time, '/')"/>
     <xsl:variable name="halvings" select="substring-before($power, '/') div substring-after($power, '/')"/>
     <xsl:variable name="meant" select="math:power(2, -$halvings)"/>
     <xsl:choose>
-      <xsl:when test="$told &gt; 0"><xsl:call-template name="seconds"><xsl:with-param name="number" select="$told"/></xsl:call-template></xsl:when>
+      <xsl:when test="$given &gt; 0"><xsl:call-template name="seconds"><xsl:with-param name="number" select="$given"/></xsl:call-template></xsl:when>
       <xsl:when test="not($time) and $meant &gt; 0"><xsl:call-template name="seconds"><xsl:with-param name="number" select="$meant"/></xsl:call-template></xsl:when>
     </xsl:choose>
   </xsl:template>
@@ -72,11 +72,11 @@
   <xsl:template match="JPEG" mode="aperture">
     <xsl:variable name="aperture" select="Exif/IFDE/IFD[@id='829D']"/>
     <xsl:variable name="power" select="Exif/IFDE/IFD[@id='9202']"/>
-    <xsl:variable name="told" select="substring-before($aperture, '/') div substring-after($aperture, '/')"/>
+    <xsl:variable name="given" select="substring-before($aperture, '/') div substring-after($aperture, '/')"/>
     <xsl:variable name="doublings" select="substring-before($power, '/') div substring-after($power, '/')"/>
     <xsl:variable name="meant" select="math:power(2, $doublings div 2)"/>
     <xsl:choose>
-      <xsl:when test="$told &gt; 0 and $told &lt; 1000">f/<xsl:value-of select="round($told * 10) div 10"/></xsl:when>
+      <xsl:when test="$given &gt; 0 and $given &lt; 1000">f/<xsl:value-of select="round($given * 10) div 10"/></xsl:when>
       <xsl:when test="not($aperture) and $meant &gt; 0 and $meant &lt; 1000">f/<xsl:value-of select="round($meant * 10) div 10"/></xsl:when>
     </xsl:choose>
   </xsl:template>
