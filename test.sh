@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and runs every test: the release build, and the same tests under address and
-# undefined-behaviour checks. The photographs of cameras are found through OVISTO_SAMPLES.
+# Installs what is missing, builds, and runs every test twice: under address and undefined-behaviour checks, and in the
+# release build. OVISTO_SAMPLES names the folder of camera files.
 set -euo pipefail
 cd "$(dirname "$0")"
 . tools/install.sh

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Prints how the work over many files compares, as ratios of times taken side by side:
-#   bench/collection.sh [FOLDER]     (FOLDER: where to put some 2 GB for the time being; default: a temporary one)
-# find: the words are looked for in 20,000 small photographs made from the samples, against cat of the same bytes.
-# set: a title for 2,000 photographs, against cp and sync of them, exiv2 and exiftool. Only ours waits for the disk by
-# itself; so the others are also shown with a sync behind them. The best round counts.
+# Compares the commands that work on many files with other programs, as ratios of times measured side by side:
+#   bench/collection.sh [FOLDER]     (FOLDER: where to put some 2 GB of temporary files; default: TMPDIR)
+# find: a word search over 20,000 small photographs made from the samples, against cat of the same bytes.
+# set: a title for 2,000 photographs, against cp and sync, exiv2 and exiftool. Only ours waits for the disk by itself,
+# so the others are also shown followed by a sync. The best round counts.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/install.sh
@@ -17,7 +17,7 @@ work=$(mktemp -d -p "${1:-${TMPDIR:-/tmp}}")
 trap 'rm -rf "$work"' EXIT
 cd "$work"
 
-# Runs a command and keeps the shortest of its times in the variable of this name, in milliseconds.
+# Runs a command and keeps its shortest time, in milliseconds, in the variable of the given name.
 shortest() {
     local variable=$1 start end
     shift
@@ -29,7 +29,7 @@ shortest() {
 }
 ratio() { awk -v ours="$1" -v theirs="$2" 'BEGIN { printf "%.2f", ours / theirs }'; }
 
-# What a reader needs of a photograph, without most of the image.
+# The part of a photograph that a reader needs, without most of the image data.
 kinds=(big-endian little-endian night portrait xmp)
 for kind in "${kinds[@]}"; do
     head -c 8192 "$samples/$kind.jpg" >"$kind.head"
@@ -61,7 +61,7 @@ for number in $(seq 400); do
         cp "$samples/$kind.jpg" "photographs/$kind$number.jpg"
     done
 done
-# Each run has a folder of its own, and none is deleted before the end: for minutes after files were deleted or replaced,
+# Each run has its own folder, and none is deleted before the end: for minutes after files were deleted or replaced,
 # ext4 looks at each of them again for every file that is created near them. The attribute keeps the folders apart.
 rounds=3
 mkdir runs

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Prints how many times faster the metadata documents of many photographs are made than other programs print theirs:
+# Prints how many times faster metadata documents of many photographs are made than other programs print metadata:
 #   bench/compare.sh [FOLDER]     (default: OVISTO_SAMPLES, else the project's own samples)
-# All programs get the same files, as many times over as it takes to measure, in one process each; the best of five runs
-# counts. Also prints the time of a whole command line for one file, and the peak memory.
+# All programs get the same files, repeated until there are enough to measure, in one process each; the best of five
+# runs counts. Also prints the time of a whole command line for one file, and the peak memory.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/install.sh
@@ -21,7 +21,7 @@ while [ "$count" -lt 1500 ]; do
     count=$(wc -l <"$list")
 done
 
-# Seconds of the best of five runs of a command.
+# Prints the seconds of the best of five runs of a command.
 best() {
     local fastest=""
     for _ in 1 2 3 4 5; do
@@ -40,7 +40,7 @@ all() { tr '\n' '\0' <"$list" | xargs -0 -s 2000000 "$@"; }
 some() { head -n "$fewer" "$list" | tr '\n' '\0' | xargs -0 -s 2000000 "$@"; }
 ratio() { awk -v ours="$1" -v theirs="$2" -v scale="$3" 'BEGIN { printf "%.1f", theirs * scale / ours }'; }
 
-all true # the list fits into one command line, or this says so
+all true # fails if the list does not fit into one command line
 fewer=$((count / 20))
 one=$(best "$cli" xml --jobs 1 --files-from "$list")
 many=$(best "$cli" xml --files-from "$list")

@@ -1,4 +1,4 @@
-# Sourced by the scripts that build and test: what the project needs, as Debian 12 packages, and how to install it.
+# Sourced by the scripts that build and test: the Debian 12 packages that the project needs, and how to install them.
 
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libxml2-dev libxslt1-dev libpcre2-dev libcli11-dev libutfcpp-dev
     libmimalloc-dev qt6-base-dev)
@@ -9,7 +9,7 @@ FUZZ_PACKAGES=(clang libclang-rt-dev)
 # Where ccache is installed, CMake uses it, and a checkout in another folder finds what an earlier one compiled.
 export CCACHE_BASEDIR=${CCACHE_BASEDIR:-$PWD} CCACHE_NOHASHDIR=1
 
-# Installs those of the packages that are missing, as root or with sudo, and says which.
+# Installs the packages that are missing, as root or with sudo, and says which.
 install_packages() {
     local missing=()
     local package

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks that the code is formatted and that clang-tidy finds nothing. Builds first, as some headers are generated.
+# Checks that the code is formatted and that clang-tidy finds nothing. Builds first, because some headers are generated.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/install.sh

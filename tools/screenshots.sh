@@ -1,6 +1,6 @@
 #!/bin/bash
-# Takes pictures of the window in its states: starts the real program on a screen that nobody sees (Xvfb), with copies of
-# the sample photographs, and works it with mouse and keys.
+# Takes pictures of the window in its various states: starts the real program on a virtual screen (Xvfb), with copies of
+# the sample photographs, and operates it with mouse and keys.
 #
 #     tools/screenshots.sh [BUILD FOLDER [OUTPUT FOLDER]]
 #
@@ -10,8 +10,8 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${1:-$root/build/release}
 output=${2:-$root/docs/images}
-photographs=/tmp/Photographs # the pictures show this name
-portable=/tmp/Ovisto         # and, where the program's own files are chosen from, this one
+photographs=/tmp/Photographs # the pictures show this path
+portable=/tmp/Ovisto         # and this one, where the program's own files are chosen
 work=$(mktemp -d)
 mkdir -p "$output"
 
@@ -49,7 +49,7 @@ sleep 1
 DISPLAY=:$(head -1 "$work/display")
 export DISPLAY
 
-# start PLACEMENT [ARGUMENT...]: starts the program in a window at a place given in twips, 15 a pixel
+# start PLACEMENT [ARGUMENT...]: starts the program with its window at a place given in twips, 15 per pixel
 start() {
     printf '[Lumetra]\nControlForm="%s"\nFolder="%s"\nSearchWords="%s"\n' "$1" "${folder:-$photographs}" "${words:-}" \
         >"$XDG_CONFIG_HOME/Castelmar.conf"
@@ -77,10 +77,10 @@ windows() {
     done | sort -n | cut -d' ' -f2
 }
 
-# front: the window in front, a dialog where there is one
+# front: the window in front, a dialog if there is one
 front() { windows | head -1; }
 
-# shoot NAME: takes a picture of the main window with what stands before it
+# shoot NAME: takes a picture of the main window and whatever is in front of it
 shoot() {
     sleep 0.5
     eval "$(xdotool getwindowgeometry --shell "$window")"
@@ -89,7 +89,7 @@ shoot() {
     echo "$output/$1.png"
 }
 
-# click X Y: presses the mouse at a place in the window; from the right or the lower edge when negative
+# click X Y: clicks at a place in the window, counted from the right or lower edge if negative
 click() {
     eval "$(xdotool getwindowgeometry --shell "$window")"
     local x=$1 y=$2
@@ -104,19 +104,19 @@ key() { xdotool key --delay 60 "$@"; sleep 0.3; }
 small=0,0,11655,8505
 large=0,0,18000,12000
 
-# The empty window, its message answered.
+# The empty window, after its message was answered.
 mkdir "$work/empty"
 start $large "$work/empty"
 xdotool windowfocus "$(front)"; key Return
 shoot empty
 stop
 
-# The smallest size that all has room in.
+# The smallest size with room for everything.
 start $small "$photographs"
 shoot smallest
 stop
 
-# A file, its properties, and its values in all their forms. The tree has the focus when a file is open.
+# A file, its properties, and its values in all their forms. Opening a file gives the tree the focus.
 start $large "$photographs"
 key Down Down
 shoot file
@@ -144,7 +144,7 @@ xdotool windowfocus "$(front)"; key alt+s
 shoot about
 stop
 
-# The choice of a folder, before there is any window, and before one.
+# The folder chooser, without the main window and in front of it.
 mkdir "$photographs"/{1985..2025}
 folder=$photographs/2005 words="lake, mountain" start $large
 shoot choose-first
@@ -153,7 +153,7 @@ folder=$photographs/2005 words="no photograph has this" start $large "$photograp
 click 150 42
 sleep 0.5
 shoot choose
-# A scan of many photographs, which takes its time.
+# A scan of many photographs, which takes a while.
 rmdir "$photographs"/{1985..2025}
 mkdir "$photographs/Archive"
 for ((i = 10000; i < 40000; ++i)); do ln "$photographs/night.jpg" "$photographs/Archive/night $i.jpg"; done
@@ -178,7 +178,7 @@ xdotool windowfocus "$window"; key alt+f g
 shoot open-report
 stop
 
-# A palette of light text on dark ground, as the settings of a desktop tell it.
+# A dark palette, as set by a desktop.
 cat >"$XDG_CONFIG_HOME/kdeglobals" <<'PALETTE'
 [KDE]
 widgetStyle=Fusion
@@ -211,7 +211,7 @@ stop
 unset XDG_CURRENT_DESKTOP KDE_SESSION_VERSION KDE_FULL_SESSION
 rm "$XDG_CONFIG_HOME/kdeglobals"
 
-# Screens of fine and of many pixels.
+# A screen of high resolution, and a large one.
 QT_SCALE_FACTOR=2 start $small "$photographs/portrait.jpg"
 shoot scaled
 stop

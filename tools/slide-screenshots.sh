@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Takes pictures of the slide show in its states: starts the real program on a screen that nobody sees (Xvfb), with copies
-# of the sample photographs, and works it with mouse and keys.
+# Takes pictures of the slide show in its various states: starts the real program on a virtual screen (Xvfb), with
+# copies of the sample photographs, and operates it with the keyboard.
 #
 #     tools/slide-screenshots.sh [BUILD FOLDER [OUTPUT FOLDER]]
 #
@@ -47,8 +47,8 @@ if command -v openbox >/dev/null; then
     sleep 1
 fi
 
-# start FULLSCREEN RESIZE DETAILS: starts a show by the button of the main window, moved by keys or
-# paused only after half a minute
+# start FULLSCREEN RESIZE DETAILS: opens the options of the show from the main window; a slide lasts half a minute, so
+# that only keys move the show
 start() {
     printf '[Lumetra]\nControlForm="0,0,18000,12000"\nSlideForm="1500,1500,12000,9000"\n' >"$XDG_CONFIG_HOME/Castelmar.conf"
     printf 'SlideFullscreen=%s\nSlideResize=%s\nSlideDetails=%s\nSlideSecondsPer=30\n' "$1" "$2" "$3" \
@@ -61,7 +61,7 @@ start() {
     focus '^Slide Show$'
 }
 
-# focus TITLE: sends keys to the window with this title from now on
+# focus TITLE: sends all following keys to the window with this title
 focus() {
     sleep 0.5
     window=$(xdotool search --onlyvisible --name "$1" | tail -1)
@@ -77,7 +77,7 @@ stop() {
 
 key() { xdotool key --delay 60 "$@"; sleep 0.5; }
 
-# shoot NAME: takes a picture of the window that has the focus, with its frame; shootAll: of the whole screen
+# shoot NAME: takes a picture of the window with the focus, including its frame; shootAll: of the whole screen
 shoot() { sleep 0.5; import -frame -window "$window" "$output/$1.png"; echo "$output/$1.png"; }
 shootAll() { sleep 0.5; import -window root "$output/$1.png"; echo "$output/$1.png"; }
 
