@@ -9,7 +9,7 @@ class App;
 
 namespace ovisto {
 
-/// Exit statuses of the program, unless it was asked to end: it then ends by that signal (130, 143 to a shell).
+/// Exit statuses of the program. If a signal asked it to end, it ends with that signal instead (130 or 143 in a shell).
 inline constexpr int kAllDone = 0;
 inline constexpr int kSomeFailed = 1;
 inline constexpr int kWrongUsage = 2;
@@ -18,12 +18,12 @@ inline constexpr int kWrongUsage = 2;
 struct Command {
     const char* name;
     const char* description;
-    /// Declares the options of the command. What it returns is called once they have been read: it does the work and
-    /// returns the exit status.
+    /// Declares the options of the command. Call the function that it returns after they have been read: it does the
+    /// work and returns the exit status.
     std::function<std::function<int()>(CLI::App& parser)> declare;
 };
 
-/// A command with `Options` of its own, which `addOptions` declares and `run` gets as they were read.
+/// A command with its own `Options`: `addOptions` declares them, `run` receives them.
 template <class Options>
 Command command(const char* name, const char* description, void (*addOptions)(CLI::App& parser, Options& options),
                 int (*run)(const Options& options))

@@ -8,7 +8,7 @@
 
 namespace ovisto {
 
-/// Makes a line of each report.
+/// Turns each report into a line.
 class LineReporter : public ErrorReporter {
 public:
     /// `lines` must outlive the object.
@@ -20,11 +20,11 @@ private:
     std::string& m_lines;
 };
 
-/// Standard output and standard error of a command, with its progress bar out of their way. Reports are written to
-/// standard error at once.
+/// Standard output and standard error of a command; keeps the progress bar out of their way. Reports go to standard
+/// error immediately.
 class CommandOutput : public ErrorReporter {
 public:
-    /// Writes what became of a file. An error makes the command one that failed.
+    /// Writes the result of a file. An error makes the command fail.
     void write(const FileResult& result);
 
     void report(const Phrase& context, const Error& error) override;

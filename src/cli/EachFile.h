@@ -9,11 +9,11 @@
 
 namespace ovisto {
 
-/// What a command does with one file: it writes to `result`, may report, and raises what it fails with.
+/// What a command does with one file: it writes to `result`, may report, and raises an error if it fails.
 using FileWork = std::function<void(const std::string& path, FileResult& result, ErrorReporter& reporter)>;
 
-/// Does `work` with each of the files by itself, up to `jobs` at a time. What it raises becomes one line about the
-/// file, with the first report in it. Returns the exit status.
+/// Does `work` for each file, up to `jobs` at a time. An error that it raises becomes one line about the file, with the
+/// first report. Returns the exit status.
 int runEach(const std::vector<std::string>& files, unsigned jobs, const FileWork& work);
 
 } // namespace ovisto

@@ -10,23 +10,23 @@
 
 namespace ovisto {
 
-/// What became of one file: text for standard output, and for standard error what went wrong, each line ended.
+/// The result of one file: text for standard output, and errors for standard error, one per line, each with a line end.
 struct FileResult {
     std::string output;
     std::string errors;
 };
 
 /// Calls `work` once for the index of every path, in up to `jobs` threads at a time, and `finish` with each result, one
-/// at a time and in the order of `paths`. `progress` is told before each file is finished; when it stops, no other file
-/// is begun, but those that were are finished.
+/// at a time and in the order of `paths`. `progress` is called before each file is finished; when it stops the loop, no
+/// other file is started, but those already started are finished.
 void forEachFile(const std::vector<std::string>& paths, unsigned jobs,
                  const std::function<FileResult(std::size_t index)>& work,
                  const std::function<void(const FileResult&)>& finish, Progress& progress);
 
-/// Gives the paths of files one after the other, and nothing after the last one.
+/// Returns the next path, and nothing after the last one.
 using FileSource = std::function<std::optional<std::string>()>;
 
-/// The same for files that are still being looked for. `next` is never called at the same time as `finish` or itself.
+/// The same for files that are still being found. `next` is never called at the same time as `finish` or itself.
 void forEachFile(const FileSource& next, unsigned jobs, const std::function<FileResult(const std::string& path)>& work,
                  const std::function<void(const FileResult&)>& finish, Progress& progress);
 

@@ -7,8 +7,8 @@
 
 namespace ovisto {
 
-/// The property tree as text, one line a node, two blanks a level: label, value and data type. With `technical`, the
-/// technical properties too.
+/// The property tree as text: one line per node, indented by two blanks per level, with label, value and data type.
+/// With `technical`, including technical properties.
 std::string propertyText(const XmlDocument& document, const TagDictionary& dictionary, bool technical);
 
 } // namespace ovisto

@@ -6,8 +6,8 @@
 
 namespace ovisto {
 
-/// A progress bar on the last line of a terminal (standard error), drawn only where there is one and more than one
-/// file to do. It stops when the program was asked to end, where that is deferred.
+/// A progress bar on the last line of a terminal (standard error). Drawn only on a terminal and for more than one file.
+/// Stops the loop after a deferred request to end the program.
 class TerminalProgress : public Progress {
 public:
     TerminalProgress();
@@ -15,7 +15,7 @@ public:
 
     bool step(const std::string& path, std::size_t done, std::size_t total) override;
 
-    /// Takes the bar away, so that something else can be written.
+    /// Removes the bar, so that something else can be written.
     void clear();
 
 private:

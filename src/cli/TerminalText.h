@@ -11,8 +11,8 @@ namespace ovisto {
 /// `message`.
 std::string errorLine(const Phrase& context, const Phrase& message);
 
-/// `text` on one line and harmless to a terminal: line breaks and controls are blanks, and what is longer than
-/// `mostCharacters` is cut.
+/// `text` on one line and harmless to a terminal: a run of line breaks or control characters becomes a blank, and text
+/// beyond `mostCharacters` is cut.
 std::string oneLine(const std::string& text, std::size_t mostCharacters = std::string::npos);
 
 } // namespace ovisto

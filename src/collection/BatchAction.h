@@ -44,7 +44,7 @@ private:
     std::unordered_set<std::size_t> m_repeated;    ///< earlier in the list under this or another name
 };
 
-/// The indexes of those of `realPaths` whose temporary name while they are written is another of them.
+/// The indexes of those `realPaths` whose temporary name is another of them.
 std::unordered_set<std::size_t> overwritingOthers(const std::vector<std::string>& realPaths);
 /// The error of such a file.
 Error overwritingError();

@@ -7,30 +7,29 @@
 
 namespace ovisto {
 
-/// What the metadata of a file is to contain.
+/// What the metadata of a file must contain.
 struct ContentSearch {
-    std::string words;       ///< separated by commas, or one regular expression; empty: anything
-    bool allWords = false;   ///< all of the words, not any one
-    bool wholeWords = false; ///< not as a part of longer words; nothing to a regular expression
+    std::string words;       ///< separated by commas, or one regular expression; empty for anything
+    bool allWords = false;   ///< all of the words, not just any
+    bool wholeWords = false; ///< only whole words; ignored for a regular expression
     bool regExp = false;     ///< `words` is a regular expression
 };
 
-/// Tells the files whose metadata contains what is searched for. It may be used by several threads at once.
+/// Decides whether the metadata of a file contains what is searched for. Several threads may use it at once.
 class ContentFilter {
 public:
-    /// Raises kInvalidCall when what is searched for is no regular expression. The characters of regular expressions
-    /// have their meaning in words too.
+    /// Raises kInvalidCall if the search is not a valid regular expression. Words may contain regular-expression
+    /// characters, with their special meaning.
     explicit ContentFilter(const ContentSearch& search);
 
-    /// Whether the text of the document of the JPEG file at `path` contains it: markup counts. Most characters beyond
-    /// ASCII are there as references ("&#233;"); words find them (see documentPattern()), while a regular expression
-    /// has to ask for the reference. A file that the reader
-    /// cannot translate does not; where anything will do, no file is read. Raises what RegularExpression::matches()
-    /// raises, with the file's name.
+    /// True if the document text of the JPEG file at `path`, markup included, matches. Most characters beyond ASCII are
+    /// references in it ("&#233;"): words find them (see documentPattern()), a regular expression must ask for the
+    /// reference. False for a file that the reader cannot translate. With nothing to search for, true without opening
+    /// the file. Raises the errors of RegularExpression::matches(), with the file's name.
     bool keeps(const std::string& path) const;
 
 private:
-    std::vector<RegularExpression> m_expressions; // all of them have to match
+    std::vector<RegularExpression> m_expressions; // all of them must match
 };
 
 } // namespace ovisto

@@ -6,8 +6,8 @@
 
 namespace ovisto {
 
-/// Which file names a person means by "*.jpg;*.jpeg": patterns separated by ";", in which "*" stands for any run of
-/// characters and "?" for one character. Letter case does not count.
+/// Matches file names against patterns such as "*.jpg;*.jpeg", separated by ";". "*" stands for any run of characters,
+/// "?" for one character. Case is ignored.
 class FilePattern {
 public:
     explicit FilePattern(std::string_view patterns);

@@ -14,8 +14,8 @@ namespace ovisto {
 struct ScanOptions {
     std::string folder;
     std::string patterns = "*.jpg;*.jpeg";
-    bool subFolders = true; ///< those below the folder too
-    bool append = false;    ///< to the list as it is, not to an empty one
+    bool subFolders = true; ///< including subfolders
+    bool append = false;    ///< to the existing list instead of an empty one
     ContentSearch content;
 };
 
@@ -25,11 +25,10 @@ public:
     /// Raises what FolderWalk raises.
     explicit FolderScan(ScanOptions options);
 
-    /// Adds the full paths of the files found to `found`, emptied before unless the options say otherwise, in the order
-    /// of FolderWalk, whether the list has them already or not. To be called once.
-    /// `progress` is told of every file whose name matches, with its place in its folder; when it stops, what was found
-    /// stays. A folder that cannot be read is reported with its path. A content search that cannot be made, or not of
-    /// some files, is reported once.
+    /// Appends the full paths of the files found to `found` in the order of FolderWalk, even if it already has them.
+    /// Clears `found` first unless the options say append. Call only once. `progress` is called for every file whose
+    /// name matches, with its place in its folder; when it stops the scan, what was found stays. A folder that cannot
+    /// be read is reported with its path. A content search that fails, altogether or for some files, is reported once.
     void run(std::vector<std::string>& found, Progress& progress, ErrorReporter& reporter);
 
 private:

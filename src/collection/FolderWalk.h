@@ -14,23 +14,23 @@
 
 namespace ovisto {
 
-/// Goes through a folder, and those below it where wanted, from file to file: those of a folder by name, then those of
-/// its sub-folders. No folder is read twice, by whatever links it is reached, so that links in a circle end.
+/// Walks the files of a folder and, if wanted, of its subfolders: first the files of a folder by name, then those of
+/// its subfolders. No folder is read twice, whatever links lead to it, so circular links end.
 class FolderWalk {
 public:
     /// Raises kPathNotFound, described by Message::FolderNotFound, when `folder` cannot be read. The files are those
     /// whose names match `patterns`.
     FolderWalk(std::string folder, std::string_view patterns, bool subFolders);
 
-    /// A file with its place among those of its folder.
+    /// A file and its place among the files of its folder.
     struct File {
         std::string path;
         std::size_t place = 0;
         std::size_t count = 0;
     };
 
-    /// The next file; none after the last one, or when `progress`, which is told of each folder below the first one,
-    /// stops. A folder that cannot be read is reported with its path, and left out with all below it.
+    /// The next file; nothing after the last one, or when `progress`, which is called for each folder below the first,
+    /// stops the walk. A folder that cannot be read is reported with its path and skipped, with everything below it.
     std::optional<File> next(Progress& progress, ErrorReporter& reporter);
 
 private:
@@ -38,9 +38,9 @@ private:
 
     FilePattern m_pattern;
     bool m_subFolders;
-    std::string m_folder;             ///< where it is
-    std::vector<std::string> m_names; ///< of the files there
-    std::size_t m_place = 0;          ///< of the next one of them
+    std::string m_folder;             ///< the current folder
+    std::vector<std::string> m_names; ///< of its files
+    std::size_t m_place = 0;          ///< of the next of them
     std::vector<std::string> m_ahead; ///< folders to read, the next one at the end
     std::set<FolderIdentity> m_seen;
 };

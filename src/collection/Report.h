@@ -10,39 +10,39 @@
 
 namespace ovisto {
 
-/// A file of a list that was left out, and why.
+/// A file that was left out, and why.
 struct FileFailure {
     std::string path;
     Error error;
 };
 
-/// Writes the documents of the JPEG files, one after the other and as the reader made them, as one document with the
-/// root element JPEGs to the file `combined`, in UTF-16. One document at a time is in memory. When `progress` stops,
-/// the files before it are in it. What the reader could not translate in full, or is not well-formed, is left out and
-/// returned. Raises the error that kept `combined` from being written.
+/// Writes the documents of the JPEG files, as the reader made them, one after another into one document with the root
+/// element JPEGs, in UTF-16, to the file `combined`. Only one document at a time is in memory. When `progress` stops
+/// it, the files before are included. A file that the reader could not translate in full, or whose document is not
+/// well-formed, is left out and returned. Raises an error if `combined` cannot be written.
 std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files, const KeepOptions& keep,
                                           const std::string& combined, Progress& progress);
 
-/// What a report is made with.
+/// How a report is made.
 struct ReportOptions {
     std::string styleSheet;
-    std::string folder; ///< for "Report.xml", the combined documents, and the report; with a separator at its end
+    std::string folder; ///< for the report and "Report.xml", the combined documents; ends with a separator
     KeepOptions keep;
 };
 
-/// A report as it was made.
+/// The result of making a report.
 struct ReportResult {
-    std::string path; ///< empty when it could not be written
+    std::string path; ///< empty if it could not be written
     std::vector<FileFailure> leftOut;
 };
 
-/// Makes a report on the files by a style sheet. Its name is "Report." and an extension that its text decides; it and
-/// "Report.xml" replace those of the last time. Errors are reported, each in the context of what was done.
+/// Makes a report on the files with a style sheet. It is called "Report." plus the extension that its text decides; it
+/// and "Report.xml" replace the previous ones. Errors are reported, each in the context of the failed operation.
 ReportResult makeReport(const std::vector<std::string>& files, const ReportOptions& options, Progress& progress,
                         ErrorReporter& reporter);
 
-/// The extension of a report: what follows the "<" that it begins with, three characters ("htm", in the letter case of
-/// the tag), or "txt". `report` is UTF-16 with a byte-order mark.
+/// The extension of a report: the three characters after the "<" that it begins with ("htm", in the case of the tag),
+/// or "txt". `report` is UTF-16 with a byte-order mark.
 std::string reportExtension(std::string_view report);
 
 } // namespace ovisto

@@ -7,14 +7,14 @@
 
 namespace ovisto {
 
-/// The file that the metadata of the image at `imagePath` is exported to: beside it, ".XML" appended to the whole name.
+/// The file to which the metadata of the image at `imagePath` is exported: its path with ".XML" appended.
 std::string exportPath(const std::string& imagePath);
 
-/// Removes the attributes that only serve the program while it shows or lays out a document.
+/// Removes the attributes that the program uses only while it shows or lays out a document.
 void removeBookkeeping(XmlDocument& document);
 
-/// Writes `document`, which stays as it is, without bookkeeping to the export file of `imagePath`, which it replaces.
-/// Errors are reported and raised.
+/// Writes `document`, without bookkeeping, to the export file of `imagePath`, replacing it. `document` itself is
+/// unchanged. Errors are reported and raised.
 void exportDocument(const XmlDocument& document, const std::string& imagePath, ErrorReporter& reporter);
 
 } // namespace ovisto

@@ -28,15 +28,15 @@ inline constexpr int kPathAccessError = 75;
 inline constexpr int kPathNotFound = 76;
 inline constexpr int kObjectNotSet = 91;
 
-// Failures of the program's own making.
+// The program's own failures.
 inline constexpr int kOpenFailed = -2147221504;     ///< a file cannot be opened, or an XML file cannot be parsed
-inline constexpr int kStructureError = -2147221503; ///< a file is no sound JPEG
+inline constexpr int kStructureError = -2147221503; ///< a file is not a sound JPEG file
 
-/// The error with one of the system numbers above and its customary description.
+/// The error with one of the system numbers above and its usual description.
 Error systemError(int number);
 
-/// Runs steps that may fail, so that the ones after them still run, and keeps the latest error until it is looked at.
-/// A lack of memory or of another resource of the system counts as an error too; nothing else is caught.
+/// Runs steps that may fail, so that later steps still run, and keeps the latest error until it is looked at. Running
+/// out of memory or of another system resource counts as an error too; nothing else is caught.
 class ErrorTrap {
 public:
     template <class Step> void run(Step&& step)
@@ -57,12 +57,12 @@ public:
     /// The pending error, which stays pending. There must be one.
     const Error& error() const { return *m_pending; }
 
-    /// The pending error, which is seen now and hence no longer pending. There must be one.
+    /// Returns the pending error, which is then no longer pending. There must be one.
     Error take() { return *std::exchange(m_pending, std::nullopt); }
 
     void clear() { m_pending.reset(); }
 
-    /// Raises the pending error, if any, for the caller to deal with.
+    /// Raises the pending error, if any.
     void raise()
     {
         if (pending())

@@ -7,7 +7,7 @@
 
 namespace ovisto {
 
-/// Whoever tells a person about an error: a message box, a terminal, a test.
+/// Receives error reports: a message box, a terminal, a test.
 class ErrorReporter {
 public:
     ErrorReporter() = default;
@@ -19,7 +19,7 @@ public:
     virtual void report(const Phrase& context, const Error& error) = 0;
 };
 
-/// Tells `reporter` that `error` happened in `context`.
+/// Reports `error`, which happened in `context`, to `reporter`.
 void ErrorReport(ErrorReporter& reporter, const Phrase& context, const Error& error);
 
 /// Reports the error that `trap` holds, if any, in `context`: a phrase, or what makes it, where many steps come along
@@ -34,7 +34,7 @@ template <class Context> void reportPending(ErrorReporter& reporter, const Conte
         ErrorReport(reporter, context, trap.error());
 }
 
-/// Runs `step` and reports the error that it raises, in `context`. Returns whether it raised none.
+/// Runs `step`, and reports the error that it raises in `context`. Returns whether it succeeded.
 template <class Context, class Step> bool attempt(ErrorReporter& reporter, const Context& context, Step&& step)
 {
     ErrorTrap trap;
@@ -43,7 +43,7 @@ template <class Context, class Step> bool attempt(ErrorReporter& reporter, const
     return !trap.pending();
 }
 
-/// The same, and raises the error again for the caller.
+/// The same, but raises the error again.
 template <class Context, class Step> void reported(ErrorReporter& reporter, const Context& context, Step&& step)
 {
     ErrorTrap trap;

@@ -5,7 +5,7 @@
 
 namespace ovisto {
 
-/// Whoever watches a long loop over files: a dialog, a terminal, a test.
+/// Watches a long loop over files: a dialog, a terminal, a test.
 class Progress {
 public:
     Progress() = default;
@@ -13,14 +13,14 @@ public:
     Progress& operator=(const Progress&) = delete;
     virtual ~Progress() = default;
 
-    /// Told before each file, `done` of `total` being finished; a total of 0 is not known yet. False: the loop is to
-    /// stop before this file.
+    /// Called before each file, when `done` of `total` files are finished; a total of 0 is not known yet. Return false
+    /// to stop the loop before this file.
     virtual bool step(const std::string& path, std::size_t done, std::size_t total) = 0;
 
-    /// Told before each folder that a search for files goes into, as many may hold none. False: it is to stop.
+    /// Called before a search enters a folder, because many folders may hold no file. Return false to stop it.
     virtual bool enter(const std::string& /*folder*/) { return true; }
 
-    /// Told behind the loop where work follows that cannot be stopped.
+    /// Called after the loop if work follows that cannot be stopped.
     virtual void endOfFiles() {}
 };
 

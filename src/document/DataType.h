@@ -21,18 +21,18 @@ inline constexpr int kSignedLong = 9;
 inline constexpr int kSignedRational = 10;
 inline constexpr int kUnicodeString = 11; ///< UCS-2 text of the tags 9C9B to 9C9F; TIFF says FLOAT
 
-/// Bytes in an IFD entry for a value or, where that needs more, its offset.
+/// The bytes of an IFD entry that hold a value or, if it does not fit, its offset.
 inline constexpr std::int64_t kValueFieldSize = 4;
 
-/// What the text of a value is. Reader and writer have one function for each.
+/// The form of a value's text. Reader and writer have a function for each.
 enum class ValueForm {
     Hexadecimal, ///< two digits a byte
     Text,
     WideText, ///< UCS-2 in the file
     RawText,  ///< bytes of unknown meaning, as characters
-    Short,    ///< numbers with commas between them; signed ones are read and written as unsigned
+    Short,    ///< numbers separated by commas; signed ones are read and written as unsigned
     Long,
-    Rational, ///< the same with pairs of numbers, a stroke inside each
+    Rational, ///< the same with fractions: two numbers with a slash
 };
 
 /// A data type.
@@ -41,23 +41,23 @@ struct DataType {
     std::string_view name; ///< for people
     ValueForm form;
     std::int64_t size;       ///< bytes of a component
-    std::int64_t mostInside; ///< components that stand in the entry itself; more stand outside
+    std::int64_t mostInside; ///< how many components fit into the entry itself; more are stored outside
 };
 
-/// The data type of this number; null when there is none.
+/// The data type with this number; null if there is none.
 const DataType* findDataType(int number);
 
-/// The components that the text of a value has in a file, terminators included.
+/// How many components the text of a value has in a file, terminators included.
 std::int64_t componentCount(const DataType& type, const std::string& text);
 
-/// The number of a node's data type, 0 when it has none. Raises kTypeMismatch for a "d" that is no number, kOverflow
-/// for one that is too large.
+/// The number of a node's data type, 0 if it has none. Raises kTypeMismatch if "d" is not a number, kOverflow if it is
+/// too large.
 int dataTypeOf(const ConstXmlNode& node);
 
-/// The name of a data type for people; empty for a number without one.
+/// The user-visible name of a data type; empty for an unknown number.
 std::string_view dataTypeName(int number);
 
-/// The bytes that a run of hexadecimal digits stands for: half as many, with halves rounded to the even number.
+/// How many bytes a run of hexadecimal digits counts as: half as many, rounded to even.
 std::int64_t hexByteCount(const std::string& text);
 
 } // namespace ovisto

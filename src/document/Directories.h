@@ -12,8 +12,8 @@ namespace ovisto {
 // The parts of an Exif element. Reading, layout, writing, creation and deletion all walk this table, so a further
 // directory is a row here, and entries in the tag dictionary and its document type.
 
-/// The names of the elements that stand for a part.
-inline constexpr std::string_view kFirstDirectory = "Exif"; ///< its own entries: what TIFF calls IFD0
+/// The element names of the parts.
+inline constexpr std::string_view kFirstDirectory = "Exif"; ///< its own entries, called IFD0 in TIFF
 inline constexpr std::string_view kExifIfd = "IFDE";
 inline constexpr std::string_view kInteroperabilityIfd = "IFDI";
 inline constexpr std::string_view kMakerNoteBytes = "MAKE";
@@ -23,10 +23,10 @@ inline constexpr std::string_view kThumbnailBytes = "THUM";
 /// A directory has entries (elements IFD); a block of bytes is a run of hexadecimal digits.
 enum class PartKind { Directory, Bytes };
 
-/// The tags of the entries that say where a part stands in the TIFF structure; 0 for none.
+/// The tags of the entries that say where a part is in the TIFF structure; 0 for none.
 struct PartPointer {
     std::uint16_t offset = 0;
-    /// For Bytes, their number. Where there is no such entry, it is the component count of the one with the offset.
+    /// For Bytes, how many there are. Without such an entry, it is the component count of the entry with the offset.
     std::uint16_t length = 0;
 };
 
@@ -42,18 +42,18 @@ struct ExifPart {
     /// The element that it is a child of; empty for the first directory, which is Exif itself.
     std::string_view parent = {};
     PartKind kind = PartKind::Directory;
-    /// The directory with the entries of `pointer` and `strips`. Without such entries, the directory whose link to the
-    /// next one leads here; empty for the first, which the TIFF header leads to.
+    /// The directory that holds the entries of `pointer` and `strips` or, without such entries, whose link to the next
+    /// directory leads here. Empty for the first directory, which the TIFF header points to.
     std::string_view pointedFrom = {};
     PartPointer pointer = {}; ///< created together with the part
-    PartPointer strips = {};  ///< the same for an image in strips: the first offset counts, and the sum of the lengths
+    PartPointer strips = {};  ///< the same for an image in strips: the first offset and the sum of the lengths
     EntryText property = {};  ///< another entry that is created together with the part
-    /// The part for whose sake the directory is there, if any: they are deleted together. Other parts are deleted
-    /// together with the entry of their offset.
+    /// The part that the directory exists for, if any: the two are deleted together. Any other part is deleted together
+    /// with the entry of its offset.
     std::string_view purpose = {};
 };
 
-/// In the order in which they stand in a file. Those of one parent are in the order of the document too.
+/// In file order. Parts of the same parent are also in document order.
 inline constexpr ExifPart kExifParts[] = {
     {.element = kFirstDirectory},
     {.element = kExifIfd, .parent = kFirstDirectory, .pointedFrom = kFirstDirectory, .pointer = {kExifDirectory}},
@@ -76,13 +76,13 @@ inline constexpr ExifPart kExifParts[] = {
      .property = {kCompression, "6"}}, // JPEG, as Exif asks of a thumbnail
 };
 
-/// The row of an element; null when it is no part.
+/// The row of an element; null if it is not a part.
 const ExifPart* exifPart(std::string_view element);
 
-/// The row of a node path as NodeXPath() writes it; null when it is not that of a part.
+/// The row for a node path as NodeXPath() writes it; null if it is not the path of a part.
 const ExifPart* exifPartAt(std::string_view nodePath);
 
-/// The row of the bytes whose number is the component count of the entries of this tag; null when there is none.
+/// The row of the byte block whose size is the component count of the entries with this tag; null if there is none.
 const ExifPart* bytesCountedBy(int tag);
 
 /// The node of a part below `exif`, an Exif element, or no node.

@@ -10,7 +10,7 @@ namespace ovisto {
 
 enum class NodeAction { Set, Delete, Add };
 
-/// One change to one node, as it is made to any number of files.
+/// A change to one node, to be made to any number of files.
 struct NodeChange {
     NodeAction action = NodeAction::Set;
     DictionaryEntry entry{}; ///< of the node

@@ -6,14 +6,14 @@
 
 namespace ovisto {
 
-/// The text of an attribute; empty when there is no node or no such attribute.
+/// The text of an attribute; empty if there is no node or no such attribute.
 std::string AttributeGet(const ConstXmlNode& node, const char* name);
 
-/// Sets an attribute, creating it where it is missing. An empty value deletes the attribute and never creates one.
+/// Sets an attribute, creating it if necessary. An empty value deletes it.
 void AttributeSet(XmlNode node, const char* name, const std::string& value);
 
-/// The node's path from the root element down: "/" and the element's name a level, with "[@id='...']" where it has an
-/// id, as in /JPEG/Exif[@id='FFE1']/IFDE/IFD[@id='9003']. The path of a text is that of its element. The same path
+/// The node's path from the root element down: for each level "/" and the element's name, with "[@id='...']" if it has
+/// an id, as in /JPEG/Exif[@id='FFE1']/IFDE/IFD[@id='9003']. The path of a text is that of its element. The same path
 /// selects the node in a metadata document and its entry in the tag dictionary.
 std::string NodeXPath(const ConstXmlNode& node);
 

@@ -7,7 +7,7 @@ namespace ovisto {
 
 inline constexpr const char* kExifPath = "/JPEG/Exif[@id='FFE1']";
 
-// What the operating system shows of a file too (tags 9C9B to 9C9F).
+// What the operating system also shows of a file (tags 9C9B to 9C9F).
 inline constexpr const char* kTitlePath = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']";
 inline constexpr const char* kCommentsPath = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9C']";
 inline constexpr const char* kKeywordsPath = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9E']";

@@ -8,7 +8,7 @@
 
 namespace ovisto {
 
-/// A node of a metadata document as a person sees it. `Node` is an XmlNode, or a ConstXmlNode of a const document.
+/// A node of a metadata document as the user sees it. `Node` is an XmlNode, or a ConstXmlNode of a const document.
 template <class Node> struct ShownNode {
     Node node;
     DictionaryEntry entry;
@@ -18,12 +18,12 @@ template <class Node> struct ShownNode {
 };
 using PropertyItem = ShownNode<ConstXmlNode>;
 
-/// The elements of `document` that are shown, in document order, each before those below it. A hidden one takes all
-/// below it with it. With `technical`, the technical ones are shown as well.
+/// The elements of `document` to be shown, in document order, parents first. A hidden element hides everything below
+/// it. With `technical`, technical elements are included.
 std::vector<ShownNode<XmlNode>> propertyTree(XmlDocument& document, const TagDictionary& dictionary, bool technical);
 std::vector<PropertyItem> propertyTree(const XmlDocument& document, const TagDictionary& dictionary, bool technical);
 
-/// The data type of a node; a missing or strange one counts as Undefined.
+/// The data type of a node; a missing or invalid one counts as Undefined.
 int shownDataType(const ConstXmlNode& node);
 
 } // namespace ovisto

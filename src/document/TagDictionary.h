@@ -8,18 +8,18 @@
 
 namespace ovisto {
 
-/// Whether a node is for everybody's eyes.
+/// Who gets to see a node.
 enum class Visibility { Shown, Technical, Hidden };
 
 /// Whether a node's value may be changed (Free only) and the node be deleted (not when Required).
 enum class Protection { Free, Protected, Required };
 
-/// What the tag dictionary says of a node, or no entry. It is valid as long as the dictionary lives. No entry has no
-/// texts and no data type, and counts as Shown and Free.
+/// What the tag dictionary says about a node, or no entry. Valid as long as the dictionary lives. No entry has no texts
+/// and no data type, and counts as Shown and Free.
 class DictionaryEntry {
 public:
     DictionaryEntry() = default;
-    /// The entry of a dictionary that `node` is; no node is no entry.
+    /// Wraps `node`, an element of a dictionary; no node is no entry.
     explicit DictionaryEntry(const ConstXmlNode& node) : m_node(node) {}
 
     explicit operator bool() const { return static_cast<bool>(m_node); }
@@ -46,8 +46,8 @@ private:
     ConstXmlNode m_node;
 };
 
-/// What is known of the nodes of metadata documents. The dictionary mirrors a document, so a node's path leads to its
-/// entry.
+/// What is known about the nodes of metadata documents. The dictionary mirrors a document, so a node's path also
+/// selects its entry.
 class TagDictionary {
 public:
     /// Loads the dictionary file. Raises what XMLLoad() raises.

@@ -4,7 +4,7 @@
 
 namespace ovisto {
 
-// The tags that the program treats in a way of their own (Exif 2.32, TIFF 6.0; the last five are Windows').
+// The tags that the program treats specially (Exif 2.32, TIFF 6.0; the last two bound those of Windows).
 inline constexpr std::uint16_t kCompression = 0x0103;
 inline constexpr std::uint16_t kStripOffsets = 0x0111;
 inline constexpr std::uint16_t kStripByteCounts = 0x0117;
@@ -20,13 +20,13 @@ inline constexpr std::uint16_t kCfaPattern = 0xA302;
 inline constexpr std::uint16_t kTitle = 0x9C9B;
 inline constexpr std::uint16_t kSubject = 0x9C9F;
 
-/// Undefined values that are always four bytes and always stand in the entry itself.
+/// Whether a value of type Undefined is always four bytes and always in the entry itself.
 constexpr bool isFourByteTag(int tag)
 {
     return tag == kComponentsConfiguration || tag == kFileSource || tag == kSceneType || tag == kCfaPattern;
 }
 
-/// Title, comments, author, keywords and subject: byte arrays that hold UCS-2 text.
+/// Whether the tag is title, comments, author, keywords or subject: byte arrays that hold UCS-2 text.
 constexpr bool isWindowsText(int tag)
 {
     return tag >= kTitle && tag <= kSubject;

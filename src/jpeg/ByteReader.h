@@ -13,22 +13,22 @@
 
 namespace ovisto {
 
-/// How much text a translation may produce before reads fail: enough for any file that says each thing once, and a
-/// bound for one whose directories all point at the same bytes. In bytes of text, for a file of `fileSize` bytes.
+/// How many bytes of text a translation of a file of `fileSize` bytes may produce before reads fail: enough for any
+/// file that says each thing once, and a bound for one whose directories all point at the same bytes.
 constexpr std::int64_t textLimit(std::int64_t fileSize)
 {
     return std::int64_t{8} * 1024 * 1024 + 8 * fileSize;
 }
 
-/// Reads decoded fields anywhere in a JPEG file. What lies past the end of the file reads as zero bytes. Texts are
-/// UTF-8; a byte of the file is one character of the code page. Raises kInvalidCall for a length that no file can
-/// mean, kOutOfMemory when textLimit() is reached, and kDeviceError when the disk fails.
+/// Reads fields at any position of a JPEG file. Bytes past the end of the file read as zeros. Texts are returned as
+/// UTF-8; each byte of the file is one character of the code page. Raises kInvalidCall for an impossible length,
+/// kOutOfMemory when textLimit() is reached, and kDeviceError when the disk fails.
 class ByteReader {
 public:
     /// `file` must outlive the reader.
     explicit ByteReader(const InputFile& file);
 
-    /// True: the least significant byte comes first ("II"). False: the most significant one ("MM", JPEG markers).
+    /// True if the least significant byte comes first ("II"); false for the most significant one ("MM", JPEG markers).
     bool littleEndian = false;
 
     std::uint8_t ReadByte(FilePos pointer);
@@ -36,12 +36,12 @@ public:
     std::uint16_t ReadInteger(FilePos pointer);
     /// 32 bits, unsigned.
     std::uint32_t ReadLong(FilePos pointer);
-    /// Up to `length` bytes, ending before the first zero byte, without control characters but tab, LF and CR.
+    /// Up to `length` bytes, ending before the first zero byte. Control characters other than tab, LF and CR are left
+    /// out.
     std::string ReadString(FilePos pointer, std::int64_t length);
     /// All bytes before the first zero byte.
     std::string ReadStringNull(FilePos pointer);
-    /// The UCS-2 characters that `length` bytes hold, without those that are 0; for a surrogate, the replacement
-    /// character.
+    /// The UCS-2 characters in `length` bytes. Zeros are left out; a surrogate becomes the replacement character.
     std::string ReadUnicode(FilePos pointer, std::int64_t length);
     /// `length` bytes, two hexadecimal digits each.
     std::string ReadHexString(FilePos pointer, std::int64_t length);
@@ -49,7 +49,7 @@ public:
     /// Raises kInvalidCall for an array of `length` bytes that is longer than both the file and 65,536 bytes.
     void checkLength(std::int64_t length) const;
 
-    /// Counts text that was made of what was read. Raises kOutOfMemory when textLimit() is reached.
+    /// Counts text made from what was read. Raises kOutOfMemory when textLimit() is reached.
     void charge(std::int64_t bytes);
 
     /// Why nothing more can be read from this file: the disk failed or textLimit() was reached.
@@ -61,8 +61,8 @@ private:
     static constexpr std::int64_t kPageSize = 16384;
 
     struct Page {
-        std::int64_t start = -1; // in the file; a multiple of kPageSize
-        std::size_t size = 0;    // bytes that the file had there
+        std::int64_t start = -1; // position in the file; a multiple of kPageSize
+        std::size_t size = 0;    // how many bytes the file had there
         std::unique_ptr<std::uint8_t[]> bytes;
     };
 
@@ -73,7 +73,7 @@ private:
 
     const InputFile& m_file;
     std::array<Page, 4> m_pages;
-    std::size_t m_nextPage = 0; // the one to be read over next
+    std::size_t m_nextPage = 0; // the one to be replaced next
     std::int64_t m_textLeft;
     std::optional<Error> m_failure;
 };

@@ -5,7 +5,7 @@
 
 namespace ovisto {
 
-/// Place of a byte in a file; the first byte is 1.
+/// Position of a byte in a file; the first byte is 1.
 struct FilePos {
     std::int64_t value = 1;
     auto operator<=>(const FilePos&) const = default;
@@ -22,7 +22,7 @@ constexpr FilePos operator+(FilePos position, std::int64_t bytes)
     return {position.value + bytes};
 }
 
-/// Where `offset` lies in the file whose TIFF header stands at `base`.
+/// The position of `offset` in a file whose TIFF header is at `base`.
 constexpr FilePos filePos(FilePos base, TiffOffset offset)
 {
     return base + offset.value;

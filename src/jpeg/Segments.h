@@ -13,7 +13,7 @@ namespace ovisto {
 /// One segment of a JPEG file. It may reach past the end of the file.
 struct Segment {
     std::uint16_t marker = 0;
-    std::uint16_t length = 0; ///< its length field, which counts itself and the payload
+    std::uint16_t length = 0; ///< the length field, which counts itself and the payload
     FilePos position;         ///< the first byte of the marker
 
     FilePos payload() const { return position + 4; }
@@ -22,7 +22,7 @@ struct Segment {
 
 enum class SegmentsEnd {
     Scan,          ///< the last segment is the start of scan; image data follows it
-    UnknownMarker, ///< where the next marker belongs stands a number that is not one
+    UnknownMarker, ///< a number that is not a marker is where the next marker should be
     EndOfFile,     ///< the file ends before a start of scan
 };
 
@@ -34,10 +34,10 @@ struct SegmentsResult {
 };
 
 /// Calls `visit` for each segment of a JPEG file, from the one after the start-of-image marker up to and including the
-/// start of scan. Every marker is taken to have a length field. Raises what ByteReader and `visit` raise.
+/// start of scan. Assumes that every marker has a length field. Raises what ByteReader and `visit` raise.
 SegmentsResult walkSegments(ByteReader& reader, const std::function<void(const Segment&)>& visit);
 
-/// Where the image data of a JPEG file lies, in the terms of the document's IMG element.
+/// Where the image data of a JPEG file is, as the document's IMG element says it.
 struct ImagePlace {
     std::int64_t offset = 1; ///< of the first byte after the scan header; the first byte of the file is 1
     std::int64_t length = 0; ///< bytes of the file after that one, without the end-of-image marker
@@ -50,7 +50,7 @@ constexpr ImagePlace imagePlaceFrom(FilePos firstByte, std::int64_t fileSize)
     return {firstByte.value, fileSize - firstByte.value - kEndOfImageSize};
 }
 
-/// Finds the image data by the segments of the file; none when they do not lead to a scan. Raises kDeviceError.
+/// Finds the image data by walking the segments; nothing if they do not lead to a scan. Raises kDeviceError.
 std::optional<ImagePlace> imagePlace(const InputFile& file);
 
 } // namespace ovisto

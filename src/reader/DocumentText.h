@@ -8,8 +8,8 @@
 
 namespace ovisto {
 
-/// The growing text of a document. What is appended counts as text made of what `reader` read: raises kOutOfMemory,
-/// and appends nothing, when textLimit() is reached.
+/// The growing text of a document. Appended text is charged to `reader`: when textLimit() is reached, nothing is
+/// appended and kOutOfMemory is raised.
 class DocumentText {
 public:
     /// `reader` must outlive the text.
@@ -19,7 +19,7 @@ public:
     void appendElement(std::string_view openingTag, std::string_view content, std::string_view closingTag);
     void append(std::string_view text) { appendElement(text, {}, {}); }
 
-    /// Opens or closes an element that is there however long the text is; it does not count.
+    /// Appends a tag that must be there however long the text is. It is not charged.
     void appendTag(std::string_view tag) { m_text += tag; }
 
     /// The text, which is empty afterwards.

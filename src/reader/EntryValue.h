@@ -13,10 +13,10 @@ struct EntryValue {
     std::string text; ///< escaped where it needs to be
 };
 
-/// The data type that the document gives an entry, as far as the entry itself tells.
+/// The data type that the document gives an entry, as far as the entry alone decides it.
 int entryDataType(const IfdEntry& entry);
 
-/// Reads the value of `entry`. Raises what ByteReader raises.
+/// Reads the value of `entry`. Raises the errors of ByteReader.
 EntryValue entryValue(ByteReader& reader, const IfdEntry& entry);
 
 } // namespace ovisto

@@ -21,21 +21,21 @@ namespace ovisto {
 /// Turns one APP1 segment into an Exif or an Exif1 element. What cannot be read is missing from the text.
 class ExifDecoding {
 public:
-    /// Bytes come from `reader`, elements go to `text`. All three must outlive the object.
+    /// Reads from `reader` and appends elements to `text`. All three arguments must outlive the object.
     ExifDecoding(ByteReader& reader, DocumentText& text, const KeepOptions& keep)
         : m_reader(reader), m_text(text), m_keep(keep)
     {
     }
 
-    /// Decodes the segment whose marker stands at `pointer` and whose length field is `markLen`. Leaves the reader in
-    /// the byte order of the segment.
+    /// Decodes the segment whose marker is at `pointer` and whose length field is `markLen`. Leaves the reader in the
+    /// byte order of the segment.
     void ExifScan(std::uint16_t markLen, FilePos pointer);
 
     /// Whether an option left something out.
     bool changesMade() const { return m_changesMade; }
 
 private:
-    /// Where a part of the segment stands; 0 where no entry says so.
+    /// Where a part of the segment is; 0 if no entry says so.
     struct Place {
         TiffOffset offset;
         std::int64_t length = 0;

@@ -8,10 +8,10 @@
 
 namespace ovisto {
 
-/// What became of a JPEG file.
+/// The result of translating a JPEG file.
 struct Translation {
-    /// The document, root element JPEG, in UTF-8 without an XML declaration. After an error it holds what was read
-    /// before, well-formed, or nothing.
+    /// The document (root element JPEG) in UTF-8, without an XML declaration. After an error, what was read before it,
+    /// well-formed, or nothing.
     std::string text;
     /// Whether an option left out something that the file holds: saving the document would change the file.
     bool ChangesMade = false;

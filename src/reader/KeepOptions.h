@@ -2,7 +2,7 @@
 
 namespace ovisto {
 
-/// What a translation keeps of the parts of a file that not everybody wants.
+/// Which optional parts of a file a translation keeps.
 struct KeepOptions {
     bool pCodifyMakerNote = true; ///< the maker note: tag 927C and its bytes
     bool pCodifyThumb = true;     ///< the second directory with the thumbnail

@@ -15,24 +15,25 @@ public:
     /// Both must outlive the writer.
     SegmentWriter(OutputFile& file, ErrorReporter& reporter) : m_file(file), m_reporter(reporter) {}
 
-    /// True: the least significant byte comes first ("II"). It must be false wherever a segment's length is written.
+    /// True if the least significant byte comes first ("II"). Must be false when a segment's length is written.
     bool IntelOrder = false;
 
-    /// The bytes that pairs of hexadecimal digits name. A digit left over at the end stands for both digits of a byte.
+    /// Writes the bytes of a run of hexadecimal digits. A single digit at the end counts as both digits of a byte.
     void WriteHex(std::string_view hex);
-    /// A segment's length, 16 bits that count themselves, and the bytes of `hex`. Raises kInvalidCall when a digit left
-    /// over makes more bytes than the length says.
+    /// Writes a segment's length, 16 bits that count themselves, and the bytes of `hex`. Raises kInvalidCall if a
+    /// single digit at the end makes one byte more than the length says.
     void WriteSegmentHex(std::string_view hex);
-    /// 16 bits. Raises kOverflow, after two bytes all the same, for what is not 0 to 65535.
+    /// Writes 16 bits. Raises kOverflow for a number outside 0 to 65535, but still writes two bytes.
     void WriteInteger(std::int64_t number);
-    /// 32 bits. Raises kOverflow, after four bytes all the same, for what is not 0 to 2147483647.
+    /// Writes 32 bits. Raises kOverflow for a number outside 0 to 2147483647, but still writes four bytes.
     void WriteLong(std::int64_t number);
-    /// One byte a character, and zero bytes: one, or as many as make four bytes of a text of fewer than three.
+    /// Writes one byte per character, then one zero byte; a text of fewer than three characters is filled with zeros to
+    /// four bytes.
     void WriteNarrowString(std::string_view text);
-    /// One UTF-16 unit a character, and a zero unit; two for the empty text. Raises kOverflow for characters from
-    /// U+8000 on.
+    /// Writes the UTF-16 units of the text, then a zero unit; two for the empty text. Raises kOverflow for units from
+    /// 0x8000 on, and kInvalidCall for control characters other than tab, LF and CR.
     void WriteWideString(std::string_view text);
-    /// One byte a character, and one zero byte.
+    /// Writes one byte per character, then a zero byte.
     void writeTerminated(std::string_view text);
 
     /// Bytes written so far.
@@ -49,8 +50,8 @@ private:
     std::int64_t m_written = 0;
 };
 
-/// Raises kInvalidCall when a segment of `said` bytes was written with `written` bytes: whatever follows it in the file
-/// could not be found any more.
+/// Raises kInvalidCall if a segment whose length says `said` bytes has `written` bytes: nothing after it in the file
+/// could be found.
 void checkSegmentLength(std::int64_t said, std::int64_t written);
 
 } // namespace ovisto

@@ -36,7 +36,7 @@ public:
     /// Raises kPathAccessError for what is not a regular file.
     explicit InputFile(const std::string& path);
 
-    /// Bytes in the file when it was opened.
+    /// The size of the file, in bytes, when it was opened.
     std::int64_t size() const { return m_size; }
 
     /// Fills `into` with the bytes from `offset` on (the first byte is 0) and returns their number, which is smaller
@@ -73,7 +73,7 @@ public:
     /// after the last write; it releases the buffer.
     void startSync();
 
-    /// Flushes and waits until the disk has it.
+    /// Flushes, and waits until the file is on disk.
     void sync();
 
     /// The file system that the file is in.
@@ -84,7 +84,8 @@ public:
     /// say: then sync each file.
     bool syncFileSystem();
 
-    /// Gives the new file the permission bits of `old`, and its owner and extended attributes where that is allowed.
+    /// Gives the new file the permission bits of `old`, and its owner and extended attributes where the system allows
+    /// it.
     void takeAttributesFrom(const InputFile& old);
 
     /// Deletes the file, unless its name means another one by now.
@@ -105,7 +106,7 @@ enum class FileKind { Regular, RegularOrPipe };
 /// Reads a whole file; a pipe, where it may be one, until its other end closes it.
 std::string readTextFile(const std::string& path, FileKind kind = FileKind::Regular);
 
-/// Writes a text file as a whole: `path` names its old or its new content, never a part of it.
+/// Writes a whole text file: at every moment `path` has its old or its new content, never a part of it.
 void writeTextFile(const std::string& path, std::string_view content);
 
 bool fileExists(const std::string& path);
@@ -113,7 +114,7 @@ bool fileExists(const std::string& path);
 /// Whether files can be created in `folder`.
 bool isFolderWritable(const std::string& folder);
 
-/// Creates `folder` and those above it where they are missing.
+/// Creates `folder` and any missing folders above it.
 void createFolders(const std::string& folder);
 
 /// The same text for all names that lead to the same file: its real path, or `path` when there is no such file.

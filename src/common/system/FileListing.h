@@ -19,7 +19,7 @@ struct FolderListing {
     std::vector<std::string> folders;
 };
 
-/// Raises the system's reason when `folder` cannot be read.
+/// Raises the system's error if `folder` cannot be read.
 FolderListing listFolder(const std::string& folder);
 
 /// The path of `name` in `folder`.

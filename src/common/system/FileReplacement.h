@@ -9,7 +9,7 @@ namespace ovisto {
 
 enum class ReplaceStep { Delete, Rename };
 
-/// Where and why a file could not be replaced.
+/// Which step of a replacement failed, and why.
 struct ReplaceFailure {
     ReplaceStep step;
     Error error;
@@ -20,13 +20,13 @@ struct ReplaceFailure {
 /// Until syncFolder(), either of the two may be there after a power failure.
 std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path);
 
-/// Why replaceFile() will fail, where that is known before the replacement is written: `path` is marked read-only.
+/// Why replaceFile() would fail, if that is known in advance: `path` is marked read-only.
 std::optional<ReplaceFailure> replaceObstacle(const std::string& path);
 
 /// Makes replacements, creations and deletions in `folder` survive a power failure, where the file system can do that.
 void syncFolder(const std::string& folder);
 
-/// Where `path` leads to when it is a symbolic link, else `path` itself.
+/// The target of `path` if it is a symbolic link, else `path` itself.
 std::string linkTarget(const std::string& path);
 
 } // namespace ovisto

@@ -5,12 +5,12 @@
 
 namespace ovisto {
 
-// What the system says of the running program and its user.
+// What the system knows about the running program and its user.
 
 /// How many files the process may have open at the same time. Raises the limit to `wanted` where that is allowed.
 std::size_t openFilesAllowed(std::size_t wanted);
 
-/// Whether standard error is shown on a terminal.
+/// Whether standard error is a terminal.
 bool isErrorOutputTerminal();
 
 /// Full path of the running program.

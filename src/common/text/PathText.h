@@ -5,7 +5,7 @@
 
 namespace ovisto {
 
-/// A path cut after its last "\" or "/", whichever stands later; without one the folder is empty.
+/// A path split after its last "\" or "/", whichever comes later; without either, the folder is empty.
 struct PathParts {
     std::string folder; ///< with the separator at its end
     std::string name;
@@ -13,7 +13,7 @@ struct PathParts {
 
 PathParts splitPath(std::string_view path);
 
-/// The name under which a new version of the file `path` is written: beside it, "~" in front of its own name.
+/// The name under which a new version of the file `path` is written: in the same folder, with "~" before its name.
 std::string temporaryNameOf(std::string_view path);
 
 } // namespace ovisto

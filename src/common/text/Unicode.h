@@ -26,7 +26,7 @@ std::size_t characterCount(std::string_view text);
 /// The UTF-16 units of a UTF-8 text.
 std::u16string utf16(std::string_view text);
 
-/// The same as bytes, the less significant one of a unit first.
+/// The same as little-endian bytes.
 std::string utf16Bytes(std::string_view text);
 
 } // namespace ovisto

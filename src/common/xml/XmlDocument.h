@@ -11,16 +11,16 @@
 
 namespace ovisto {
 
-/// Where and why a text is no XML document.
+/// Where and why a text is not an XML document.
 struct XmlParseError {
     int code = 0;
     Phrase reason;
     std::int64_t line = 0;    ///< the first is 1
-    std::int64_t linepos = 0; ///< characters into the line; the first is 1, 0 when unknown
+    std::int64_t linepos = 0; ///< position in the line, in characters; the first is 1, unknown is 0
     std::string srcText;      ///< the whole line
 };
 
-/// Whether a document type that a file declares is held against its content.
+/// Whether a file is validated against the document type that it declares.
 enum class Validation { Off, On };
 
 /// Whether white space between elements counts as text.
@@ -36,19 +36,18 @@ public:
     XmlDocument& operator=(XmlDocument&& other) noexcept;
     ~XmlDocument();
 
-    /// Replaces the content by the document in `text` (UTF-8), white space and CDATA sections preserved. On failure the
-    /// document is empty. A text of so many nodes that they would need far more memory than the text fails too.
+    /// Replaces the content by the document in `text` (UTF-8), preserving white space and CDATA sections. On failure
+    /// the document is empty. A text with so many nodes that they would need far more memory than the text also fails.
     std::optional<XmlParseError> loadText(std::string_view text);
 
-    /// The same for a file in any encoding that it declares, UTF-16 included. One whose white space is stripped is for
-    /// reading only.
+    /// The same for a file, in whatever encoding it declares, including UTF-16. Strip white space only from a document
+    /// that is not written again.
     std::optional<XmlParseError> loadFile(const std::string& path, Validation validation, WhiteSpace whiteSpace);
 
-    /// The same for a style sheet, which is validated too, and has the texts of its entities put in, for
-    /// transformNode().
+    /// The same for a style sheet for transformNode(): it is validated, and its entities are replaced by their texts.
     std::optional<XmlParseError> loadStyleSheet(const std::string& path, FileKind kind);
 
-    /// The document node, above the root element. No node when nothing is loaded.
+    /// The document node, above the root element; no node if nothing is loaded.
     XmlNode node();
     ConstXmlNode node() const;
     XmlNode documentElement();
@@ -59,7 +58,7 @@ public:
     std::vector<XmlNode> selectNodes(const std::string& xpath) { return node().selectNodes(xpath); }
     std::vector<ConstXmlNode> selectNodes(const std::string& xpath) const { return node().selectNodes(xpath); }
 
-    /// The document as XML text in UTF-8, with an XML declaration only where it was loaded with one.
+    /// The document as XML text in UTF-8. It has an XML declaration only if it was loaded with one.
     std::string xml() const;
 
 private:

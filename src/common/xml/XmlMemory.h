@@ -6,15 +6,14 @@
 
 namespace ovisto {
 
-/// Has libxml2 take its memory by way of the limits below. Only initialiseXml() calls it.
+/// Makes libxml2 allocate through the limits below. Called only by initialiseXml().
 void countXmlMemory();
 
-/// A limit to the memory that libxml2 and libxslt take on this thread while it lives; other threads are not counted.
-/// There is one at a time on a thread.
+/// Limits the memory that libxml2 and libxslt use on this thread during its lifetime. A thread can have one at a time.
 class XmlMemoryLimit {
 public:
-    /// `stop` is called when more than `bytes` are in use, and then again and again. It has to make what runs come to
-    /// an end. Until it does, long texts are refused beyond twice as much, and everything beyond three times.
+    /// When more than `bytes` are in use, `stop` is called, possibly many times; it must bring the running work to an
+    /// end. Until that takes effect, long texts are refused beyond twice the limit, and everything beyond three times.
     XmlMemoryLimit(std::size_t bytes, std::function<void()> stop);
     XmlMemoryLimit(const XmlMemoryLimit&) = delete;
     XmlMemoryLimit& operator=(const XmlMemoryLimit&) = delete;
@@ -22,10 +21,10 @@ public:
 
     bool wasExceeded() const { return m_wasExceeded; }
 
-    /// Whether one is exceeded on this thread.
+    /// Whether this thread has exceeded its limit.
     static bool isExceeded();
 
-    /// What the allocation functions ask and tell.
+    /// For the allocation functions.
     bool allows(std::size_t size) const;
     void add(std::size_t size);
     void subtract(std::size_t size) { m_used -= static_cast<std::int64_t>(size); }
@@ -33,7 +32,7 @@ public:
 private:
     std::int64_t m_limit;
     std::function<void()> m_stop;
-    std::int64_t m_used = 0; // less than nothing when more was freed that was there before
+    std::int64_t m_used = 0; // negative if memory was freed that had been allocated before
     bool m_wasExceeded = false;
 };
 

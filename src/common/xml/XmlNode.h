@@ -14,8 +14,8 @@ class XmlDocument;
 enum class TextEncoding;
 struct Transformation;
 
-/// A node of an XmlDocument for reading, or no node. No node answers every question with nothing. The handle stays
-/// valid as long as the document lives and is not loaded anew, also after the node was removed. All texts are UTF-8.
+/// A node of an XmlDocument for reading, or no node. No node answers every query with an empty result. A handle stays
+/// valid until its document is destroyed or loaded again, even after the node was removed. All texts are UTF-8.
 class ConstXmlNode {
 public:
     ConstXmlNode() = default;
@@ -31,7 +31,7 @@ public:
     bool isElement() const;
     bool isCData() const;
 
-    /// The text of the node and all below it.
+    /// The text of the node and of all nodes below it.
     std::string text() const;
     std::string attribute(const char* name) const;
 
@@ -42,15 +42,15 @@ public:
     /// The nodes below, in order, texts included.
     std::vector<ConstXmlNode> children() const;
     std::vector<ConstXmlNode> childElements() const;
-    /// Those that have this name, without a prefix.
+    /// Those with this name, ignoring prefixes.
     std::vector<ConstXmlNode> childElements(std::string_view name) const;
     /// The first of them.
     ConstXmlNode childElement(std::string_view name) const;
-    /// All elements of this name, without a prefix, at any depth below, in document order.
+    /// All elements of this name, ignoring prefixes, at any depth below, in document order.
     std::vector<ConstXmlNode> descendants(std::string_view name) const;
 
-    /// The first node, in document order, that the XPath 1.0 expression selects from here. Raises kInvalidCall when it
-    /// is no expression for nodes.
+    /// The first node, in document order, that the XPath 1.0 expression selects from here. Raises kInvalidCall if the
+    /// expression is invalid or does not select nodes.
     ConstXmlNode selectSingleNode(const std::string& xpath) const;
     std::vector<ConstXmlNode> selectNodes(const std::string& xpath) const;
 
@@ -85,18 +85,18 @@ public:
     XmlNode selectSingleNode(const std::string& xpath);
     std::vector<XmlNode> selectNodes(const std::string& xpath);
 
-    /// Replaces all that is below the node by `text`.
+    /// Replaces everything below the node by `text`.
     void setText(std::string_view text);
     void setAttribute(const char* name, std::string_view value);
     void removeAttribute(const char* name);
 
-    /// A new element for the node's document, not yet in it.
+    /// Creates an element for the node's document, not yet placed in it.
     XmlNode createElement(const std::string& name);
-    /// Adds `child`, made by createElement() of the same document, as the last one. Raises kInvalidCall for another.
+    /// Appends `child`, which createElement() of the same document made. Raises kInvalidCall for another.
     void appendChild(XmlNode child);
-    /// Adds `child` before `next`, which is below this node.
+    /// Inserts `child` before `next`, a child of this node.
     void insertBefore(XmlNode child, XmlNode next);
-    /// Takes the node, with all below it, out of its document.
+    /// Removes the node, with everything below it, from its document.
     void remove();
 };
 

@@ -11,7 +11,7 @@
 
 namespace ovisto {
 
-// Owners for what libxml2 hands out, for the files of this folder only.
+// Owners of libxml2 objects, only for the files of this folder.
 
 struct XmlFree {
     void operator()(xmlDoc* doc) const { xmlFreeDoc(doc); }
@@ -25,8 +25,8 @@ struct XmlFree {
 };
 template <class T> using XmlPtr = std::unique_ptr<T, XmlFree>;
 
-/// The nodes that were taken out of a document, or not put in yet. They live as long as it, so that no handle dangles;
-/// a document finds them through its private pointer.
+/// The nodes that were removed from a document or not yet inserted. They live as long as the document, so that no
+/// handle dangles. The document finds them through its private pointer.
 using DetachedNodes = std::vector<XmlPtr<xmlNode>>;
 
 inline const xmlChar* xmlText(const char* text)

@@ -6,13 +6,13 @@
 
 namespace ovisto {
 
-// What the files of this folder that call libxml2 share.
+// Shared by the files of this folder that call libxml2.
 
-/// Prepares the library, once for the program. To be called before anything else of it is.
+/// Prepares the library, once per program. Call before using anything else of it.
 void initialiseXml();
 
-/// Has all that `context` comes to load (itself, its document type, its entities) come from regular local files. A pipe
-/// or a device is not waited for: it counts as missing, as do network addresses.
+/// Lets `context` load only from regular local files: its document, its document type, its entities. Pipes, devices and
+/// network addresses count as missing.
 void allowLocalFilesOnly(xmlParserCtxt& context);
 
 } // namespace ovisto

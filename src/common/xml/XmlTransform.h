@@ -8,20 +8,20 @@
 
 namespace ovisto {
 
-/// The encoding that a result is in, and names where its format has a place for it.
+/// The encoding of a result, which also names it if its format has a place for that.
 enum class TextEncoding { Utf8, Utf16 };
 
 /// What a style sheet made of a document.
 struct Transformation {
-    std::string bytes; ///< in UTF-16 with a byte-order mark. After an error what was made before, or nothing
+    std::string bytes; ///< UTF-16 has a byte-order mark; after an error, what was made before it, or nothing
     std::optional<Error> error;
 };
 
-/// Transforms `data` by an XSLT 1.0 style sheet that was loaded by loadStyleSheet(), EXSLT functions and
-/// msxsl:node-set() included. White space that the style sheet strips is taken out of `data`. A style sheet reads
-/// regular local files, nothing from a network or a pipe, and writes no file; one that would never end is stopped after
-/// far more steps than the data needs. An error of the style sheet is kInvalidCall, with its reason and place; when it
-/// takes far more memory than the data needs (128 MB, and 2 KB an element, and four times its texts), kOutOfMemory.
+/// Transforms `data` with an XSLT 1.0 style sheet that loadStyleSheet() loaded; EXSLT functions and msxsl:node-set()
+/// are available. White space that the style sheet strips is removed from `data`. A style sheet can read regular local
+/// files, but not pipes or the network, and it cannot write. One that never ends is stopped after far more steps than
+/// the data needs. An error in the style sheet is kInvalidCall, with reason and position. One that needs far more
+/// memory than the data (128 MB, plus 2 KB per element, plus four times the texts) is kOutOfMemory.
 Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding);
 
 } // namespace ovisto

@@ -10,7 +10,7 @@ class QWidget;
 
 namespace ovisto {
 
-/// What the desktop does with a file at the program's request.
+/// What the program asks the desktop to do with a file.
 class Desktop {
 public:
     Desktop() = default;
@@ -18,10 +18,10 @@ public:
     Desktop& operator=(const Desktop&) = delete;
     virtual ~Desktop() = default;
 
-    /// Opens the file with the program that the desktop has for it. False when there is none.
+    /// Opens the file with the desktop's default program for it. False if there is none.
     virtual bool open(const std::string& path) = 0;
 
-    /// Shows the desktop's property sheet of the file, or one of our own where there is none.
+    /// Shows the desktop's property sheet for the file, or our own if it has none.
     virtual void showProperties(const std::string& path, QWidget& owner) = 0;
 };
 
@@ -34,12 +34,12 @@ public:
 
 enum class Verb { Open, Properties };
 
-/// Does with the file at `path` what `verb` says. Nothing is said when that fails; false when the desktop has
-/// no program to open it with.
+/// Opens the file at `path` or shows its properties, as `verb` says. Shows no message on failure; false if the desktop
+/// has no program to open it with.
 bool ShellVerb(Desktop& desktop, const std::string& path, QWidget& owner, Verb verb);
 
-/// Opens the handbook, whose first page is `helpFile`. When there is no such file, or nothing opens it, a message says
-/// so.
+/// Opens the handbook, whose first page is `helpFile`. Shows a message if there is no such file or no program to open
+/// it.
 void HelpContents(Desktop& desktop, Dialogs& dialogs, const std::string& helpFile);
 
 } // namespace ovisto

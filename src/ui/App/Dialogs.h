@@ -6,7 +6,7 @@
 
 namespace ovisto {
 
-/// Whoever puts the program's messages and questions before a person: boxes on the screen, a test.
+/// Shows the program's messages and questions: boxes on the screen, a test.
 class Dialogs {
 public:
     Dialogs() = default;
@@ -14,14 +14,14 @@ public:
     Dialogs& operator=(const Dialogs&) = delete;
     virtual ~Dialogs() = default;
 
-    /// Shows a message, to be answered by OK. Its lines end with CR LF.
+    /// Shows a message with an OK button. Lines are separated by CR LF.
     virtual void show(const QString& message) = 0;
 
-    /// Asks a question, to be answered by Yes or No.
+    /// Asks a Yes-or-No question. True for Yes.
     virtual bool ask(const QString& question) = 0;
 
-    /// Lets an existing file be chosen, beginning at `folder`. `filter` is written as QFileDialog has it; an empty
-    /// `title` is the desktop's own. Nothing when the person cancels.
+    /// Lets the user choose an existing file, starting in `folder`. `filter` is in the syntax of QFileDialog; an empty
+    /// `title` means the desktop's own. Returns nothing if the user cancels.
     virtual std::optional<QString> chooseFile(const QString& title, const QString& folder, const QString& filter) = 0;
 };
 

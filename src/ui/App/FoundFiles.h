@@ -8,8 +8,8 @@
 
 namespace ovisto {
 
-/// The full paths of the files found, in the order in which they were found. A million of them cost their texts and
-/// nothing more: no item is made for a path.
+/// The full paths of the files found, in the order in which they were found. It makes no item per path, so a million
+/// files cost only their texts.
 class FoundFiles : public QAbstractListModel {
     Q_OBJECT
 
@@ -22,20 +22,20 @@ public:
     const std::vector<std::string>& paths() const { return m_paths; }
     const std::string& path(int row) const { return m_paths[static_cast<std::size_t>(row)]; }
 
-    /// The row of the first file of that path; nothing when it is not in the list.
+    /// The row of the first file with that path; nothing if it is not in the list.
     std::optional<int> rowOf(const std::string& path) const;
 
     void clear();
     void append(std::vector<std::string> found);
 
-    /// How many files in a row, from `row` on, are not there any more.
+    /// How many consecutive files, from `row` on, no longer exist.
     int missingFrom(int row) const;
 
-    /// Takes `count` paths, from `row` on, out of the list. No file is touched.
+    /// Removes `count` paths, from `row` on, from the list. The files themselves are not touched.
     void remove(int row, int count);
 
-    /// The row after and before `row` (-1: none); the ends meet. Nothing where that is no row: in an empty list, and
-    /// before none.
+    /// The row after or before `row` (-1 for none), wrapping around at the ends. Nothing if there is no such row: in an
+    /// empty list, or before no row.
     std::optional<int> next(int row) const;
     std::optional<int> previous(int row) const;
 

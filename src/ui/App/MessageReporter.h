@@ -5,7 +5,7 @@
 
 namespace ovisto {
 
-/// Shows errors to the person in front.
+/// Shows errors in message boxes.
 class MessageReporter : public ErrorReporter {
 public:
     /// `dialogs` must outlive the reporter.

@@ -9,12 +9,12 @@
 
 namespace ovisto {
 
-/// A file for Qt to read a picture from. It is read by the engine, as only that opens names that are no UTF-8, and
-/// piece by piece, as a picture may stand in front of any amount of other data. Raises as InputFile does.
+/// A file for Qt to read a picture from. It goes through InputFile, because that also opens names that are not UTF-8,
+/// and reads in pieces, because a picture may be followed by any amount of other data. Raises the errors of InputFile.
 class PictureFile : public QIODevice {
 public:
-    /// `abandoned`, where given, must outlive the object. When it is set, the file seems to end: the decoder of a
-    /// picture knows no other way to be stopped.
+    /// `abandoned`, if given, must outlive the object. Once it is set, the file appears to end: there is no other way
+    /// to stop the decoder.
     explicit PictureFile(const std::string& path, const std::atomic<bool>* abandoned = nullptr);
 
     qint64 size() const override { return m_file.size(); }

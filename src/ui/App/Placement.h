@@ -13,21 +13,21 @@ class QWidget;
 
 namespace ovisto {
 
-/// Moves the window to where the setting `key` says: left, top, width and height in twips, 15 a logical pixel, joined
-/// by ",". `whenMissing` stands in for a setting that is missing or makes no sense. The window ends up on a screen.
+/// Moves the window to the place in the setting `key`: left, top, width and height in twips (15 per logical pixel),
+/// separated by ",". `whenMissing` replaces a missing or invalid setting. The window always ends up on a screen.
 void PlacementLoad(QWidget& window, const Settings& settings, const QString& key, const QString& whenMissing);
 
-/// Writes the place and size of the window, as it is when it fills no screen, under `key`.
+/// Stores the place and size of the window under `key`; for a maximized or full-screen window, its normal ones.
 void PlacementSave(const QWidget& window, Settings& settings, const QString& key);
 
-/// The place, in pixels, that a text in twips names; none when it names none.
+/// The place, in pixels, given by a text in twips; nothing if the text is invalid.
 std::optional<QRect> placement(const QString& text);
 
-/// `place` made no larger than the screen that shows most of it, the first one when none does, and moved into it.
+/// `place` shrunk to fit, and moved into, the screen that shows most of it, or the first screen if none does.
 QRect movedOnto(const QList<QRect>& screens, const QRect& place);
 
-/// The sizes of the parts of a splitter, kept under its object name, joined by ",". `whenMissing` stands in for a
-/// setting that is missing or makes no sense.
+/// The sizes of the parts of a splitter, stored under its object name, separated by ",". `whenMissing` replaces a
+/// missing or invalid setting.
 void splitterLoad(QSplitter& splitter, const Settings& settings, const QString& whenMissing);
 void splitterSave(const QSplitter& splitter, Settings& settings);
 

@@ -8,7 +8,7 @@ class QFormLayout;
 
 namespace ovisto {
 
-/// What the system knows of a file, for desktops whose file manager does not show it.
+/// Shows what the system knows about a file, for desktops whose file manager does not.
 class PropertySheet : public QDialog {
     Q_OBJECT
 

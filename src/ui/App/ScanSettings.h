@@ -7,7 +7,7 @@
 
 namespace ovisto {
 
-/// Which files are looked for, and where.
+/// Which files to look for, and where.
 struct ScanSettings {
     QString FolderNameSelected;
     bool SubFolderScan = true;
@@ -21,7 +21,8 @@ struct ScanSettings {
     bool operator==(const ScanSettings&) const = default;
 };
 
-/// As the settings store has it; `folder` is where a first run looks. ListAppend and FilePattern are not stored.
+/// Loads the settings; `folder` is the default on a first run. ListAppend, FilePattern and SearchWordsWhole are not
+/// stored.
 ScanSettings loadScanSettings(const Settings& settings, const QString& folder);
 
 void saveScanSettings(const ScanSettings& scan, Settings& settings);

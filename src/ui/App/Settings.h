@@ -5,19 +5,19 @@
 
 namespace ovisto {
 
-/// What the program remembers between runs: texts under keys, in the user's settings store.
+/// What the program remembers between runs: texts by key, in the user's settings store.
 class Settings {
 public:
-    /// The store of the user.
+    /// Opens the user's store.
     Settings();
-    /// A store in a file of its own.
+    /// Opens a store in `file`.
     explicit Settings(const QString& file);
 
-    /// The text under `key`, `whenMissing` where there is none.
+    /// The text under `key`, or `whenMissing` if there is none.
     QString GetSetting(const QString& key, const QString& whenMissing) const;
     void SaveSetting(const QString& key, const QString& text);
 
-    /// A choice is stored as "1" or "0". Exactly "1" is a yes.
+    /// A choice is stored as "1" or "0". Only "1" counts as yes.
     bool choice(const QString& key, bool whenMissing) const;
     void saveChoice(const QString& key, bool choice);
 

@@ -7,7 +7,7 @@
 
 namespace ovisto {
 
-/// What the main window needs of the world around it. All of it must outlive the window.
+/// What the main window needs from outside. All of it must outlive the window.
 struct Surroundings {
     Dialogs& dialogs;
     Desktop& desktop;

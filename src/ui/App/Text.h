@@ -10,7 +10,7 @@
 
 namespace ovisto {
 
-// Text of the engine is UTF-8; paths are bytes as the system gives them, which may be no UTF-8.
+// Text of the engine is UTF-8. Paths are bytes as the system gives them, which may not be UTF-8.
 
 inline QString toQString(const std::string& utf8)
 {
@@ -24,13 +24,13 @@ inline QString toQString(const Phrase& phrase)
         [](Message message) { return QCoreApplication::translate("Message", sourceText(message)).toStdString(); }));
 }
 
-/// A path for people to read. What is no UTF-8 in it is shown as a replacement character.
+/// A path for display. Bytes that are not UTF-8 become replacement characters.
 inline QString pathText(const std::string& path)
 {
     return QString::fromStdString(path);
 }
 
-/// A path that a person chose in a dialog of the system.
+/// A path that the user chose in a dialog.
 inline std::string toPath(const QString& path)
 {
     return path.toStdString();

@@ -29,7 +29,7 @@ private:
 
     Ui::BatchForm ui;
     Dialogs& m_dialogs;
-    std::vector<DictionaryEntry> m_entries; ///< those in NodeList, row by row
+    std::vector<DictionaryEntry> m_entries; ///< the entries in NodeList, by row
 };
 
 } // namespace ovisto

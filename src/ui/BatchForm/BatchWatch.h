@@ -8,9 +8,9 @@
 
 namespace ovisto {
 
-/// Watches over a batch for a person in front: hands on what it is told, and ends the batch when a file cannot be
-/// changed, as the others would hardly fare better. One that cannot be read, or is there no more, ends nothing. Of
-/// files that fail after that, as they were already on their way, nobody is told one by one.
+/// Watches a batch for the user: passes reports on, and ends the batch when a file cannot be changed, because the
+/// others would probably fail too. A file that cannot be read, or no longer exists, does not end it. Files that fail
+/// afterwards, because they were already in progress, are not reported one by one.
 class BatchWatch : public Progress, public ErrorReporter {
 public:
     /// Both must outlive the object.
@@ -19,7 +19,7 @@ public:
     bool step(const std::string& path, std::size_t done, std::size_t total) override;
     void report(const Phrase& context, const Error& error) override;
 
-    /// Those that failed after the one that ended the batch.
+    /// The files that failed after the one that ended the batch.
     const std::vector<FileFailure>& failedToo() const { return m_failedToo; }
 
 private:

@@ -8,19 +8,18 @@
 
 namespace ovisto {
 
-/// Lets a folder be chosen, and what to look for in it.
+/// Lets the user choose a folder and what to look for in it.
 class BrowserCapForm : public QDialog {
     Q_OBJECT
 
 public:
-    /// Begins with `scan`.
+    /// Starts with the settings in `scan`.
     BrowserCapForm(const ScanSettings& scan, QWidget* owner);
 
-    /// Whether the person did anything but press "Select Folder".
+    /// Whether the user closed the dialog other than with "Select Folder".
     bool Cancelled() const { return result() != Accepted; }
 
-    /// The folder selected in the tree, or typed, which may not exist then. Where nothing stands in the box, the one
-    /// in the tree.
+    /// The folder selected in the tree or typed; a typed one may not exist. If the box is empty, the one in the tree.
     QString SelectedFolder() const { return m_selectedFolder; }
 
     /// What was chosen.
@@ -33,7 +32,7 @@ private:
 
     Ui::BrowserCapForm ui;
     QString m_selectedFolder;
-    bool m_typing = false; ///< the tree follows what is typed, not the other way round
+    bool m_typing = false; ///< the tree is following what is typed, not the other way round
 };
 
 } // namespace ovisto

@@ -14,14 +14,14 @@ class FolderTree : public QTreeView {
 public:
     explicit FolderTree(QWidget* parent = nullptr);
 
-    /// Selects `folder` and scrolls to it; where there is no such folder, the nearest one above it.
+    /// Selects `folder`, or the nearest existing folder above it, and scrolls to it.
     void select(const QString& folder);
 
     /// Full path of the folder selected.
     QString selected() const;
 
 Q_SIGNALS:
-    /// `folder` was selected, maybe once more.
+    /// `folder` was selected, possibly again.
     void SelectionChanged(const QString& folder);
 
 protected:
@@ -32,12 +32,12 @@ protected:
 private:
     void keepInView();
 
-    QFileIconProvider m_icons; // before the model, which asks it from a thread of its own
+    QFileIconProvider m_icons; // declared before the model, whose thread uses it
     QFileSystemModel m_folders;
-    bool m_settling = false; ///< nobody has scrolled or clicked since select()
+    bool m_settling = false; ///< the user has not scrolled or clicked since select()
 };
 
-/// The folder that `text`, typed by a person, means: "~" is the home folder, and names without a folder stand in it.
+/// The folder that the typed `text` means: "~" is the home folder, and a relative path starts there.
 QString typedFolder(const QString& text);
 
 } // namespace ovisto

@@ -18,7 +18,7 @@
 
 namespace ovisto {
 
-/// The main window: a list of files, and the properties of the one that is shown.
+/// The main window: a list of files, and the properties of the file shown.
 class ControlForm : public QMainWindow {
     Q_OBJECT
 
@@ -26,8 +26,8 @@ public:
     /// `dictionary` says what the nodes of a document are.
     ControlForm(TagDictionary dictionary, const Surroundings& surroundings);
 
-    /// Shows the window with the files in `paths`, folders among them, or in a folder that the person chooses when
-    /// there are none. Returns whether there is a window: not when that choice was cancelled.
+    /// Shows the window with the files and folders in `paths` or, if there are none, with a folder that the user
+    /// chooses. Returns false, without a window, if the user cancels that choice.
     bool start(const std::vector<std::string>& paths);
 
 protected:
@@ -50,7 +50,7 @@ private:
     Surroundings m_surroundings;
     MessageReporter m_reporter;
     TagDictionary Merovel;
-    bool ControlsUpdating = false; ///< the program itself fills controls, and their handlers stay silent
+    bool ControlsUpdating = false; ///< the program itself is filling controls; their handlers do nothing
     EditedBoxes m_boxes;
     WindowParts m_parts;
     Editor m_editor;

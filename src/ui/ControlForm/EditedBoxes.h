@@ -10,20 +10,19 @@ class QWidget;
 
 namespace ovisto {
 
-/// The boxes of a window in which values are edited. What was typed into one counts when it is left.
+/// The boxes of a window in which values are edited. What was typed into a box takes effect when the focus leaves it.
 class EditedBoxes : public QObject {
     Q_OBJECT
 
 public:
     explicit EditedBoxes(QWidget& window) : m_window(window) {}
 
-    /// `leave` takes what was typed. It is called when the focus leaves `box` for another control of the window, and
-    /// may be called when nothing was typed.
+    /// `leave` is called when the focus leaves `box` for another control of the window, even if nothing was typed.
     void add(QWidget& box, std::function<void()> leave);
 
-    /// Takes what was typed into the box that has the focus, which stays there.
+    /// Applies what was typed into the box with the focus, which keeps it.
     void leaveFocused();
-    /// Leaves the box being edited for `control`.
+    /// Moves the focus to `control`, leaving the box being edited.
     void moveFocusTo(QWidget& control);
 
 protected:
@@ -36,8 +35,8 @@ private:
     std::unordered_map<const QObject*, std::function<void()>> m_leave;
 };
 
-/// Leaves files that are dragged onto a control to the window around it. Returns whether `event` is about such files:
-/// the control must not see it then.
+/// Leaves files that are dragged onto a control to the window. Returns true if `event` is about such files; the control
+/// must then not see it.
 bool leaveFilesToWindow(QEvent& event);
 
 } // namespace ovisto

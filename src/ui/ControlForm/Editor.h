@@ -13,7 +13,8 @@
 
 namespace ovisto {
 
-/// Opens the file selected in the list in the other panes, and sees to it that no change in them is lost unasked.
+/// Opens the file selected in the list in the other panes, and makes sure that no change in them is lost without
+/// asking.
 class Editor : public QObject, private ShownFile::Window {
     Q_OBJECT
 
@@ -25,10 +26,10 @@ public:
     KeepOptions keepOptions() const;
 
     void OpenSelectedFile();
-    /// Shows no file any more, its changes saved if the person wants that. Returns false when they could not be saved:
-    /// the file is still shown then.
+    /// Closes the file shown, saving its changes if the user wants that. Returns false if they could not be saved; the
+    /// file then stays open.
     bool leaveShownFile();
-    /// Offers to save the file shown, which stays. Returns false when its changes could not be saved.
+    /// Offers to save the file shown, which stays open. Returns false if its changes could not be saved.
     bool settleChanges();
     ShownFile::SaveResult OfferSave(bool ask);
 
@@ -36,10 +37,10 @@ public:
 
     /// Saves it without asking and opens its neighbour in the list.
     void step(std::optional<int> (FoundFiles::*neighbour)(int) const);
-    /// Saves it, changed or not, and opens it again, as its image data may have moved.
+    /// Saves it, changed or not, and opens it again, because its image data may have moved.
     void saveAndReopen();
     void saveXml();
-    /// Opens it anew, without its changes.
+    /// Opens it again, discarding its changes.
     void reset();
     void runVerb(Verb verb);
 

@@ -13,37 +13,37 @@
 
 namespace ovisto {
 
-/// The list of files, FilesFoundList: which one is selected, and which one is to be opened.
+/// The list of files (FilesFoundList): which one is selected, and which one to open.
 class FileListPane : public QObject {
     Q_OBJECT
 
 public:
-    /// While `file` is open, one of the list is always selected.
+    /// While `file` is open, a file of the list is always selected.
     FileListPane(const WindowParts& parts, const ShownFile& file);
 
     FoundFiles& files() { return m_found; }
     const FoundFiles& files() const { return m_found; }
 
-    /// The row selected; -1 when there is none.
+    /// The selected row; -1 if there is none.
     int selectedRow() const;
-    /// Selects the file in `row`, also when it is selected already, and lets it be opened.
+    /// Selects the file in `row`, even if it is already selected, and opens it.
     void open(int row);
-    /// Selects the file at `path`, where it is listed. It is not opened.
+    /// Selects the file at `path` if it is in the list, without opening it.
     void select(const std::string& path);
-    /// Selects the file shown again, where the selection was taken back.
+    /// Selects the file shown again if the selection was cleared.
     void selectShownFile();
-    /// Lets no file be opened for a selection made until now.
+    /// Drops a selection whose file has not been opened yet.
     void settle();
 
-    /// Takes all files out of the list.
+    /// Removes all files from the list.
     void clear();
     void append(std::vector<std::string> found);
-    /// The file selected. Files that are not there any more leave the list, and the one that takes their place is
-    /// selected. Nothing when none is left, or none is selected.
+    /// The selected file. Files that no longer exist are removed from the list, and the next one is selected. Nothing
+    /// if none is left or none is selected.
     std::optional<std::string> existingSelection();
 
 Q_SIGNALS:
-    /// The file selected is to be opened.
+    /// The selected file is to be opened.
     void selected();
 
 private:

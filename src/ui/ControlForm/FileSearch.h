@@ -16,12 +16,12 @@ class FileSearch {
 public:
     FileSearch(const WindowParts& parts, Editor& editor) : m_parts(parts), m_editor(editor) {}
 
-    /// What is looked for, as it was chosen last.
+    /// What to look for, as last chosen.
     ScanSettings settings;
 
-    /// Lets a folder be chosen, and lists the files in it. Returns false when the person cancels.
+    /// Lets the user choose a folder, and lists the files in it. Returns false if the user cancels.
     bool findFiles();
-    /// Lists the files named, and those in the folders named, whatever they contain.
+    /// Lists the named files, and those in the named folders, whatever they contain.
     void findFilesAmong(const std::vector<std::string>& names);
 
 private:

@@ -9,7 +9,7 @@
 
 namespace ovisto {
 
-/// The list of favourite keywords, KeywordList, and where it comes from.
+/// The list of favourite keywords (KeywordList) and its file.
 class KeywordPane : public QObject {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
     void load(const std::string& path);
 
 Q_SIGNALS:
-    /// The person wants this keyword in those of the file.
+    /// The user wants to add this keyword to the file.
     void chosen(const QString& keyword);
 
 protected:

@@ -12,26 +12,26 @@ namespace ovisto {
 /// An item of the property tree.
 struct Leaf {
     std::string key;       ///< "x" and six digits; the node's "leafIndex"
-    std::string parentKey; ///< that of the item above it; empty for the top one
+    std::string parentKey; ///< the key of the parent item; empty for the top one
     std::string label;
     std::string path; ///< the node's
 };
 
-/// A document as the window shows it: items of a tree, each before those below it, and the properties of the operating
-/// system, which have boxes of their own.
+/// A document as the window shows it: the items of a tree, parents first, and the OS properties, which have boxes of
+/// their own.
 struct LeafTree {
     std::vector<Leaf> leaves;
     OsProperties osProperties;
 };
 
-/// What the window shows of `JpegDoc`; technical nodes with `technical` only. The nodes shown receive their "label" and
-/// "leafIndex", numbered from x000001 on in document order. Raises kObjectNotSet when the document has no root element.
+/// What the window shows of `JpegDoc`; technical nodes only with `technical`. Sets "label" and "leafIndex" (from
+/// x000001, in document order) on the nodes shown. Raises kObjectNotSet if the document has no root element.
 LeafTree loadLeaves(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical);
 
-/// Selects the node of the item with `key`.
+/// An XPath expression that selects the node of the item with `key`.
 std::string leafXPath(const std::string& key);
 
-/// Removes all "leafIndex" attributes: the next build gives new ones.
+/// Removes all "leafIndex" attributes; the next loadLeaves() sets new ones.
 void removeLeafKeys(XmlDocument& JpegDoc);
 
 } // namespace ovisto

@@ -10,7 +10,7 @@ namespace ovisto {
 
 class BatchForm;
 
-/// What is done with all files listed: a batch, a report, a slide show.
+/// What can be done with all files of the list: a batch, a report, a slide show.
 class ListActions : public QObject {
     Q_OBJECT
 

@@ -9,9 +9,8 @@
 
 namespace ovisto {
 
-/// The full paths of the files that were named one by one, and, in the place of each folder that was named, of those
-/// that a scan by `options` finds in it. `progress` and `reporter` are told what the scans tell them; when `progress`
-/// stops, what was named after that is left out.
+/// The full paths of the named files, with each named folder replaced by the files that a scan with `options` finds in
+/// it. The scans use `progress` and `reporter`; when `progress` stops one, the remaining names are left out.
 std::vector<std::string> namedFiles(const std::vector<std::string>& names, const ScanOptions& options,
                                     Progress& progress, ErrorReporter& reporter);
 

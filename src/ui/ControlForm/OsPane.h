@@ -10,7 +10,7 @@
 
 namespace ovisto {
 
-/// The properties that the operating system shows too, OSFrame: a box each, and "Ditto".
+/// The properties that the operating system also shows (OSFrame): a box for each, and "Ditto".
 class OsPane : public QObject {
     Q_OBJECT
 
@@ -23,11 +23,11 @@ public:
     /// Keeps what the boxes show for "Ditto".
     void keepTexts();
 
-    /// Inserts a keyword into those of the file, at the caret.
+    /// Inserts a keyword into the Keywords box at the caret.
     void insertKeyword(const QString& keyword);
 
 private:
-    /// The box of a property, and where the text that it had last is kept for "Ditto".
+    /// The box of a property, and where its previous text is kept for "Ditto".
     struct OsBox {
         OsProperty property;
         QWidget* box;

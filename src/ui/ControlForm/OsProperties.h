@@ -8,10 +8,10 @@
 
 namespace ovisto {
 
-/// The properties that the operating system shows of a file too. Each has a box of its own in the window.
+/// The properties of a file that the operating system also shows. Each has its own box in the window.
 enum class OsProperty { Title, Subject, Comments, Keywords };
 
-/// The nodes of these properties in the document shown; no node where it does not have the property.
+/// The nodes of these properties in the document shown; no node if it does not have the property.
 class OsProperties {
 public:
     XmlNode TitleNode;
@@ -19,19 +19,19 @@ public:
     XmlNode CommentsNode;
     XmlNode KeywordsNode;
 
-    /// The variable for the node at `path`; null when no such property is there.
+    /// The member for the node at `path`; null if `path` is not one of these properties.
     XmlNode* nodeOf(const std::string& path);
 
-    /// What the box shows. Comments and keywords may have several lines, which end with CR LF in the box.
+    /// The text for the box. Comments and keywords may have several lines, which end with CR LF.
     std::string boxText(OsProperty property) const;
 
-    /// Takes the text of a box that is being left into the document, creating the node where it is missing. Returns
-    /// whether the document has changed.
+    /// Writes the text of a box that the focus leaves into the document, creating a missing node. Returns whether the
+    /// document changed.
     bool leave(OsProperty property, const std::string& boxText, XmlDocument& JpegDoc, const TagDictionary& Merovel,
                ErrorReporter& reporter);
 };
 
-/// `text` with each LF replaced by CR LF, and each CR LF by LF.
+/// `text` with each LF replaced by CR LF (withCrLf) or each CR LF by LF (withLf).
 std::string withCrLf(const std::string& text);
 std::string withLf(const std::string& text);
 

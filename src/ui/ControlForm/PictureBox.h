@@ -10,20 +10,19 @@
 
 namespace ovisto {
 
-/// A pane that shows the picture in a file, decoded at the size of the pane.
+/// Shows the picture in a file, decoded at the size of the pane.
 class PictureBox : public QFrame {
     Q_OBJECT
 
 public:
     explicit PictureBox(QWidget* parent = nullptr);
 
-    /// Shows the picture in the file at `path`; what keeps it from being shown is told to `reporter` and written into
-    /// the pane.
+    /// Shows the picture in the file at `path`. A failure is reported, and the pane says that there is no picture.
     void showFile(const std::string& path, ErrorReporter& reporter);
     void showPicture(const QImage& picture);
     void clear();
 
-    /// What the pane says when nothing is shown.
+    /// The text that the pane shows when it is empty.
     void setPlaceholder(const QString& text) { m_placeholder = text; }
 
     const QImage& picture() const { return m_picture; }
@@ -42,11 +41,11 @@ private:
     QSize paneSize() const;
     void fitAgain();
 
-    std::string m_path; ///< empty when nothing is shown, or what is shown comes from no file
+    std::string m_path; ///< empty if nothing is shown, or something that does not come from a file
     QImage m_picture;
     QString m_placeholder;
-    QString m_message;            ///< why the file is not shown
-    bool m_doubleClicked = false; // the release to come belongs to a double click
+    QString m_message;            ///< the text in place of a file that cannot be shown
+    bool m_doubleClicked = false; // the next release belongs to a double click
     QTimer m_resized;
 };
 

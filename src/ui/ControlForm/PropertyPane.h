@@ -10,7 +10,7 @@
 
 namespace ovisto {
 
-/// The properties of the file shown: their tree, NodeTree, and the node selected in it, NodeFrame.
+/// The properties of the file shown: their tree (NodeTree) and the selected node (NodeFrame).
 class PropertyPane : public QObject {
     Q_OBJECT
 
@@ -18,11 +18,11 @@ public:
     PropertyPane(const WindowParts& parts, ShownFile& file);
 
     void clear();
-    /// Fills the tree, which is empty. The node that was selected last, maybe in another file, is selected again.
+    /// Fills the tree, which must be empty, and selects the node that was selected last, possibly in another file.
     void showTree(const std::vector<Leaf>& leaves);
 
 Q_SIGNALS:
-    /// A node was added: the tree has to be shown anew.
+    /// A node was added; show the tree again.
     void nodeAdded();
 
 private:
@@ -52,8 +52,8 @@ private:
     ShownFile& m_file;
     XmlNode CurrentNode; ///< of the tree item selected
     Protection CurrentProt = Protection::Free;
-    std::string CurrentXPath;       ///< of the item clicked last, maybe in another file
-    bool m_selectedByClick = false; ///< the press to come has selected the item, and its node is shown
+    std::string CurrentXPath;       ///< of the item clicked last, possibly in another file
+    bool m_selectedByClick = false; ///< the current mouse press selected the item, whose node is already shown
 };
 
 } // namespace ovisto

@@ -7,8 +7,8 @@
 
 namespace ovisto {
 
-/// Stands between a scan and a person in front: hands on what it is told, but of folders that cannot be read only the
-/// first. There may be thousands of them, and while a message about each is there, the scan cannot be cancelled.
+/// Passes the reports of a scan on to the user, but only the first about a folder that cannot be read. There may be
+/// thousands of them, and the scan cannot be cancelled while a message is open.
 class ScanReports : public ErrorReporter {
 public:
     /// `reporter` must outlive the object.
@@ -16,7 +16,7 @@ public:
 
     void report(const Phrase& context, const Error& error) override;
 
-    /// The folders after the first.
+    /// The folders that could not be read, after the first.
     const std::vector<FileFailure>& notReadToo() const { return m_notReadToo; }
 
 private:

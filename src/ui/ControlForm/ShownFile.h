@@ -13,11 +13,11 @@
 
 namespace ovisto {
 
-/// The file that the window shows: its metadata document, which is changed in memory and written into the file when
-/// that is wanted. Nothing else changes the document.
+/// The file that the window shows, with its metadata document. The document is changed in memory, only through this
+/// class, and written to the file on request.
 class ShownFile {
 public:
-    /// What the file needs of the window around it.
+    /// What the file needs from the window.
     class Window {
     public:
         Window() = default;
@@ -25,21 +25,21 @@ public:
         Window& operator=(const Window&) = delete;
         virtual ~Window() = default;
 
-        /// Whether the person wants the changes made to the file at `path` saved.
+        /// Asks whether to save the changes to the file at `path`.
         virtual bool wantsToSave(const std::string& path) = 0;
-        /// Shows whether the file has changes that are not saved.
+        /// Shows whether the file has unsaved changes.
         virtual void showChanged(bool changed) = 0;
-        /// Shows that the person has to wait while the file is written.
+        /// Shows whether the program is busy writing the file.
         virtual void showBusy(bool busy) = 0;
     };
 
     enum class SaveResult { NotSaved, Saved, Failed };
 
-    /// `Merovel` says what the nodes of a document are; `reporter` is told of every failure. All must outlive the
+    /// `Merovel` describes the nodes of documents; every failure goes to `reporter`. All arguments must outlive the
     /// object.
     ShownFile(const TagDictionary& Merovel, ErrorReporter& reporter, Window& window);
 
-    /// The full path of the file; empty when none is shown.
+    /// The full path of the file; empty if none is shown.
     const std::string& path() const { return CurrentFileName; }
     bool isOpen() const { return !CurrentFileName.empty(); }
     const XmlDocument& document() const { return JpegDoc; }
@@ -47,43 +47,44 @@ public:
     XmlNode node(const std::string& xpath) { return JpegDoc.selectSingleNode(xpath); }
     bool isChanged() const { return ChangesMade; }
 
-    /// Reads the file at `path`, whatever became of the one shown before. It counts as changed when `keep` left out
-    /// something that it holds. One that cannot be read in full shows what could be read.
+    /// Opens the file at `path`, discarding the one shown before. It counts as changed if `keep` leaves out something
+    /// that it holds. If it cannot be read in full, the document has what could be read.
     void open(const std::string& path, const KeepOptions& keep);
-    /// Shows no file any more. What was changed in it is lost.
+    /// Closes the file, discarding its changes.
     void close();
 
-    /// The items of the property tree; technical nodes with `technical` only. Raises what loadLeaves() raises, and then
-    /// there are no properties of the operating system either.
+    /// The items of the property tree; technical nodes only with `technical`. Raises the errors of loadLeaves(); there
+    /// are then no OS properties either.
     std::vector<Leaf> loadTree(bool technical);
     /// The text of the box of a property.
     std::string boxText(OsProperty property) const { return m_osProperties.boxText(property); }
 
-    // Changes. The file counts as changed after each that changes the document.
+    // Changes. The file counts as changed after each one that changes the document.
 
     void setText(const XmlNode& node, const std::string& text);
-    /// Takes the text of the box of a property, creating its node where it is missing.
+    /// Sets the property to the text of its box, creating a missing node.
     void setBoxText(OsProperty property, const std::string& text);
-    /// Adds the node that the dictionary entry describes, with what it needs, and takes all keys away: the tree has to
-    /// be loaded again. Returns the path of the node, or nothing, and changes nothing, when it was there already.
+    /// Adds the node that the dictionary entry describes, with what it needs, and removes all keys, so that the tree
+    /// must be loaded again. Returns the path of the node. If it already exists, changes nothing and returns an empty
+    /// path.
     std::string addNode(const DictionaryEntry& entry);
-    /// Removes the node with its companion. Returns the key of the companion whose item has to go too; empty when there
-    /// is none. The item of an entry that pointed to a directory stays.
+    /// Removes the node with its companion. Returns the key of the companion whose item must be removed too; empty if
+    /// there is none. The item of an entry that pointed to a directory stays.
     std::string deleteNode(const XmlNode& node);
-    /// Lets the file count as changed.
+    /// Marks the file as changed.
     void MarkChanged();
-    /// Lets it count as unchanged; the document stays as it is.
+    /// Marks it as unchanged; the document stays as it is.
     void clearChanged();
 
     // Saving
 
-    /// Saves the file if it is changed; with `ask`, if the person wants that. One who does not gives the changes up.
-    /// What somebody wanted saved and could not be is still changed after that.
+    /// Saves the file if it is changed; with `ask`, only if the user says so, and otherwise gives up the changes. If
+    /// saving fails after the user said yes, the file still counts as changed.
     SaveResult OfferSave(bool ask);
-    /// Saves the file, changed or not. After that it counts as unchanged, whatever became of it. Its image data may
-    /// have moved: it has to be opened again.
+    /// Saves the file, changed or not. Afterwards it counts as unchanged, even if saving failed. Open it again after a
+    /// save, because its image data may have moved.
     SaveResult SaveDocument();
-    /// Exports the document to an XML file beside the image.
+    /// Exports the document to an XML file beside the photograph.
     void saveXml();
 
 private:

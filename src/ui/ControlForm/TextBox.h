@@ -5,19 +5,19 @@
 
 namespace ovisto {
 
-/// A box for a text of several lines that gives back exactly what was put in, as long as nobody edits it: the line
-/// breaks keep their kind, and no character is replaced. In an edited text, all line breaks are of one kind: LF when
-/// the text put in had no other, else CR LF.
+/// A box for text of several lines that returns exactly the text put in until it is edited: line breaks keep their
+/// kind, and no character is replaced. In an edited text all line breaks are the same: LF if the text put in had only
+/// those, else CR LF.
 class TextBox : public QPlainTextEdit {
     Q_OBJECT
 
 public:
     explicit TextBox(QWidget* parent = nullptr);
 
-    /// Puts a text in, the caret before it, nothing to be undone.
+    /// Sets the text, with the caret at its start and an empty undo history.
     void putText(const QString& text);
 
-    /// The text as it stands now.
+    /// The current text.
     QString exactText() const;
 
 protected:

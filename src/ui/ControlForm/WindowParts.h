@@ -10,15 +10,15 @@
 
 namespace ovisto {
 
-/// What the panes of the main window have in common. All of it outlives them.
+/// What the panes of the main window share. All of it outlives them.
 struct WindowParts {
     QMainWindow& window;
-    Ui::ControlForm& ui; ///< all controls; each pane works those that its class names
+    Ui::ControlForm& ui; ///< all controls; each pane handles those named in its class comment
     const Surroundings& surroundings;
     const TagDictionary& Merovel;
     ErrorReporter& reporter;
     EditedBoxes& boxes;
-    bool& ControlsUpdating; ///< the program itself fills controls, and their handlers stay silent
+    bool& ControlsUpdating; ///< the program itself is filling controls; their handlers do nothing
 };
 
 } // namespace ovisto

@@ -11,18 +11,18 @@
 
 namespace ovisto {
 
-/// Lets an entry of the tag dictionary be picked whose node is added to a document.
+/// Lets the user pick an entry of the tag dictionary, and adds its node to a document.
 class NodeAddForm : public QDialog {
     Q_OBJECT
 
 public:
-    /// Adds the node of an entry to the document. Returns its path; nothing when it was there already.
+    /// Adds the node of an entry to the document. Returns its path; empty if it already exists.
     using Add = std::function<std::string(const DictionaryEntry& entry)>;
 
-    /// With `technical`, technical nodes are offered too. The dictionary must outlive the form.
+    /// With `technical`, also offers technical nodes. The dictionary must outlive the form.
     NodeAddForm(const TagDictionary& Merovel, bool technical, Add add, QWidget* owner);
 
-    /// The path of the node that was added; empty when none was.
+    /// The path of the added node; empty if none was added.
     std::string NodeAddedXpath;
 
 private:
@@ -30,7 +30,7 @@ private:
 
     Ui::NodeAddForm ui;
     Add m_add;
-    std::vector<DictionaryEntry> m_entries; ///< those in NodeList, row by row
+    std::vector<DictionaryEntry> m_entries; ///< the entries in NodeList, by row
 };
 
 } // namespace ovisto

@@ -4,7 +4,7 @@
 
 namespace ovisto {
 
-/// Shows a path in one line. One that is too long loses its middle on the screen: people look at its ends.
+/// Shows a path on one line. If it is too long, its middle is left out, because people look at its ends.
 class PathLabel : public QLabel {
     Q_OBJECT
 

@@ -9,7 +9,7 @@
 
 namespace ovisto {
 
-/// Shows how far a long loop over files is, and lets a person cancel it. While it is there, no other window of the
+/// Shows the progress of a long loop over files, and lets the user cancel it. While it is open, no other window of the
 /// program takes input.
 class ProgressForm : public QDialog, public Progress {
     Q_OBJECT
@@ -17,15 +17,15 @@ class ProgressForm : public QDialog, public Progress {
 public:
     explicit ProgressForm(QWidget* owner);
 
-    bool Canceled = false; ///< the loop is to stop before its next file
+    bool Canceled = false; ///< the loop must stop before its next file
 
-    /// Shows the file and its place, and lets what a person does meanwhile happen. False once that was to cancel.
+    /// Shows the file and its place, and processes input. False after the user cancels.
     bool step(const std::string& path, std::size_t done, std::size_t total) override;
 
-    /// The same for a folder, whose files are not known yet.
+    /// The same for a folder whose files are not known yet.
     bool enter(const std::string& folder) override;
 
-    /// Takes the dialog away: its button would promise what it cannot do.
+    /// Hides the dialog, because what follows cannot be cancelled.
     void endOfFiles() override;
 
     void reject() override;
@@ -36,8 +36,7 @@ private:
     Ui::ProgressForm ui;
 };
 
-/// Runs `loop`, which takes its time with many files, and shows how far it is. Nothing else can be done in `window`
-/// meanwhile.
+/// Runs `loop`, a long loop over files, and shows its progress. Meanwhile `window` takes no input.
 template <class Loop> void runWatched(QWidget& window, Loop loop)
 {
     ProgressForm progress(&window);

@@ -4,7 +4,7 @@
 
 namespace ovisto {
 
-/// A text in one line, however narrow the window: what has no room at its end is left out.
+/// A text on one line, however narrow the window; its end is left out if it does not fit.
 class CaptionLine : public QLabel {
     Q_OBJECT
 

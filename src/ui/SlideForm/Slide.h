@@ -13,31 +13,31 @@
 
 namespace ovisto {
 
-/// A file as a show presents it.
+/// A file as a slide show presents it.
 struct Slide {
-    QString details; ///< the line beside the picture
-    QImage picture;  ///< turned upright; none when the file cannot be shown
-    QString failure; ///< why there is no picture, for people
+    QString details; ///< the line below the picture
+    QImage picture;  ///< turned upright; null if the file cannot be shown
+    QString failure; ///< why there is no picture, for the user
 };
 
-/// A slide to make: of a file as it is now, its picture scaled down to a size in pixels of the screen.
+/// A slide to make: of a file as it is now, with its picture scaled down to a size in screen pixels.
 struct SlideRequest {
     std::string path;
     QSize maximum;
-    std::filesystem::file_time_type changed; ///< a file that was changed or deleted since makes another slide
+    std::filesystem::file_time_type changed; ///< a file that has changed or been deleted since is another slide
 
     bool operator==(const SlideRequest&) const = default;
 };
 
 SlideRequest slideRequest(const std::string& path, QSize maximum);
 
-/// How far a decoder goes.
+/// When a decoder gives up.
 struct DecodeLimits {
     std::int64_t mostBytes;             ///< of a picture in memory
-    const std::atomic<bool>& abandoned; ///< true as soon as nobody waits for the slide any more
+    const std::atomic<bool>& abandoned; ///< true once nobody waits for the slide
 };
 
-/// Makes a slide. Nothing when it was abandoned meanwhile, or its picture would take more memory than allowed.
+/// Makes a slide. Nothing if it is abandoned in the meantime or its picture would take more memory than allowed.
 std::optional<Slide> decodeSlide(const SlideRequest& request, const QLocale& locale, const DecodeLimits& limits);
 
 } // namespace ovisto

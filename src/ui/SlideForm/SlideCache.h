@@ -16,7 +16,7 @@
 
 namespace ovisto {
 
-/// The slides that a show needs now and is about to need, made one after another in a thread of their own.
+/// The slides that a show needs now or soon, made one after another in a separate thread.
 class SlideCache : public QObject {
     Q_OBJECT
 
@@ -27,11 +27,11 @@ public:
     explicit SlideCache(Decoder decoder);
     ~SlideCache() override;
 
-    /// How much memory a slide may take that is made before it is needed.
+    /// The most memory that a slide made in advance may take.
     static constexpr std::int64_t kMostBytesAhead = std::int64_t{256} << 20;
 
-    /// From now on these slides are wanted: the first one is needed now, the others soon. All others are forgotten, and
-    /// what is being made of them abandoned.
+    /// Sets the wanted slides: the first is needed now, the others soon. All other slides are dropped, and one that is
+    /// being made is abandoned.
     void want(std::vector<SlideRequest> wanted);
 
     /// The slide, if it is wanted and ready.
@@ -44,7 +44,7 @@ Q_SIGNALS:
 private:
     struct Entry {
         SlideRequest request;
-        std::optional<Slide> slide; ///< none when it is too large to be made before it is needed
+        std::optional<Slide> slide; ///< none if it is too large to be made in advance
     };
 
     void work(const std::stop_token& stop);
@@ -55,12 +55,12 @@ private:
     bool isNeededNow(const SlideRequest& request) const;
 
     const Decoder m_decoder;
-    mutable std::mutex m_mutex; ///< of all that follows
+    mutable std::mutex m_mutex; ///< guards everything below
     std::condition_variable_any m_wantedChanged;
     std::vector<SlideRequest> m_wanted;
     std::vector<Entry> m_entries;
     std::optional<SlideRequest> m_inHand;  ///< being made
-    std::atomic<bool> m_abandoned = false; ///< what is in hand is not wanted any more
+    std::atomic<bool> m_abandoned = false; ///< the slide being made is no longer wanted
     std::jthread m_worker;
 };
 

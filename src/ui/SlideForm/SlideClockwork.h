@@ -7,30 +7,30 @@
 
 namespace ovisto {
 
-/// Which file of the list a show is at, and whether it goes on by itself.
+/// The position of a show in the list, and whether it advances by itself.
 class SlideClockwork {
 public:
     /// `timer` must outlive the clockwork.
     explicit SlideClockwork(SlideTimer& timer) : m_timer(timer) {}
 
-    /// The row of the list that is shown; -1 when none was selected.
+    /// The row of the list that is shown; -1 if none was selected.
     int row() const { return m_row; }
     void setRow(int row) { m_row = row; }
 
-    /// Lets the timer run; with 0 seconds or less, only keys move the show. Raises kOverflow for more than 32 seconds:
-    /// the show is moved by keys then, too.
+    /// Starts the timer. With 0 seconds or less, only keys move the show; with more than 32 as well, and kOverflow is
+    /// raised.
     void run(std::int16_t seconds);
     void stop();
 
-    /// The rows of a list of `count` files that are needed now and next: the one that is shown, and its neighbours, the
-    /// one first where the show is going to. None when no file is shown.
+    /// The rows of a list of `count` files that are needed now and next: the one shown, then its neighbours, starting
+    /// with the one that the show is heading for. Empty if no file is shown.
     std::vector<int> neededRows(int count) const;
 
-    /// Steps through a list of `count` files, whose ends meet. A step back lets a paused show run again.
+    /// Steps through a list of `count` files, wrapping around at the ends. A step back resumes a paused show.
     void next(int count);
     void previous(int count);
 
-    /// Stops the timer, or lets it run again. Returns false when there is no timer to stop.
+    /// Stops the timer or restarts it. Returns false if the show has no timer.
     bool togglePause();
     bool isPaused() const { return m_interval > 0 && !m_running; }
 
@@ -39,7 +39,7 @@ private:
 
     SlideTimer& m_timer;
     int m_row = -1;
-    int m_interval = 0; ///< milliseconds; 0: moved by keys only
+    int m_interval = 0; ///< in milliseconds; 0 if only keys move the show
     bool m_running = false;
     bool m_backward = false; ///< the last step went back
 };

@@ -7,8 +7,8 @@
 
 namespace ovisto {
 
-/// What a show tells of a file in one line: title, date taken, size of the thumbnail and of the picture, camera. What
-/// the metadata document does not have is left out.
+/// One line about a file: title, date taken, size of the thumbnail and of the picture, camera. What the metadata
+/// document does not have is left out.
 QString detailsLine(const XmlDocument& JpegDoc, const QLocale& locale);
 
 } // namespace ovisto

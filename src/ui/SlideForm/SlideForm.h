@@ -20,9 +20,9 @@ class QItemSelectionModel;
 
 namespace ovisto {
 
-/// What a show needs of the world around it. All of it must outlive the show.
+/// What a show needs from outside. All of it must outlive the show.
 struct SlideSurroundings {
-    const FoundFiles& files;        ///< the list that is shown; it may change meanwhile
+    const FoundFiles& files;        ///< the list to show; it may change during the show
     QItemSelectionModel& selection; ///< in that list
     Dialogs& dialogs;
     Settings& settings;
@@ -35,9 +35,9 @@ class SlideForm : public QWidget {
 public:
     SlideForm(const SlideSurroundings& surroundings, SlideTimers timers, QWidget* owner);
 
-    /// Shows the files of the list one after another, from the one selected there on. `resize`: pictures larger than
-    /// the window are scaled down, else they can be scrolled. `details`: a line tells about each file. With 0 seconds,
-    /// only keys move the show; so they do with more than 32, which raises kOverflow, the show having begun.
+    /// Shows the files of the list one after another, starting with the selected one. With `resize`, pictures larger
+    /// than the window are scaled down, else they can be scrolled. With `details`, a line describes each file. With 0
+    /// seconds, only keys move the show; with more than 32 as well, and kOverflow is raised after the show has begun.
     void SlideShow(bool fullscreen, bool resize, bool details, std::int16_t seconds);
 
 protected:
@@ -73,8 +73,8 @@ private:
     bool m_fullscreen = false;
     bool m_resize = false;
     bool m_details = false;
-    bool m_isWaiting = false;           ///< the slide that is due is not on the screen yet
-    std::vector<SlideRequest> m_wanted; ///< the one that is due first
+    bool m_isWaiting = false;           ///< the current slide is not on the screen yet
+    std::vector<SlideRequest> m_wanted; ///< the current one first
     QString m_detailsLine;
     QTimer m_resized;
     QPoint m_pointer; ///< where the pointer was last

@@ -6,7 +6,7 @@
 
 namespace ovisto {
 
-/// The pane of a show: a picture in the middle of it, a point of the picture on a point of the screen, or a text.
+/// The pane of a show: a centred picture, pixel for pixel, or a text.
 class SlidePicture : public QWidget {
     Q_OBJECT
 

@@ -9,12 +9,12 @@ class QTimer;
 
 namespace ovisto {
 
-/// What lets time pass in a show: the clock of the computer, or a test.
+/// The timer of a show: the computer's clock, or a test.
 class SlideTimer : public QObject {
     Q_OBJECT
 
 public:
-    /// Fires every `milliseconds` from now on, until stopped or started anew.
+    /// Fires every `milliseconds` until it is stopped or restarted.
     virtual void start(int milliseconds) = 0;
     virtual void stop() = 0;
 

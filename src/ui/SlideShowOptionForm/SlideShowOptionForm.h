@@ -8,13 +8,13 @@
 
 namespace ovisto {
 
-/// Asks how a slide show is to run, and starts it. What was chosen is remembered, also when no show is started. Its
-/// texts keep the spelling that people have known from the start. It is deleted when it closes.
+/// Asks for the options of a slide show, and starts it. The options are remembered even if no show is started. Its
+/// texts deliberately keep their original spelling. It is deleted when it closes.
 class SlideShowOptionForm : public QDialog {
     Q_OBJECT
 
 public:
-    /// The show will belong to `owner`, as the dialog does.
+    /// `owner` owns the dialog and the show.
     SlideShowOptionForm(const SlideSurroundings& surroundings, QWidget* owner);
 
     void accept() override;

@@ -8,19 +8,19 @@
 
 namespace ovisto {
 
-/// How a slide show is to run.
+/// The options of a slide show.
 struct SlideShowOptions {
     bool fullscreen = true;
     bool resize = true;
     bool details = true;
-    QString seconds; ///< as it was typed
+    QString seconds; ///< as typed
 };
 
 SlideShowOptions loadSlideShowOptions(const Settings& settings);
 void saveSlideShowOptions(const SlideShowOptions& options, Settings& settings);
 
-/// The seconds as a whole number, halves to the even one. Raises kTypeMismatch when the text is no number, kOverflow
-/// when it needs more than 16 bits.
+/// The seconds as a whole number; halves go to the even one. Raises kTypeMismatch if the text is not a number,
+/// kOverflow if it does not fit into 16 bits.
 std::int16_t wholeSeconds(const QString& text);
 
 } // namespace ovisto

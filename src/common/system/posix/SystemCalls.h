@@ -9,8 +9,8 @@ struct stat;
 
 namespace ovisto {
 
-/// The calls of the system that saving a file depends on, so that a test can make one of them fail. This is the only
-/// such seam: there is no further layer between the program and the file system.
+/// The system calls that saving a file depends on, so that a test can make one of them fail. There is no other layer
+/// between the program and the file system.
 struct SystemCalls {
     int (*open)(const char* path, int flags, mode_t mode);
     ssize_t (*pread)(int descriptor, void* into, std::size_t size, off_t offset);
@@ -25,7 +25,7 @@ struct SystemCalls {
     int (*unlink)(const char* path);
 };
 
-/// The calls that are in force: the system's own but for the lifetime of a ReplacedSystemCalls.
+/// The calls in force: the system's own, except while a ReplacedSystemCalls exists.
 const SystemCalls& systemCalls();
 
 /// Puts other calls in force for as long as it lives, in all threads. For tests.
@@ -41,7 +41,7 @@ private:
     const SystemCalls& m_before;
 };
 
-/// Calls again what a signal interrupted.
+/// Repeats a call that a signal interrupted.
 template <class Call> auto uninterrupted(Call call)
 {
     for (;;) {
@@ -51,7 +51,7 @@ template <class Call> auto uninterrupted(Call call)
     }
 }
 
-/// Makes one of the calls in force, and again when a signal interrupted it: systemCall(&SystemCalls::fsync, file).
+/// Makes one of the calls in force, and repeats it if a signal interrupts it: systemCall(&SystemCalls::fsync, file).
 template <class Call, class... Arguments> auto systemCall(Call SystemCalls::*call, Arguments... arguments)
 {
     return uninterrupted([&] { return (systemCalls().*call)(arguments...); });
