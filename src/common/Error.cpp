@@ -34,4 +34,11 @@ Error systemError(int number)
     return {number, row != std::end(kSystemErrors) ? row->reason : Message::UnexpectedError};
 }
 
+bool isOfSystem(const Error& error)
+{
+    constexpr int kNumbers[] = {kOutOfMemory,      kFileNotFound,    kDeviceError, kDiskFull,
+                                kPermissionDenied, kPathAccessError, kPathNotFound};
+    return std::ranges::find(kNumbers, error.number) != std::end(kNumbers);
+}
+
 } // namespace ovisto

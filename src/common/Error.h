@@ -35,6 +35,9 @@ inline constexpr int kStructureError = -2147221503; ///< a file is not a sound J
 /// The error with one of the system numbers above and its usual description.
 Error systemError(int number);
 
+/// Whether the system refused something: a file, the disk or memory. Otherwise, what was to be worked on is wrong.
+bool isOfSystem(const Error& error);
+
 /// Runs steps that may fail, so that later steps still run, and keeps the latest error until it is looked at. Running
 /// out of memory or of another system resource counts as an error too; nothing else is caught.
 class ErrorTrap {

@@ -95,6 +95,12 @@ int renameNoted(const char* from, const char* to)
     return noted("rename " + nameOf(from) + " " + nameOf(to), 0, [&](std::size_t) { return rename(from, to); });
 }
 
+int linkNoted(const char* path, const char* secondName)
+{
+    return noted("link " + nameOf(path) + " " + nameOf(secondName), 0,
+                 [&](std::size_t) { return link(path, secondName); });
+}
+
 int unlinkNoted(const char* path)
 {
     return noted("unlink " + nameOf(path), 0, [&](std::size_t) { return unlink(path); });
@@ -118,6 +124,7 @@ const SystemCalls kNoted{
     .fchown = notedCall<fchown, kFchown>,
     .fchmod = notedCall<fchmod, kFchmod>,
     .fsetxattr = notedCall<fsetxattr, kFsetxattr>,
+    .link = linkNoted,
     .rename = renameNoted,
     .unlink = unlinkNoted,
 };

@@ -23,6 +23,11 @@ std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const 
 /// Why replaceFile() would fail, if that is known in advance: `path` is marked read-only.
 std::optional<ReplaceFailure> replaceObstacle(const std::string& path);
 
+/// Has the file `path`, which is about to be replaced, stay there as `keptPath` in the same folder, with all its
+/// attributes. False when there is a file of that name already, which stays as it is; raises kPathAccessError when that
+/// is not a regular file. Until syncFolder(), a power failure may take it away.
+bool keepFile(const std::string& path, const std::string& keptPath);
+
 /// Makes replacements, creations and deletions in `folder` survive a power failure, where the file system can do that.
 void syncFolder(const std::string& folder);
 

@@ -3,6 +3,7 @@
 #include "common/system/File.h"
 #include "common/system/posix/SystemCalls.h"
 #include "common/system/posix/SystemError.h"
+#include "common/text/PathText.h"
 
 #include <cerrno>
 
@@ -41,6 +42,39 @@ std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const 
         return ReplaceFailure{denied ? ReplaceStep::Delete : ReplaceStep::Rename, errorOf(renameError)};
     }
     return std::nullopt;
+}
+
+// A second name for the same file costs nothing, and leaves nothing to copy wrongly. File systems without such names
+// get a copy, which takes its name when it is whole.
+bool keepFile(const std::string& path, const std::string& keptPath)
+{
+    if (systemCall(&SystemCalls::link, path.c_str(), keptPath.c_str()) == 0)
+        return true;
+    const int linkError = errno;
+    struct stat status = {};
+    if (lstat(keptPath.c_str(), &status) == 0) {
+        if (!S_ISREG(status.st_mode))
+            throw systemError(kPathAccessError);
+        return false;
+    }
+    if (linkError != EPERM && linkError != EOPNOTSUPP && linkError != ENOSYS && linkError != EMLINK)
+        throw errorOf(linkError);
+    const std::string temporaryName = temporaryNameOf(keptPath);
+    const InputFile file(path);
+    OutputFile copy(temporaryName);
+    ErrorTrap trap;
+    trap.run([&] {
+        if (copy.writeFrom(file, 0, file.size()) != file.size())
+            throw systemError(kDeviceError);
+        copy.takeAttributesFrom(file);
+        copy.sync();
+        if (const auto failure = replaceFile(temporaryName, keptPath))
+            throw Error(failure->error);
+    });
+    if (trap.pending())
+        copy.discard();
+    trap.raise();
+    return true;
 }
 
 void syncFolder(const std::string& folder)

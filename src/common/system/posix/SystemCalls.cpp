@@ -33,6 +33,7 @@ constexpr SystemCalls kOfTheSystem{
     .fchown = ::fchown,
     .fchmod = ::fchmod,
     .fsetxattr = ::fsetxattr,
+    .link = ::link,
     .rename = ::rename,
     .unlink = ::unlink,
 };

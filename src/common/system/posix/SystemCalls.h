@@ -21,6 +21,7 @@ struct SystemCalls {
     int (*fchown)(int descriptor, uid_t owner, gid_t group);
     int (*fchmod)(int descriptor, mode_t mode);
     int (*fsetxattr)(int descriptor, const char* name, const void* value, std::size_t size, int flags);
+    int (*link)(const char* path, const char* secondName);
     int (*rename)(const char* from, const char* to);
     int (*unlink)(const char* path);
 };
