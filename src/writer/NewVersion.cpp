@@ -2,6 +2,7 @@
 
 #include "common/system/FileReplacement.h"
 #include "common/text/PathText.h"
+#include "writer/FilePatch.h"
 #include "writer/JpegRebuilding.h"
 
 #include <map>
@@ -55,6 +56,37 @@ void NewVersion::write(XmlDocument& document)
     writeWhole([&] { rebuildJpeg(document, m_oldFile, m_newFile, m_temporaryName, m_reporter); });
 }
 
+void NewVersion::write(const DocumentSave& save)
+{
+    if (save.way == WritingWay::Rebuild)
+        write(save.after);
+    else
+        writeWhole([&] { patch(save); });
+    ErrorTrap trap;
+    trap.run([&] { reported(m_reporter, m_target, [&] { compare(save); }); });
+    if (trap.pending())
+        m_newFile.discard();
+    trap.raise();
+}
+
+/// A change that cannot be made is a matter of the photograph, not of the temporary file.
+void NewVersion::patch(const DocumentSave& save)
+{
+    ErrorTrap trap;
+    trap.run([&] { patchJpeg(save.before, save.after, m_oldFile, m_newFile, m_reporter); });
+    const bool isOfDisk = trap.pending() && isOfSystem(trap.error());
+    reportPending(m_reporter, isOfDisk ? Phrase(Message::WriteFailed, m_temporaryName) : Phrase(m_target), trap);
+    trap.raise();
+}
+
+void NewVersion::compare(const DocumentSave& save)
+{
+    const InputFile newFile(m_temporaryName);
+    m_receipt = compareVersions(m_oldFile, newFile, m_temporaryName, save.before, save.after, save.read);
+    if (save.way == WritingWay::Keep && !m_receipt.losses.empty())
+        throw Error{kInvalidCall, m_receipt.losses.front()};
+}
+
 void NewVersion::bringToDisk()
 {
     const auto sync = [&] { m_newFile.sync(); };
@@ -80,8 +112,18 @@ void NewVersion::bringToDiskTogether(const std::vector<NewVersion*>& versions)
 
 void NewVersion::putInPlace()
 {
-    // Here both files are whole: the place for checks that may refuse to go on.
+    if (!m_receipt.losses.empty())
+        keepOriginal();
     raise(replaceFile(m_temporaryName, m_target), m_target, m_reporter);
+}
+
+void NewVersion::keepOriginal()
+{
+    m_receipt.originalName = m_target + ".original";
+    reported(m_reporter, m_receipt.originalName, [&] {
+        m_receipt.original = keepFile(m_target, m_receipt.originalName) ? Original::Kept : Original::WasThere;
+        syncFolder(folder());
+    });
 }
 
 std::string NewVersion::folder() const

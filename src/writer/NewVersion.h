@@ -3,6 +3,8 @@
 #include "common/ErrorReport.h"
 #include "common/system/File.h"
 #include "common/xml/XmlDocument.h"
+#include "writer/DocumentSave.h"
+#include "writer/SaveReceipt.h"
 
 #include <cstdint>
 #include <string>
@@ -28,6 +30,13 @@ public:
     /// Writes the new version from `document` as rebuildJpeg() does, and starts bringing a large one to disk.
     void write(XmlDocument& document);
 
+    /// Writes the new version in the way that `save` asks for, and compares it with the old one. Keep fails if anything
+    /// differs beyond the changes. Rebuild then has the old file kept as NAME.original, see putInPlace().
+    void write(const DocumentSave& save);
+
+    /// What the comparison said, after write() with a DocumentSave.
+    const SaveReceipt& receipt() const { return m_receipt; }
+
     /// Waits until it is on disk, unless bringToDiskTogether() has done so.
     void bringToDisk();
 
@@ -35,7 +44,8 @@ public:
     /// where it cannot be said that all is well, the bringToDisk() of each finds out.
     static void bringToDiskTogether(const std::vector<NewVersion*>& versions);
 
-    /// Replaces the old file. After that, sync folder().
+    /// Replaces the old file. If that loses something, the old file first gets the second name NAME.original; an
+    /// existing file of that name is an older state and stays. After that, sync folder().
     void putInPlace();
 
     /// The folder that the file is in.
@@ -45,6 +55,9 @@ public:
     std::int64_t oldSize() const { return m_oldFile.size(); }
 
 private:
+    void patch(const DocumentSave& save);
+    void compare(const DocumentSave& save);
+    void keepOriginal();
     template <class Fill> void writeWhole(Fill fill);
     template <class Step> void spared(Step step);
 
@@ -54,6 +67,7 @@ private:
     std::string m_temporaryName;
     InputFile m_oldFile;
     OutputFile m_newFile;
+    SaveReceipt m_receipt;
     bool m_onDisk = false; // whether the new file is known to be on disk
 };
 

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "common/xml/XmlNode.h"
+#include "writer/SegmentWriter.h"
+
+#include <string>
+
+namespace ovisto {
+
+// Segments that stand in a document as they are, all but Exif.
+
+/// Writes the whole segment of `element`, marker and length included; nothing for an element that is not one of these,
+/// such as IMG. Errors are reported and raised.
+void writePlainSegment(SegmentWriter& writer, const ConstXmlNode& element);
+
+/// The text of a non-Exif APP1 element: what follows the identifier in the segment. It stands in a CDATA section; the
+/// line break before that is layout. An element whose text was set has no such section.
+std::string app1Text(const ConstXmlNode& element);
+
+} // namespace ovisto
