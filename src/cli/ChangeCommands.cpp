@@ -17,6 +17,7 @@ namespace {
 /// What set, delete and add have in common; each declares what it takes.
 struct ChangeOptions {
     FileOptions files;
+    WritingOptions writing;
     NodeAction action;
     std::string nodePath;
     std::string value;
@@ -34,6 +35,7 @@ void addSetOptions(CLI::App& parser, ChangeOptions& options)
     options.action = NodeAction::Set;
     addNodePath(parser, options);
     parser.add_option("VALUE", options.value, "The new value")->option_text(" ")->required();
+    addWritingOptions(parser, options.writing);
     addFiles(parser, options.files);
 }
 
@@ -41,6 +43,7 @@ template <NodeAction kAction> void addNodeOptions(CLI::App& parser, ChangeOption
 {
     options.action = kAction;
     addNodePath(parser, options);
+    addWritingOptions(parser, options.writing);
     addFiles(parser, options.files);
 }
 
@@ -85,9 +88,11 @@ public:
     }
 };
 
-void changeFiles(const std::vector<std::string>& files, const NodeChange& change, unsigned jobs, CommandOutput& output)
+void changeFiles(const std::vector<std::string>& files, const NodeChange& change, const ChangeOptions& options,
+                 CommandOutput& output)
 {
-    const BatchAction batch(files, change, jobs);
+    const unsigned jobs = options.files.jobs;
+    const BatchAction batch(files, change, options.writing.way(), jobs);
     // A thread takes a whole group at a time, unless others would have nothing to do.
     const std::size_t fair = (files.size() + jobs - 1) / jobs;
     const std::size_t stretch = std::clamp<std::size_t>(fair, 1, batch.groupSize());
@@ -99,7 +104,10 @@ void changeFiles(const std::vector<std::string>& files, const NodeChange& change
         LineReporter reporter(result.errors);
         UnwatchedProgress unwatched;
         const std::size_t first = index * stretch;
-        batch.run(first, std::min(first + stretch, files.size()), unwatched, reporter);
+        const SavedFile saved = [&](const std::string& path, const SaveReceipt& receipt) {
+            result.notes += savedLines(options.writing, path, receipt);
+        };
+        batch.run(first, std::min(first + stretch, files.size()), unwatched, reporter, saved);
         return result;
     };
     StretchProgress progress(output.progress(), stretch, files.size());
@@ -118,7 +126,7 @@ int runChange(const ChangeOptions& options)
     ErrorTrap trap;
     trap.run([&] { nodeChange = changeOf(options, dictionary); });
     if (!trap.pending())
-        changeFiles(files, nodeChange, options.files.jobs, output);
+        changeFiles(files, nodeChange, options, output);
     else
         std::ranges::for_each(files, [&](const auto& path) { ErrorReport(output, path, trap.error()); });
     return output.finish();

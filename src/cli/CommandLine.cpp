@@ -15,7 +15,7 @@ namespace {
 
 /// In the order of the help.
 constexpr Command (*kCommands[])() = {showCommand,   xmlCommand, exportCommand, writeCommand, setCommand,
-                                      deleteCommand, addCommand, findCommand,   reportCommand};
+                                      deleteCommand, addCommand, checkCommand,  findCommand,  reportCommand};
 
 } // namespace
 

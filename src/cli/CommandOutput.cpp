@@ -14,15 +14,16 @@ void LineReporter::report(const Phrase& context, const Error& error)
 
 void CommandOutput::write(const FileResult& result)
 {
-    if (result.output.empty() && result.errors.empty())
+    m_failed = m_failed || result.failed || !result.errors.empty();
+    const std::string lines = result.notes + result.errors;
+    if (result.output.empty() && lines.empty())
         return;
     m_progress.clear();
     std::fwrite(result.output.data(), 1, result.output.size(), stdout);
-    if (result.errors.empty())
+    if (lines.empty())
         return;
-    m_failed = true;
     std::fflush(stdout);
-    std::fputs(result.errors.c_str(), stderr);
+    std::fputs(lines.c_str(), stderr);
 }
 
 void CommandOutput::report(const Phrase& context, const Error& error)

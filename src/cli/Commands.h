@@ -14,6 +14,7 @@ Command writeCommand();
 Command setCommand();
 Command deleteCommand();
 Command addCommand();
+Command checkCommand();
 Command findCommand();
 Command reportCommand();
 

@@ -10,10 +10,12 @@
 
 namespace ovisto {
 
-/// The result of one file: text for standard output, and errors for standard error, one per line, each with a line end.
+/// The result of one file: text for standard output, and lines for standard error, each with a line end.
 struct FileResult {
-    std::string output;
-    std::string errors;
+    std::string output{};
+    std::string errors{}; ///< why the file failed
+    std::string notes{};  ///< what else the user should know
+    bool failed = false;  ///< whether the file failed without an error
 };
 
 /// Calls `work` once for the index of every path, in up to `jobs` threads at a time, and `finish` with each result, one

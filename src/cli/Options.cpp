@@ -1,5 +1,6 @@
 #include "cli/Options.h"
 
+#include "cli/TerminalText.h"
 #include "common/Error.h"
 #include "common/system/File.h"
 #include "common/system/ProgramFolder.h"
@@ -63,6 +64,25 @@ void requireFiles(const FileOptions& options)
 {
     if (options.files.empty() && options.filesFrom.empty())
         throw CLI::RequiredError("FILE");
+}
+
+void addWritingOptions(CLI::App& parser, WritingOptions& options)
+{
+    parser.add_flag("--rebuild", options.rebuild,
+                    "Write the Exif segment anew instead of changing it where it stands; check says what that loses");
+    parser.add_flag("--verbose", options.verbose, "Say how much of each file was changed");
+}
+
+std::string savedLines(const WritingOptions& options, const std::string& path, const SaveReceipt& receipt)
+{
+    std::string lines;
+    if (!receipt.losses.empty())
+        lines += errorLine(path, "Lost by --rebuild: " + inEnglish(lossSummary(receipt)));
+    else if (options.verbose)
+        lines += errorLine(path, summary(receipt));
+    for (const Phrase& note : receipt.notes)
+        lines += errorLine(path, note);
+    return lines;
 }
 
 void addKeepOptions(CLI::App& parser, KeepOptions& keep)

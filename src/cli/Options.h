@@ -2,6 +2,7 @@
 
 #include "document/TagDictionary.h"
 #include "reader/JpegXml.h"
+#include "writer/DocumentSave.h"
 
 #include <string>
 #include <vector>
@@ -29,6 +30,19 @@ void addFiles(CLI::App& parser, FileOptions& options);
 void addFileList(CLI::App& parser, FileOptions& options);
 /// Raises the parser's error if neither files nor a list of them is given.
 void requireFiles(const FileOptions& options);
+
+/// How the commands that change photographs write them.
+struct WritingOptions {
+    bool rebuild = false;
+    bool verbose = false;
+
+    WritingWay way() const { return rebuild ? WritingWay::Rebuild : WritingWay::Keep; }
+};
+
+void addWritingOptions(CLI::App& parser, WritingOptions& options);
+
+/// The lines for standard error about a saved file, if any: what was lost, and with --verbose what was changed.
+std::string savedLines(const WritingOptions& options, const std::string& path, const SaveReceipt& receipt);
 
 void addKeepOptions(CLI::App& parser, KeepOptions& keep);
 

@@ -19,7 +19,8 @@ std::string errorLine(const Phrase& context, const Phrase& message)
 {
     const std::string path = inEnglish(context);
     const std::string reason = inEnglish(message);
-    const bool named = path.empty() || reason.ends_with("=" + path) || reason.ends_with(" " + path);
+    const bool named =
+        path.empty() || reason.ends_with("=" + path) || reason.ends_with(" " + path) || reason.starts_with(path + ": ");
     const std::string start = named ? "" : oneLine(path) + ": ";
     return "ovisto-cli: " + start + oneLine(reason, kMostMessage + path.size()) + "\n";
 }

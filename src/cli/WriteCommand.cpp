@@ -3,11 +3,11 @@
 #include "cli/Options.h"
 #include "collection/BatchAction.h"
 #include "collection/DocumentLoad.h"
+#include "collection/DocumentSaving.h"
 #include "common/system/File.h"
 #include "common/system/Interruption.h"
 #include "common/xml/XmlLoad.h"
 #include "document/NodePath.h"
-#include "writer/JpegDocument.h"
 
 #include <CLI/CLI.hpp>
 
@@ -21,6 +21,7 @@ namespace {
 
 struct WriteOptions {
     FileOptions files;
+    WritingOptions writing;
     std::string document; ///< the edited one; empty for the file's own
 };
 
@@ -28,6 +29,7 @@ void addWriteOptions(CLI::App& parser, WriteOptions& options)
 {
     parser.add_option("--document", options.document, "The document to write, edited; else the file's own")
         ->option_text("XML");
+    addWritingOptions(parser, options.writing);
     addFiles(parser, options.files);
     parser.final_callback([&options] {
         requireFiles(options.files);
@@ -83,19 +85,21 @@ int runWrite(const WriteOptions& options)
     deferInterruption();
     files = withoutRepeats(std::move(files));
     const std::unordered_set<std::string> overwriting = overwritingFiles(files);
-    return runEach(files, options.files.jobs, [&](const std::string& path, FileResult&, ErrorReporter& reporter) {
-        if (overwriting.contains(path))
-            throw Error(overwritingError());
-        XmlDocument document = options.document.empty() ? loadDocument(path) : loadEdited(options.document, path);
-        JpegDocument(reporter).WriteJpeg(document, path);
-    });
+    return runEach(
+        files, options.files.jobs, [&](const std::string& path, FileResult& result, ErrorReporter& reporter) {
+            if (overwriting.contains(path))
+                throw Error(overwritingError());
+            XmlDocument document = options.document.empty() ? loadDocument(path) : loadEdited(options.document, path);
+            const SaveReceipt receipt = saveDocument(document, path, options.writing.way(), reporter);
+            result.notes = savedLines(options.writing, path, receipt);
+        });
 }
 
 } // namespace
 
 Command writeCommand()
 {
-    return command("write", "Write a file anew from its metadata document", addWriteOptions, runWrite);
+    return command("write", "Save a file from its metadata document", addWriteOptions, runWrite);
 }
 
 } // namespace ovisto

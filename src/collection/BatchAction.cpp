@@ -6,6 +6,7 @@
 #include "common/system/FileReplacement.h"
 #include "common/system/Process.h"
 #include "common/text/PathText.h"
+#include "document/MetadataDocument.h"
 #include "writer/NewVersion.h"
 
 #include <algorithm>
@@ -28,8 +29,8 @@ constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< on th
 class Group {
 public:
     /// `room` is shared by all groups that run at the same time.
-    Group(ErrorReporter& reporter, std::shared_mutex& room)
-        : m_reporter(reporter), m_room(room), m_share(room, std::defer_lock)
+    Group(WritingWay way, ErrorReporter& reporter, const SavedFile& saved, std::shared_mutex& room)
+        : m_way(way), m_reporter(reporter), m_saved(saved), m_room(room), m_share(room, std::defer_lock)
     {
     }
 
@@ -76,11 +77,13 @@ private:
         auto member = std::make_unique<Member>(path);
         ErrorTrap trap;
         trap.run([&] {
-            XmlDocument document = loadDocument(path);
+            const std::string text = documentText(path);
+            XmlDocument document = documentOf(text);
             if (!applyChange(document, change, member->report))
                 return;
+            const XmlDocument before = documentOf(text);
             member->version.emplace(member->report, path, Leftover::Spared);
-            member->version->write(document);
+            member->version->write({m_way, before, document, readDocument});
         });
         if (trap.pending() && trap.error().number == kDiskFull && onDiskFull == DiskFull::TryAgain)
             return false;
@@ -104,6 +107,8 @@ private:
                 continue;
             step(*member, [&] { member->version->putInPlace(); });
             folders.insert(member->version->folder());
+            if (!member->failed && m_saved)
+                m_saved(member->path, member->version->receipt());
         }
         for (const std::string& folder : folders)
             syncFolder(folder);
@@ -145,7 +150,9 @@ private:
         ErrorReport(m_reporter, member.path, member.report.orElse(error));
     }
 
+    WritingWay m_way;
     ErrorReporter& m_reporter;
+    const SavedFile& m_saved;
     std::shared_mutex& m_room; ///< on the disk; whichever holds it alone has all of it
     std::shared_lock<std::shared_mutex> m_share;
     std::vector<std::unique_ptr<Member>> m_members;
@@ -162,8 +169,8 @@ std::size_t groupSizeFor(unsigned jobs)
 
 } // namespace
 
-BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange change, unsigned jobs)
-    : m_files(files), m_change(std::move(change)), m_groupSize(groupSizeFor(jobs))
+BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange change, WritingWay way, unsigned jobs)
+    : m_files(files), m_change(std::move(change)), m_way(way), m_groupSize(groupSizeFor(jobs))
 {
     std::vector<std::string> realPaths;
     realPaths.reserve(files.size());
@@ -176,9 +183,10 @@ BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange chang
     }
 }
 
-void BatchAction::run(std::size_t first, std::size_t last, Progress& progress, ErrorReporter& reporter) const
+void BatchAction::run(std::size_t first, std::size_t last, Progress& progress, ErrorReporter& reporter,
+                      const SavedFile& saved) const
 {
-    Group group(reporter, m_room);
+    Group group(m_way, reporter, saved, m_room);
     for (std::size_t i = first; i < last; ++i) {
         const std::string& path = m_files[i];
         if (!progress.step(path, i, m_files.size()))

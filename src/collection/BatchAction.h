@@ -3,14 +3,19 @@
 #include "common/ErrorReport.h"
 #include "common/Progress.h"
 #include "document/NodeChange.h"
+#include "writer/DocumentSave.h"
 
 #include <cstddef>
+#include <functional>
 #include <shared_mutex>
 #include <string>
 #include <unordered_set>
 #include <vector>
 
 namespace ovisto {
+
+/// Called with the path of a file that was saved, and what became of it.
+using SavedFile = std::function<void(const std::string& path, const SaveReceipt& receipt)>;
 
 /// Makes one change to many JPEG files, keeping all parts of each. A file that already has the change is not written.
 /// New versions are written in groups, brought to disk together, then put in place: much less waiting for the disk, and
@@ -20,7 +25,8 @@ class BatchAction {
 public:
     /// `files` must outlive the object. A path may occur in it more than once. `jobs`: how many stretches of them will
     /// run at the same time.
-    BatchAction(const std::vector<std::string>& files, NodeChange change, unsigned jobs = 1);
+    BatchAction(const std::vector<std::string>& files, NodeChange change, WritingWay way = WritingWay::Keep,
+                unsigned jobs = 1);
 
     /// How many files are written before the first one is put in place.
     std::size_t groupSize() const { return m_groupSize; }
@@ -29,15 +35,20 @@ public:
     /// place. Each failed file is reported once, with its path as context, and is left unchanged; the run goes on. To
     /// stop after a failure, return false from the next step. A file whose temporary name is that of another file in
     /// the list fails, as saving it would destroy the other.
-    void run(Progress& progress, ErrorReporter& reporter) const { run(0, m_files.size(), progress, reporter); }
+    void run(Progress& progress, ErrorReporter& reporter, const SavedFile& saved = {}) const
+    {
+        run(0, m_files.size(), progress, reporter, saved);
+    }
 
     /// The same for the files from index `first` up to, not including, `last`. Stretches without a file in common may
     /// run at the same time, each with a reporter of its own.
-    void run(std::size_t first, std::size_t last, Progress& progress, ErrorReporter& reporter) const;
+    void run(std::size_t first, std::size_t last, Progress& progress, ErrorReporter& reporter,
+             const SavedFile& saved = {}) const;
 
 private:
     const std::vector<std::string>& m_files;
     NodeChange m_change;
+    WritingWay m_way;
     std::size_t m_groupSize;
     std::unordered_set<std::size_t> m_overwriting; ///< their temporary name is another file of the list
     mutable std::shared_mutex m_room;              ///< on the disk, shared by the stretches

@@ -6,10 +6,20 @@ namespace ovisto {
 
 XmlDocument loadDocument(const std::string& path, const KeepOptions& keep)
 {
-    const Translation translation = JpegXml().XMLtranslate(path, keep);
+    return documentOf(documentText(path, keep));
+}
+
+XmlDocument readDocument(const std::string& path)
+{
+    return loadDocument(path);
+}
+
+std::string documentText(const std::string& path, const KeepOptions& keep)
+{
+    Translation translation = JpegXml().XMLtranslate(path, keep);
     if (translation.error)
         throw Error(*translation.error);
-    return documentOf(translation.text);
+    return std::move(translation.text);
 }
 
 } // namespace ovisto

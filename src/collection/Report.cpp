@@ -24,15 +24,13 @@ void write(OutputFile& file, std::string_view bytes)
 
 /// The document of a file as the reader makes it. A well-formed text of the combined file can only be made of
 /// well-formed ones, so that one which is not would take all others with it.
-std::string documentText(const std::string& path, const KeepOptions& keep)
+std::string wellFormedText(const std::string& path, const KeepOptions& keep)
 {
-    Translation translation = JpegXml().XMLtranslate(path, keep);
-    if (translation.error)
-        throw Error(*translation.error);
+    std::string text = documentText(path, keep);
     // The reader escapes everything but what stands in a CDATA section.
-    if (translation.text.find("<![CDATA[") != std::string::npos)
-        documentOf(translation.text);
-    return std::move(translation.text);
+    if (text.find("<![CDATA[") != std::string::npos)
+        documentOf(text);
+    return text;
 }
 
 /// An extension comes from a style sheet: it must not lead to another folder, nor to a name that other systems refuse.
@@ -77,7 +75,7 @@ std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files,
             break;
         std::string text;
         ErrorTrap trap;
-        trap.run([&] { text = documentText(files[i], keep); });
+        trap.run([&] { text = wellFormedText(files[i], keep); });
         if (trap.pending())
             leftOut.push_back({files[i], trap.take()});
         else
