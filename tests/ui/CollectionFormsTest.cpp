@@ -292,12 +292,15 @@ private Q_SLOTS:
         QVERIFY(!form.isVisible());
         QCOMPARE(window.title() + window.text("NodeText"), u"3.jpg[*]batch"_s);
 
+        QCOMPARE(window.text("SavedLine"), QString()); // nothing was lost
+        window.trigger("menuKeepUntouched");
         BatchForm& second = window.openBatch(u"Thumbnail"_s, {});
         QVERIFY(&second != &form);
         controlOf<QRadioButton>(second, "ActionDelOpt").setChecked(true);
         QVERIFY(!controlOf<QLineEdit>(second, "NodeValue").isEnabled());
         press(second, "BatchStarter");
         QCOMPARE(window.inThree(kThumbnailIfd), u"-|-|-"_s);
+        QVERIFY(window.text("SavedLine").startsWith(u"Lost something in 3 of 3 files, "_s));
         QVERIFY(window.dialogs.messages.isEmpty());
     }
 

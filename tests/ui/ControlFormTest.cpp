@@ -234,6 +234,7 @@ private Q_SLOTS:
         QCOMPARE(window.text("NodeDataType"), u"Byte Required"_s); // of the node that was selected
         QVERIFY(!window.control<PictureBox>("Image1").picture().isNull());
         window.click("FileSaver");
+        QVERIFY(window.dialogs.messages.isEmpty());
         QCOMPARE(inFile(window.path("no-exif.jpg"), "/JPEG/Exif/IFD1/IFD[@id='0103']").value(), std::string("6"));
     }
 
@@ -303,6 +304,29 @@ private Q_SLOTS:
             QVERIFY(answer != Fails || (window.form().findChildren<QDialog*>().isEmpty() &&
                                         !QFile::exists(QString::fromStdString(path + ".XML"))));
         }
+    }
+
+    void showsWhatBecameOfASave()
+    {
+        Window window{"little-endian.jpg", "night.jpg"};
+        const auto lineAfter = [&](const char* typed, const char* button) {
+            if (typed != nullptr)
+                window.edit(kDescription, QLatin1String(typed));
+            window.click(button);
+            return window.text("SavedLine");
+        };
+        const QString kept = u"1 value changed, "_s;
+        QVERIFY(lineAfter("Kept", "FileSaver").startsWith(kept));
+        QVERIFY(lineAfter("Kept and left", "FilePickerNext").startsWith(kept));
+        QCOMPARE(lineAfter(nullptr, "FilePickerPrev"), QString());
+        window.trigger("menuKeepUntouched"); // which counts from the next open
+        QVERIFY(lineAfter("Kept once more", "FileSaver").startsWith(kept));
+        const QString lost = lineAfter("Rebuilt", "FileSaver");
+        QVERIFY2(lost.startsWith(u"Lost, as \"Keep Untouched Data?\" is off: "_s), qPrintable(lost));
+        QVERIFY(lost.endsWith(u" little-endian.jpg.original"_s));
+        QVERIFY(window.dialogs.messages.isEmpty());
+        blockSaving(window.path("little-endian.jpg"));
+        QCOMPARE(lineAfter("Refused", "FileSaver"), QString());
     }
 
     void staysWhenSteppingOnCannotSave()
@@ -474,21 +498,23 @@ private Q_SLOTS:
         Window window{"night.jpg"};
         const auto options = [&] {
             QString checked;
-            for (const char* option : {"menuDecodeMaker", "menuDecodeThumb", "menuDecodeExif1", "menuShowTechnical"})
+            for (const char* option :
+                 {"menuDecodeMaker", "menuDecodeThumb", "menuDecodeExif1", "menuKeepUntouched", "menuShowTechnical"})
                 checked += window.control<QAction>(option).isChecked() ? u'1' : u'0';
             return checked;
         };
-        QCOMPARE(options(), u"1110"_s);
+        QCOMPARE(options(), u"11110"_s);
         QCOMPARE(window.form().size(), QSize(777, 567));
         window.trigger("menuShowTechnical");
         window.trigger("menuDecodeThumb");
+        window.trigger("menuKeepUntouched");
         window.form().resize(780, 590);
         window.control<QSplitter>("ControlFormColumns").setSizes({300, 240, 226});
         const QList<int> sizes = window.control<QSplitter>("ControlFormColumns").sizes();
         window.form().close();
 
         window.open({window.path("night.jpg")});
-        QCOMPARE(options(), u"1011"_s);
+        QCOMPARE(options(), u"10101"_s);
         QVERIFY(window.item("/JPEG/SOS") && window.form().size() == QSize(780, 590));
         QCOMPARE(window.control<QSplitter>("ControlFormColumns").sizes(), sizes);
     }

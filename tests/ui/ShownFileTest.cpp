@@ -27,6 +27,11 @@ public:
     }
     void showChanged(bool changed) override { isMarked = changed; }
     void showBusy(bool busy) override { told << (busy ? u"busy"_s : u"ready"_s); }
+    void showSaved(const std::string& path, const std::optional<SaveReceipt>& receipt) override
+    {
+        if (receipt)
+            told << QString::fromStdString(path).section(u'/', -1) + u'+';
+    }
 };
 
 const TagDictionary& dictionary()
@@ -39,9 +44,9 @@ const TagDictionary& dictionary()
 struct Opened {
     explicit Opened(const char* sample) : path(folder.copy(sample)) { open(); }
 
-    void open(const KeepOptions& keep = {})
+    void open(const KeepOptions& keep = {}, WritingWay way = WritingWay::Keep)
     {
-        file.open(path, keep);
+        file.open(path, keep, way);
         loadTree();
     }
     void loadTree()
@@ -78,14 +83,15 @@ private Q_SLOTS:
             SaveResult result;
             const char* told;
             bool isWritten, isChanged;
-        } cases[] = {{"unchanged", Unchanged, false, true, SaveResult::NotSaved, "", false, false},
-                     {"unchanged, to be asked", Unchanged, true, true, SaveResult::NotSaved, "", false, false},
-                     {"not to be asked", Changed, false, false, SaveResult::Saved, "busy ready", true, false},
-                     {"yes", Changed, true, true, SaveResult::Saved, "night.jpg? busy ready", true, false},
-                     {"no", Changed, true, false, SaveResult::NotSaved, "night.jpg?", false, false},
-                     {"yes, and fails", Blocked, true, true, SaveResult::Failed, "night.jpg? busy ready", false, true},
-                     // The mark goes whatever becomes of a save that nobody was asked about.
-                     {"fails unasked", Blocked, false, false, SaveResult::Failed, "busy ready", false, false}};
+        } cases[] = {
+            {"unchanged", Unchanged, false, true, SaveResult::NotSaved, "", false, false},
+            {"unchanged, to be asked", Unchanged, true, true, SaveResult::NotSaved, "", false, false},
+            {"not to be asked", Changed, false, false, SaveResult::Saved, "busy ready night.jpg+", true, false},
+            {"yes", Changed, true, true, SaveResult::Saved, "night.jpg? busy ready night.jpg+", true, false},
+            {"no", Changed, true, false, SaveResult::NotSaved, "night.jpg?", false, false},
+            {"yes, and fails", Blocked, true, true, SaveResult::Failed, "night.jpg? busy ready", false, true},
+            // The mark goes whatever becomes of a save that nobody was asked about.
+            {"fails unasked", Blocked, false, false, SaveResult::Failed, "busy ready", false, false}};
         for (const auto& c : cases) {
             Opened opened("night.jpg");
             const std::string before = readTextFile(opened.path);
@@ -104,6 +110,34 @@ private Q_SLOTS:
         Opened unchanged("night.jpg"); // saving means writing
         QFile::remove(QString::fromStdString(unchanged.path));
         QVERIFY(unchanged.file.SaveDocument() == SaveResult::Failed);
+    }
+
+    void savesInTheWayInWhichItWasOpened()
+    {
+        Opened opened("little-endian.jpg");
+        const std::string original = readTextFile(opened.path);
+        opened.file.SaveDocument();
+        QCOMPARE(readTextFile(opened.path), original);
+        opened.open({}, WritingWay::Rebuild);
+        opened.file.setText(opened.node(kDescription), "Rebuilt");
+        opened.file.SaveDocument();
+        QCOMPARE(readTextFile(opened.path + ".original"), original);
+        QVERIFY(opened.reporter.contexts.empty());
+    }
+
+    void doesNotOverwriteWhatAnotherProgramChanged()
+    {
+        for (const auto way : {WritingWay::Keep, WritingWay::Rebuild}) {
+            Opened opened("little-endian.jpg");
+            opened.open({}, way);
+            opened.file.setText(opened.node(kDescription), "Mine");
+            setInFile(opened.path, kTitle, "Mountain Lake"); // of the same length
+            QVERIFY(opened.file.SaveDocument() == SaveResult::Failed);
+            QCOMPARE(opened.reported(), std::vector<std::string>{opened.path});
+            QCOMPARE(inFile(opened.path, kTitle).value(), std::string("Mountain Lake"));
+            opened.open({}, way);
+            QVERIFY(opened.file.SaveDocument() == SaveResult::Saved);
+        }
     }
 
     void countsAsChangedByWhatChangesIt()

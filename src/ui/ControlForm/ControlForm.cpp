@@ -32,6 +32,7 @@ constexpr OptionSetting kOptionSettings[] = {
     {"DecodeExif1", &Ui::ControlForm::menuDecodeExif1, true},
     {"DecodeMaker", &Ui::ControlForm::menuDecodeMaker, true},
     {"DecodeThumb", &Ui::ControlForm::menuDecodeThumb, true},
+    {"KeepUntouched", &Ui::ControlForm::menuKeepUntouched, true},
     {"ShowTechnical", &Ui::ControlForm::menuShowTechnical, false},
 };
 

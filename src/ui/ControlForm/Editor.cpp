@@ -12,7 +12,7 @@ using SaveResult = ShownFile::SaveResult;
 Editor::Editor(const WindowParts& parts)
     : m_parts(parts), ui(parts.ui), ControlsUpdating(parts.ControlsUpdating),
       m_file(parts.Merovel, parts.reporter, *this), m_list(parts, m_file), m_osPane(parts, m_file),
-      m_properties(parts, m_file)
+      m_properties(parts, m_file), m_savedLine(parts.window)
 {
     connect(&m_list, &FileListPane::selected, this, &Editor::OpenSelectedFile);
     connect(&m_properties, &PropertyPane::nodeAdded, this, &Editor::nodeAdded);
@@ -33,6 +33,11 @@ KeepOptions Editor::keepOptions() const
             .pCodifyExif1 = ui.menuDecodeExif1->isChecked()};
 }
 
+WritingWay Editor::writingWay() const
+{
+    return ui.menuKeepUntouched->isChecked() ? WritingWay::Keep : WritingWay::Rebuild;
+}
+
 void Editor::OpenSelectedFile()
 {
     m_list.settle();
@@ -43,7 +48,8 @@ void Editor::OpenSelectedFile()
         return;
     const QScopedValueRollback updating(ControlsUpdating, true);
     m_parts.window.setWindowTitle(pathText(splitPath(*path).name) + QStringLiteral("[*]"));
-    m_file.open(*path, keepOptions());
+    m_savedLine.opening();
+    m_file.open(*path, keepOptions(), writingWay());
     RebuildTree();
     showPicture();
     enableEditing(true);
@@ -138,6 +144,20 @@ void Editor::showBusy(bool busy)
         m_parts.window.setCursor(Qt::WaitCursor);
     else
         m_parts.window.unsetCursor();
+}
+
+void Editor::showSaved(const std::string& /*path*/, const std::optional<SaveReceipt>& receipt)
+{
+    if (!receipt)
+        return m_savedLine.clear();
+    SaveReceipt shown = *receipt;
+    shown.originalName = splitPath(shown.originalName).name; // it is in the folder of the photograph
+    QStringList sentences(shown.losses.empty() ? toQString(summary(shown))
+                                               : tr("Lost, as \"Keep Untouched Data?\" is off: %1")
+                                                     .arg(toQString(lossSummary(shown))));
+    for (const Phrase& note : shown.notes)
+        sentences << toQString(note);
+    m_savedLine.show(sentences.join(u' '));
 }
 
 void Editor::RebuildTree()

@@ -4,6 +4,7 @@
 #include "ui/ControlForm/FileListPane.h"
 #include "ui/ControlForm/OsPane.h"
 #include "ui/ControlForm/PropertyPane.h"
+#include "ui/ControlForm/SavedLine.h"
 #include "ui/ControlForm/ShownFile.h"
 #include "ui/ControlForm/WindowParts.h"
 
@@ -23,7 +24,10 @@ public:
 
     FileListPane& list() { return m_list; }
     OsPane& osPane() { return m_osPane; }
+    SavedLine& savedLine() { return m_savedLine; }
     KeepOptions keepOptions() const;
+    /// The way in which the next file opened will be saved.
+    WritingWay writingWay() const;
 
     void OpenSelectedFile();
     /// Closes the file shown, saving its changes if the user wants that. Returns false if they could not be saved; the
@@ -48,6 +52,7 @@ private:
     bool wantsToSave(const std::string& path) override;
     void showChanged(bool changed) override;
     void showBusy(bool busy) override;
+    void showSaved(const std::string& path, const std::optional<SaveReceipt>& receipt) override;
 
     void RebuildTree();
     void nodeAdded();
@@ -63,6 +68,7 @@ private:
     FileListPane m_list;
     OsPane m_osPane;
     PropertyPane m_properties;
+    SavedLine m_savedLine;
 };
 
 } // namespace ovisto

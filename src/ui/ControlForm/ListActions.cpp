@@ -34,14 +34,25 @@ void ListActions::runBatch(const NodeChange& change)
     if (!m_editor.leaveShownFile())
         return;
     std::vector<FileFailure> notChanged;
+    int saved = 0;
+    int hurt = 0;
+    const auto count = [&](const std::string& /*path*/, const SaveReceipt& receipt) {
+        ++saved;
+        hurt += receipt.losses.empty() ? 0 : 1;
+    };
     runWatched(m_parts.window, [&](ProgressForm& progress) {
         progress.show();
         BatchWatch watch(progress, m_parts.reporter);
-        BatchAction(m_editor.list().files().paths(), change).run(watch, watch);
+        BatchAction(m_editor.list().files().paths(), change, m_editor.writingWay()).run(watch, watch, count);
         notChanged = watch.failedToo();
     });
     if (!notChanged.empty())
         m_parts.surroundings.dialogs.show(notChangedMessage(notChanged));
+    if (hurt > 0)
+        m_editor.savedLine().show(tr("Lost something in %1 of %2 files, as \"Keep Untouched Data?\" is off. The "
+                                     "originals are kept as NAME.original.")
+                                      .arg(hurt)
+                                      .arg(saved));
     m_batch->close();
     m_editor.OpenSelectedFile();
 }

@@ -1,9 +1,9 @@
 #include "ui/ControlForm/ShownFile.h"
 
+#include "collection/DocumentSaving.h"
 #include "collection/XmlExport.h"
 #include "common/xml/XmlLoad.h"
 #include "document/NodePath.h"
-#include "writer/JpegDocument.h"
 
 namespace ovisto {
 
@@ -12,9 +12,13 @@ ShownFile::ShownFile(const TagDictionary& Merovel, ErrorReporter& reporter, Wind
 {
 }
 
-void ShownFile::open(const std::string& path, const KeepOptions& keep)
+void ShownFile::open(const std::string& path, const KeepOptions& keep, WritingWay way)
 {
     CurrentFileName = path;
+    m_way = way;
+    m_stateRead.reset();
+    ErrorTrap noState; // what keeps it from being read is reported below
+    noState.run([&] { m_stateRead = fileState(path); });
     clearChanged();
     const Translation translation = JpegXml().XMLtranslate(CurrentFileName, keep);
     if (translation.ChangesMade)
@@ -105,15 +109,29 @@ ShownFile::SaveResult ShownFile::OfferSave(bool ask)
 ShownFile::SaveResult ShownFile::SaveDocument()
 {
     m_window.showBusy(true);
+    std::optional<SaveReceipt> receipt;
     ErrorTrap trap;
-    trap.run([&] { JpegDocument(m_reporter).WriteJpeg(JpegDoc, CurrentFileName); });
+    trap.run([&] {
+        checkState();
+        receipt = saveDocument(JpegDoc, CurrentFileName, m_way, m_reporter);
+    });
     // Whatever became of it, the file does not count as changed any more: of all error numbers, only -1 would keep the
     // mark.
     const int number = trap.pending() ? trap.error().number : 0;
     if (~number != 0)
         clearChanged();
     m_window.showBusy(false);
+    m_window.showSaved(CurrentFileName, receipt);
     return trap.pending() ? SaveResult::Failed : SaveResult::Saved;
+}
+
+/// Reports and raises an error if the file is not the one that the document was read from.
+void ShownFile::checkState()
+{
+    reported(m_reporter, CurrentFileName, [this] {
+        if (m_stateRead && fileState(CurrentFileName) != *m_stateRead)
+            throw Error{kInvalidCall, Message::FileWasChanged};
+    });
 }
 
 void ShownFile::saveXml()

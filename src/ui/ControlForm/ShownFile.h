@@ -1,5 +1,6 @@
 #pragma once
 
+#include "collection/FileState.h"
 #include "common/ErrorReport.h"
 #include "common/xml/XmlDocument.h"
 #include "document/NodeChange.h"
@@ -7,7 +8,9 @@
 #include "reader/JpegXml.h"
 #include "ui/ControlForm/LeafTree.h"
 #include "ui/ControlForm/OsProperties.h"
+#include "writer/DocumentSave.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,6 +34,8 @@ public:
         virtual void showChanged(bool changed) = 0;
         /// Shows whether the program is busy writing the file.
         virtual void showBusy(bool busy) = 0;
+        /// Shows what became of the file at `path` by a save; nothing if it could not be saved.
+        virtual void showSaved(const std::string& path, const std::optional<SaveReceipt>& receipt) = 0;
     };
 
     enum class SaveResult { NotSaved, Saved, Failed };
@@ -48,8 +53,8 @@ public:
     bool isChanged() const { return ChangesMade; }
 
     /// Opens the file at `path`, discarding the one shown before. It counts as changed if `keep` leaves out something
-    /// that it holds. If it cannot be read in full, the document has what could be read.
-    void open(const std::string& path, const KeepOptions& keep);
+    /// that it holds. If it cannot be read in full, the document has what could be read. It will be saved in this way.
+    void open(const std::string& path, const KeepOptions& keep, WritingWay way);
     /// Closes the file, discarding its changes.
     void close();
 
@@ -81,21 +86,25 @@ public:
     /// Saves the file if it is changed; with `ask`, only if the user says so, and otherwise gives up the changes. If
     /// saving fails after the user said yes, the file still counts as changed.
     SaveResult OfferSave(bool ask);
-    /// Saves the file, changed or not. Afterwards it counts as unchanged, even if saving failed. Open it again after a
-    /// save, because its image data may have moved.
+    /// Saves the file, changed or not. Afterwards it counts as unchanged, even if saving failed. What another program
+    /// made of the file since it was opened is not overwritten: saving then fails. Open it again after a save, because
+    /// its image data may have moved.
     SaveResult SaveDocument();
     /// Exports the document to an XML file beside the photograph.
     void saveXml();
 
 private:
     ChangeResult apply(const NodeChange& change);
+    void checkState();
 
     const TagDictionary& m_merovel;
     ErrorReporter& m_reporter;
     Window& m_window;
     XmlDocument JpegDoc;
     std::string CurrentFileName;
-    bool ChangesMade = false; ///< JpegDoc differs from the file
+    WritingWay m_way = WritingWay::Keep;
+    std::optional<FileState> m_stateRead; ///< of the file when JpegDoc was read; nothing if it could not be read
+    bool ChangesMade = false;             ///< JpegDoc differs from the file
     OsProperties m_osProperties;
 };
 
