@@ -98,8 +98,10 @@ void measure(const FoundFiles& files, Settings& settings, bool resize)
         calm.push_back(step(*form, watch, key));
     }
     print("key to picture, looking at each", calm);
+    constexpr int kHastySteps = 8;
     std::vector<double> hasty;
-    for (int i = 0; i < 8; ++i)
+    hasty.reserve(kHastySteps);
+    for (int i = 0; i < kHastySteps; ++i)
         hasty.push_back(step(*form, watch, Qt::Key_Right));
     print("key to picture, one key after the other", hasty);
     timer.restart();
