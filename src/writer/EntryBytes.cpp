@@ -131,14 +131,6 @@ Bytes fractionBytes(const Task& task)
     return bytes;
 }
 
-Bytes digitBytes(const std::string& text)
-{
-    const auto isDigit = [](char character) { return character == '0' || HexDigit(character) != 0; };
-    if (text.size() % 2 != 0 || !std::ranges::all_of(text, isDigit))
-        throw refusal(Message::NotHexadecimal);
-    return hexRunBytes(text);
-}
-
 /// The document does not show the last byte of an array, so it stays; a new array gets a zero byte there.
 Bytes arrayBytes(const Task& task)
 {
@@ -260,6 +252,14 @@ TiffValue changedValue(const TiffBlock& block, const ConstXmlNode& before, const
                     .text = after.text(),
                     .old = OldValue{dataType, old.type, old.count, std::move(*bytes), before.text()}},
                    findDataType(dataType));
+}
+
+std::vector<std::uint8_t> digitBytes(const std::string& text)
+{
+    const auto isDigit = [](char character) { return character == '0' || HexDigit(character) != 0; };
+    if (text.size() % 2 != 0 || !std::ranges::all_of(text, isDigit))
+        throw refusal(Message::NotHexadecimal);
+    return hexRunBytes(text);
 }
 
 bool mayReadDifferently(const ConstXmlNode& entry)

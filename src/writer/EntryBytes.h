@@ -4,6 +4,7 @@
 #include "writer/TiffBlock.h"
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace ovisto {
@@ -25,6 +26,9 @@ TiffValue newValue(const TiffBlock& block, const ConstXmlNode& entry);
 /// was changed. Raises an error that says why it cannot be written.
 TiffValue changedValue(const TiffBlock& block, const ConstXmlNode& before, const ConstXmlNode& after,
                        const TiffEntry& old);
+
+/// The bytes that pairs of hexadecimal digits name. Raises an error for any other text.
+std::vector<std::uint8_t> digitBytes(const std::string& text);
 
 /// Whether a value of this node may read differently from how it was typed although its bytes say just that: numbers
 /// ("-1", "1e3"), and wide texts with more characters than a document shows.

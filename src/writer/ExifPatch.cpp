@@ -75,15 +75,6 @@ bool isMovable(std::uint16_t type)
     return std::ranges::find(kMovableTypes, type) != kMovableTypes.end();
 }
 
-Bytes digitBytes(const PartChange& change)
-{
-    const std::string text = change.after.text();
-    const auto isDigit = [](char character) { return character == '0' || HexDigit(character) != 0; };
-    if (text.size() % 2 != 0 || !std::ranges::all_of(text, isDigit))
-        throw failure(*change.part, "", Message::NotHexadecimal);
-    return hexRunBytes(text);
-}
-
 void setValue(Slot& slot, TiffValue value)
 {
     slot.entry.type = value.type;
@@ -385,7 +376,11 @@ private:
                                            : std::nullopt;
         if (!from)
             throw failure(part, "", Message::DirectoryNotRead);
-        Bytes bytes = digitBytes(change);
+        Bytes bytes;
+        ErrorTrap trap;
+        trap.run([&] { bytes = digitBytes(change.after.text()); });
+        if (trap.pending())
+            throw failure(part, "", trap.error().description);
         if (part.pointer.length == 0)
             changeMakerNote(part, *from, std::move(bytes));
         else
