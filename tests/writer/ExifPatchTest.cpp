@@ -155,7 +155,7 @@ TEST(ExifPatch, KeepsTheFirstDirectoryWhereProgramsLookForIt)
     // The first value has to make room for a title; it is followed by the Exif directory, which stays.
     Tiff tiff;
     tiff.directory(2).entry(0x010F, kAscii, 14, 38).entry(0x8769, kLongType, 1, 52).next(0);
-    tiff.text("Acme Cameras\0\0").zeros(14 - 12).directory(1).entry(0x9000, 7, 4, 0x30323230).next(0);
+    tiff.text("Acme Cameras").zeros(2).directory(1).entry(0x9000, 7, 4, 0x30323230).next(0);
     Photograph photograph(tiff.photograph());
     ASSERT_EQ(photograph.save(set(kTitlePath, "A title")), "");
     EXPECT_EQ(photograph.block().longAt(4), 8U);
@@ -257,10 +257,8 @@ TEST(ExifPatch, WritesValuesAsTheyAreTyped)
         {"a short undefined text has no terminator", 7, {'0', '2', '2', '0'}, "0231", {'0', '2', '3', '1'}},
     };
     for (const auto& c : cases) {
-        ExifBytes exif;
-        exif.ifd0({}).exif({exif.raw(0x9290, static_cast<std::uint16_t>(c.type), c.old)});
         const auto size = std::map<std::uint32_t, std::uint32_t>{{3, 2}, {4, 4}, {8, 2}, {10, 8}}[c.type];
-        Tag tag = exif.raw(0x9290, static_cast<std::uint16_t>(c.type), c.old);
+        Tag tag = ExifBytes::raw(0x9290, static_cast<std::uint16_t>(c.type), c.old);
         tag.count = size > 0 ? static_cast<std::uint32_t>(c.old.size()) / size : tag.count;
         ExifBytes built;
         built.ifd0({}).exif({tag});
