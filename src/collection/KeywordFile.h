@@ -11,7 +11,7 @@ namespace ovisto {
 /// Fills `keywords` from a text file in UTF-8 or Windows-1252, one keyword per line. Lines end with CR LF; a file
 /// without any is one keyword. Empty lines are keywords too, including the one after a final line break. A file that
 /// cannot be opened is reported and leaves `keywords` unchanged. One that cannot be read is reported, too, and replaces
-/// `keywords` all the same.
+/// `keywords` nevertheless.
 void loadKeywords(const std::string& path, std::vector<std::string>& keywords, ErrorReporter& reporter);
 
 /// What a click on `keyword` inserts in place of the selection in a text of `length` characters: the keyword, preceded

@@ -11,7 +11,7 @@ namespace ovisto {
 
 namespace {
 
-// Two Shorts would fit into the entry; they stand outside all the same.
+// Two Shorts would fit into the entry; they are nevertheless stored outside.
 constexpr DataType kDataTypes[] = {
     {kByte, "Byte", ValueForm::Hexadecimal, 1, kValueFieldSize},
     {kString, "String", ValueForm::Text, 1, kValueFieldSize},

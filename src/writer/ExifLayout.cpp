@@ -101,7 +101,7 @@ void layOutDirectory(std::int64_t& pos, XmlNode exif, const ExifPart& part, Erro
         CalcOffsets(pos, directory, reporter);
 }
 
-/// Bytes without an entry that points to them are placed all the same, so that they are not lost.
+/// Bytes without an entry that points to them are placed too, so that they are not lost.
 void layOutCountedBytes(std::int64_t& pos, XmlNode exif, const ExifPart& part, ErrorReporter& reporter)
 {
     const XmlNode bytes = partNode(exif, part);

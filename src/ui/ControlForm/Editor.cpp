@@ -152,9 +152,9 @@ void Editor::showSaved(const std::string& /*path*/, const std::optional<SaveRece
         return m_savedLine.clear();
     SaveReceipt shown = *receipt;
     shown.originalName = splitPath(shown.originalName).name; // it is in the folder of the photograph
-    QStringList sentences(shown.losses.empty() ? toQString(summary(shown))
-                                               : tr("Lost, as \"Keep Untouched Data?\" is off: %1")
-                                                     .arg(toQString(lossSummary(shown))));
+    QStringList sentences(shown.losses.empty()
+                              ? toQString(summary(shown))
+                              : tr("Lost, as \"Keep Untouched Data?\" is off: %1").arg(toQString(lossSummary(shown))));
     for (const Phrase& note : shown.notes)
         sentences << toQString(note);
     m_savedLine.show(sentences.join(u' '));
