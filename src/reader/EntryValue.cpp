@@ -46,16 +46,18 @@ std::string wideText(ByteReader& reader, const IfdEntry& entry)
     return XMLSanitize(reader.ReadUnicode(valuePosition(reader, entry), std::int64_t{entry.count} - 2));
 }
 
-EntryValue undefinedValue(ByteReader& reader, const IfdEntry& entry)
+void readUndefined(ByteReader& reader, const IfdEntry& entry, EntryValue& value)
 {
-    if (entry.tag == kMakerNote)
-        return {entry.format, numberText(valueOffset(reader, entry).value)};
-    if (isFourByteTag(entry.tag))
-        return {entry.format, reader.ReadHexString(entry.valueField(), kValueFieldSize)};
-    const std::string text = textOf(reader, entry);
-    if (StringHasControlChars(text))
-        return {kByte, byteText(reader, entry)};
-    return {entry.format, XMLSanitize(text)};
+    if (entry.tag == kMakerNote) {
+        value.text = numberText(valueOffset(reader, entry).value);
+    } else if (isFourByteTag(entry.tag)) {
+        value.text = reader.ReadHexString(entry.valueField(), kValueFieldSize);
+    } else if (const std::string text = textOf(reader, entry); StringHasControlChars(text)) {
+        value.dataType = kByte; // even if it has too many bytes to be shown
+        value.text = byteText(reader, entry);
+    } else {
+        value.text = XMLSanitize(text);
+    }
 }
 
 std::string shortText(ByteReader& reader, FilePos place)
@@ -89,37 +91,43 @@ std::string joined(ByteReader& reader, const IfdEntry& entry, std::int64_t size,
     return text;
 }
 
-} // namespace
-
+/// The data type that the document gives an entry, as far as the entry alone decides it.
 int entryDataType(const IfdEntry& entry)
 {
     const bool isByteArray = entry.format == kByte || entry.format == kSignedByte;
     return isByteArray && isWindowsText(entry.tag) ? kUnicodeString : entry.format;
 }
 
-EntryValue entryValue(ByteReader& reader, const IfdEntry& entry)
+} // namespace
+
+void readEntryValue(ByteReader& reader, const IfdEntry& entry, EntryValue& value)
 {
+    value = {.dataType = entryDataType(entry), .text = {}};
     const DataType* type = findDataType(entry.format);
-    const int dataType = entryDataType(entry);
     if (type == nullptr)
-        return {dataType, {}};
+        return;
     switch (type->form) {
     case ValueForm::Hexadecimal:
-        return {dataType, dataType == kUnicodeString ? wideText(reader, entry) : byteText(reader, entry)};
+        value.text = value.dataType == kUnicodeString ? wideText(reader, entry) : byteText(reader, entry);
+        break;
     case ValueForm::Text:
-        return {dataType, XMLSanitize(textOf(reader, entry))};
+        value.text = XMLSanitize(textOf(reader, entry));
+        break;
     case ValueForm::RawText:
-        return undefinedValue(reader, entry);
+        readUndefined(reader, entry, value);
+        break;
     case ValueForm::Short:
-        return {dataType, joined(reader, entry, type->size, shortText)};
+        value.text = joined(reader, entry, type->size, shortText);
+        break;
     case ValueForm::Long:
-        return {dataType, joined(reader, entry, type->size, longText)};
+        value.text = joined(reader, entry, type->size, longText);
+        break;
     case ValueForm::Rational:
-        return {dataType, joined(reader, entry, type->size, rationalText)};
+        value.text = joined(reader, entry, type->size, rationalText);
+        break;
     case ValueForm::WideText:
         break; // of the document only: a file that has this number means another type, which is not read
     }
-    return {dataType, {}};
 }
 
 } // namespace ovisto

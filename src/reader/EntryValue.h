@@ -13,10 +13,8 @@ struct EntryValue {
     std::string text; ///< escaped where it needs to be
 };
 
-/// The data type that the document gives an entry, as far as the entry alone decides it.
-int entryDataType(const IfdEntry& entry);
-
-/// Reads the value of `entry`. Raises the errors of ByteReader.
-EntryValue entryValue(ByteReader& reader, const IfdEntry& entry);
+/// Reads the value of `entry` into `value`. Raises the errors of ByteReader; `value` then has the data type as far as
+/// it was known, and no text.
+void readEntryValue(ByteReader& reader, const IfdEntry& entry, EntryValue& value);
 
 } // namespace ovisto

@@ -147,8 +147,8 @@ void ExifDecoding::IFDScan(FilePos base, TiffOffset ifdOffset)
 /// A value that cannot be read is empty; the entry stays.
 void ExifDecoding::appendEntry(const IfdEntry& entry)
 {
-    EntryValue value{.dataType = entryDataType(entry), .text = {}};
-    m_errors.run([&] { value = entryValue(m_reader, entry); });
+    EntryValue value;
+    m_errors.run([&] { readEntryValue(m_reader, entry, value); });
     m_errors.run([&] { recordPointer(entry, value); });
     std::string openingTag = "<IFD";
     openingTag.append(xmlAtt("id", hexNumber(entry.tag, 4)))

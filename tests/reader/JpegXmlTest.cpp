@@ -135,6 +135,7 @@ TEST(JpegXml, RendersEachDataFormatByItsRule)
         {ExifBytes::raw(0x0001, 11, Bytes(4)), 11, ""},
         {ExifBytes::raw(0x0001, 129, bytes("utf")), 129, ""},
         {{0x0001, 1, 70000, bytes("long!")}, 1, ""},
+        {{0x9286, 7, 70000, bytes("\tlong")}, 1, ""},
     };
     for (const auto& c : cases)
         EXPECT_EQ(exifContent(ExifBytes().ifd0({c.tag}).payload()), ifd(c.tag.number, c.d, c.text));
@@ -168,6 +169,13 @@ TEST(JpegXml, ReadsDirectoriesAsFarAsTheyCanBeTrusted)
          ExifBytes().ifd0({}).exif({tiff.longs(0x927C, {8})}).ifd1({tiff.longs(0x0201, {8})}).payload(),
          ifd(0x8769, 4, "26") + "<IFDE d=\"2\">" + ifd(0x927C, 4, "8") + "</IFDE><IFD1 d=\"2\">" + ifd(0x0201, 4, "8") +
              "</IFD1>"},
+        {"the maker note of the last entry with an offset that can be",
+         ExifBytes()
+             .ifd0({})
+             .exif({{0x927C, 7, 3, tiff.number(56, 4)}, {0x927C, 7, 9, tiff.number(0xFFFFFFFF, 4)}})
+             .payload(),
+         ifd(0x8769, 4, "26") + "<IFDE d=\"2\">" + ifd(0x927C, 7, "56") + ifd(0x927C, 7, "4.294967E+09") +
+             "<MAKE d=\"1\">FFDA00</MAKE>\r\n</IFDE>"},
         {"a thumbnail in strips, from the first one on",
          ExifBytes().ifd0({}).ifd1({tiff.longs(0x0111, {52, 54}), tiff.shorts(0x0117, {2, 3})}).payload() +
              Bytes{1, 2, 3, 4, 5},
