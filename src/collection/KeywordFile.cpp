@@ -3,6 +3,8 @@
 #include "common/system/File.h"
 #include "common/text/CodePage.h"
 
+#include <array>
+#include <cstdint>
 #include <optional>
 
 namespace ovisto {
@@ -23,6 +25,16 @@ std::vector<std::string> linesOf(const std::string& text)
     return lines;
 }
 
+/// Appends the whole file; what was read before an error stays.
+void appendAll(std::string& content, const InputFile& file)
+{
+    std::array<std::uint8_t, 16 * 1024> piece{};
+    for (std::size_t count = piece.size(); count == piece.size();) {
+        count = file.readAt(static_cast<std::int64_t>(content.size()), piece);
+        content.append(reinterpret_cast<const char*>(piece.data()), count);
+    }
+}
+
 } // namespace
 
 void loadKeywords(const std::string& path, std::vector<std::string>& keywords, ErrorReporter& reporter)
@@ -32,10 +44,7 @@ void loadKeywords(const std::string& path, std::vector<std::string>& keywords, E
         return;
     std::string content;
     ErrorTrap trap; // what was read before an error counts
-    trap.run([&] {
-        content.resize(static_cast<std::size_t>(file->size()));
-        content.resize(file->readAt(0, {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
-    });
+    trap.run([&] { appendAll(content, *file); });
     keywords = linesOf(decodedText(content));
     reportPending(reporter, Phrase(Message::ReadFile, path), trap);
 }

@@ -1,9 +1,12 @@
 #include "collection/KeywordFile.h"
 #include "common/system/File.h"
 #include "common/system/TemporaryFile.h"
+#include "common/system/posix/SystemCalls.h"
 #include "support/RecordingReporter.h"
 
 #include <gtest/gtest.h>
+
+#include <cerrno>
 
 namespace ovisto::test {
 
@@ -37,6 +40,23 @@ TEST(KeywordFile, LeavesTheListWhenItCannotBeOpened)
     loadKeywords("/nowhere/keywords.txt", keywords, reporter);
     EXPECT_EQ(keywords, std::vector<std::string>{"old"});
     EXPECT_EQ(reporter.contexts, std::vector<std::string>{"Open File /nowhere/keywords.txt"});
+}
+
+TEST(KeywordFile, TakesNoMoreThanWasReadBeforeAnError)
+{
+    const TemporaryFile file;
+    writeTextFile(file.path(), "beach");
+    SystemCalls calls = systemCalls();
+    calls.pread = [](int, void*, std::size_t, off_t) {
+        errno = EIO;
+        return ssize_t{-1};
+    };
+    const ReplacedSystemCalls replaced(calls);
+    std::vector<std::string> keywords{"old"};
+    RecordingReporter reporter;
+    loadKeywords(file.path(), keywords, reporter);
+    EXPECT_EQ(keywords, std::vector<std::string>{""});
+    EXPECT_EQ(reporter.contexts, std::vector<std::string>{"Read File " + file.path()});
 }
 
 TEST(KeywordFile, SetsBlanksWhereTextStands)
