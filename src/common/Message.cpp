@@ -74,6 +74,7 @@ constexpr MessageText kTexts[] = {
     {Message::SegmentWriteString, QT_TRANSLATE_NOOP("Message", "Temp file write string")},
     {Message::SegmentLengthWrong,
      QT_TRANSLATE_NOOP("Message", "The segment would have %1 bytes, but its length says %2")},
+    {Message::ValueLengthWrong, QT_TRANSLATE_NOOP("Message", "The value would have %1 bytes instead of %2")},
     {Message::ExifLengthFailed, QT_TRANSLATE_NOOP("Message", "Exif section - calculate data length")},
     {Message::ExifOffsetsFailed, QT_TRANSLATE_NOOP("Message", "Exif Offset Calculation failed")},
     {Message::MakerNoteNotTiedUp,

@@ -60,6 +60,7 @@ enum class Message : std::uint8_t {
     SegmentWriteLong,
     SegmentWriteString,
     SegmentLengthWrong,
+    ValueLengthWrong,
     ExifLengthFailed,
     ExifOffsetsFailed,
     MakerNoteNotTiedUp,

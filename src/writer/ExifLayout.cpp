@@ -79,15 +79,6 @@ void countComponents(XmlNode exif)
     }
 }
 
-std::int64_t sizeOutside(const ConstXmlNode& entry)
-{
-    const int tag = tagOf(entry);
-    if (bytesCountedBy(tag) != nullptr || isFourByteTag(tag))
-        return kValueFieldSize;
-    const DataType* type = findDataType(dataTypeOf(entry));
-    return type != nullptr ? type->size * attributeToLong(AttributeGet(entry, "l")) : 0;
-}
-
 /// Lays out a directory, if it is there, and points at it what should; to 0 where it is not.
 void layOutDirectory(std::int64_t& pos, XmlNode exif, const ExifPart& part, ErrorReporter& reporter)
 {
@@ -151,6 +142,15 @@ std::int64_t layOutExif(XmlNode exif, ErrorReporter& reporter)
     return pos;
 }
 
+std::int64_t laidOutSize(const ConstXmlNode& entry)
+{
+    const int tag = tagOf(entry);
+    if (AttributeGet(entry, "s") == "1" || bytesCountedBy(tag) != nullptr || isFourByteTag(tag))
+        return kValueFieldSize;
+    const DataType* type = findDataType(dataTypeOf(entry));
+    return type != nullptr ? type->size * attributeToLong(AttributeGet(entry, "l")) : 0;
+}
+
 void CalcOffsets(std::int64_t& pos, XmlNode directory, ErrorReporter& reporter)
 {
     reported(reporter, Message::ExifOffsetsFailed, [&] {
@@ -161,7 +161,7 @@ void CalcOffsets(std::int64_t& pos, XmlNode directory, ErrorReporter& reporter)
             if (AttributeGet(entry, "s") != "0")
                 continue;
             AttributeSet(entry, "o", std::to_string(pos));
-            advance(pos, sizeOutside(entry));
+            advance(pos, laidOutSize(entry));
         }
     });
 }

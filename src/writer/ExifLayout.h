@@ -18,6 +18,9 @@ namespace ovisto {
 /// Lays out `exif`, an Exif element. Returns the size of its TIFF structure in bytes. Errors are reported and raised.
 std::int64_t layOutExif(XmlNode exif, ErrorReporter& reporter);
 
+/// Bytes that the value of a laid out entry has to have.
+std::int64_t laidOutSize(const ConstXmlNode& entry);
+
 /// Gives `directory` the offset `pos`, and each of its values outside theirs. Moves `pos` past all that. Reports and
 /// raises errors.
 void CalcOffsets(std::int64_t& pos, XmlNode directory, ErrorReporter& reporter);

@@ -70,13 +70,27 @@ constexpr ValueWriter kValueWriters[] = {
     {ValueForm::Rational, writeRationalValue},
 };
 
+/// Writes something that was laid out with `size` bytes. If it has more or fewer, what follows would not be where the
+/// directories say.
+template <class Write> void writeLaidOut(SegmentWriter& writer, std::int64_t size, Write write)
+{
+    const std::int64_t start = writer.written();
+    write();
+    const std::int64_t written = writer.written() - start;
+    if (written != size)
+        throw Error{kInvalidCall, {Message::ValueLengthWrong, std::to_string(written), std::to_string(size)}};
+}
+
 /// Writes the value of an entry. What cannot be written is reported with the value, and raised.
 void writeEntryValue(SegmentWriter& writer, const ConstXmlNode& entry, int dataType)
 {
     const std::string text = entry.text();
     reported(
         writer.reporter(), [&] { return Phrase(Message::ValueFailed, std::to_string(dataType), text); },
-        [&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
+        [&] {
+            writeLaidOut(writer, laidOutSize(entry),
+                         [&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
+        });
 }
 
 bool standsInside(const ConstXmlNode& entry)
@@ -89,7 +103,7 @@ void writePart(SegmentWriter& writer, const ExifPart& part, const ConstXmlNode& 
     if (part.kind == PartKind::Directory)
         WriteIFD(writer, node);
     else
-        writer.WriteHex(node.text());
+        writeLaidOut(writer, hexByteCount(node.text()), [&] { writer.WriteHex(node.text()); });
 }
 
 } // namespace
@@ -113,7 +127,6 @@ void WriteExif(SegmentWriter& writer, XmlNode exif)
             trap.run([&] { writePart(writer, part, node); });
     }
 
-    // A value that does not fill its entry, or is of a type that cannot be written, is shorter than it was laid out.
     if (!trap.pending())
         trap.run([&] { checkSegmentLength(length, writer.written() - start); });
     reportPending(writer.reporter(), Message::ExifWriteFailed, trap);

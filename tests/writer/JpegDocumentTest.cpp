@@ -207,9 +207,14 @@ TEST(WriteJpeg, LeavesTheOldFileAloneWhenAValueCannotBeWritten)
         {"<JPEG><APP0>" + std::string(131'070, '0') + "</APP0></JPEG>",
          kOverflow,
          {"Temp file write integer 65537", "~a.jpg write failed"}},
-        {exifDocument(ifd("0001", 1, "0102")), kInvalidCall, exifFailed}, // two bytes do not fill an entry
-        {exifDocument(ifd("0001", 1, "010203045")), kInvalidCall, exifFailed},
-        {exifDocument(ifd("0112", 3, "1") + ifd("0001", 12, "")), kInvalidCall, exifFailed},
+        // Two bytes do not fill an entry.
+        {exifDocument(ifd("0001", 1, "0102")), kInvalidCall, with({"Data format 1 error:0102"})},
+        // One byte too many and one too few: the segment has its length, but what is between has moved.
+        {exifDocument(ifd("C000", 1, "010203040") + ifd("C001", 1, "010203")), kInvalidCall,
+         with({"Data format 1 error:010203040"})},
+        {exifDocument("<IFDE><MAKE>0102030405060</MAKE></IFDE><IFD1><THUM>01020</THUM></IFD1>"), kInvalidCall,
+         exifFailed},
+        {exifDocument(ifd("0112", 3, "1") + ifd("0001", 12, "")), kInvalidCall, with({"Data format 12 error:"})},
         {"<JPEG><APP1 id='FFFE'>Hello</APP1></JPEG>", kInvalidCall, {"~a.jpg write failed"}},
         {"<JPEG><IMG offset='9' length='2'/><IMG offset='1' length='1'/></JPEG>",
          kInvalidCall,
