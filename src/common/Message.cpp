@@ -66,6 +66,8 @@ constexpr MessageText kTexts[] = {
     {Message::TextHasCdataEnd, QT_TRANSLATE_NOOP("Message", "The text has \"]]>\", which could not be read back")},
     {Message::TextHasControl,
      QT_TRANSLATE_NOOP("Message", "The text has a control character that could not be read back")},
+    {Message::TextHasElements,
+     QT_TRANSLATE_NOOP("Message", "The text has elements, which must stand in a CDATA section to be kept")},
     {Message::MoreThanOneImage, QT_TRANSLATE_NOOP("Message", "The document has more than one IMG element")},
     {Message::FileWasChanged, QT_TRANSLATE_NOOP("Message", "The file was changed after it was read")},
     {Message::SegmentWriteFailed, QT_TRANSLATE_NOOP("Message", "Temp file write failed")},

@@ -53,6 +53,7 @@ enum class Message : std::uint8_t {
     RenameFile,
     TextHasCdataEnd,
     TextHasControl,
+    TextHasElements,
     MoreThanOneImage,
     FileWasChanged,
     SegmentWriteFailed,

@@ -7,6 +7,7 @@
 #include "document/DataType.h"
 #include "document/NodePath.h"
 #include "document/TagNumbers.h"
+#include "writer/PlainSegment.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -136,7 +137,7 @@ std::string wholeText(const ConstXmlNode& element)
         text.append("\n").append(AttributeGet(element, attribute));
     const std::vector<ConstXmlNode> children = element.childElements();
     if (children.empty())
-        return text.append("\n").append(element.text());
+        return text.append("\n").append(element.name() == "Exif1" ? app1Text(element) : element.text());
     for (const ConstXmlNode& child : children)
         text.append("\n").append(wholeText(child));
     return text;

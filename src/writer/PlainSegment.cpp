@@ -67,15 +67,15 @@ void writePlainSegment(SegmentWriter& writer, const ConstXmlNode& element)
 
 std::string app1Text(const ConstXmlNode& element)
 {
-    std::string text;
-    bool hasCData = false;
-    for (const ConstXmlNode& child : element.children()) {
-        if (!child.isCData())
-            continue;
-        hasCData = true;
-        text += child.text();
-    }
-    return hasCData ? text : element.text();
+    if (!element.childElements().empty())
+        throw Error{kInvalidCall, Message::TextHasElements};
+    std::string text = element.text();
+    const std::vector<ConstXmlNode> children = element.children();
+    const bool mayHaveLayout = !children.empty() && !children.front().isCData();
+    const std::size_t lineBreak = text.starts_with("\r\n") ? 2 : text.starts_with('\n') ? 1 : 0;
+    if (mayHaveLayout)
+        text.erase(0, lineBreak);
+    return text;
 }
 
 } // namespace ovisto

@@ -1,3 +1,4 @@
+#include "collection/DocumentSaving.h"
 #include "document/MetadataDocument.h"
 #include "document/TagDictionary.h"
 #include "support/JpegBytes.h"
@@ -90,6 +91,37 @@ TEST(WriteJpeg, WritesOtherApp1SegmentsWithTheLengthThatTheySay)
             const std::size_t length = 256 * written.file[4] + written.file[5];
             EXPECT_EQ(length, ns.size() + text.size() + 4);
             EXPECT_EQ(written.file.size(), 2 + 2 + length + 3 + 2) << "nothing more, or the next marker is lost";
+        }
+    }
+}
+
+TEST(WriteJpeg, WritesAllTextOfOtherApp1SegmentsButTheLineBreakOfTheLayout)
+{
+    const struct {
+        const char* content;
+        std::string text;
+        int error = 0;
+    } cases[] = {
+        {"\r\n<![CDATA[<x/>]]>", "<x/>"},
+        {"\r\nx", "x"},
+        {"<![CDATA[\nx]]>", "\nx"},
+        {"\n\n<![CDATA[x]]>", "\nx"},
+        {"a<![CDATA[b]]>c<!-- a note --><![CDATA[d]]>\n", "abcd\n"},
+        {"\n<x>1</x>", "", kInvalidCall},
+    };
+    for (const auto& c : cases) {
+        for (const WritingWay way : {WritingWay::Rebuild, WritingWay::Keep}) {
+            const TemporaryFolder folder;
+            const std::string path = folder.file("a.jpg", fullPhotograph(true));
+            std::string text = JpegXml().XMLtranslate(path).text;
+            const std::string old = "\r\n<![CDATA[<x:xmpmeta/>]]>";
+            text.replace(text.find(old), old.size(), c.content);
+            XmlDocument document = documentOf(text);
+            RecordingReporter reporter;
+            EXPECT_EQ(errorNumberOf([&] { saveDocument(document, path, way, reporter); }), c.error) << c.content;
+            const std::string written = c.error == 0 ? c.text : "<x:xmpmeta/>";
+            EXPECT_NE(JpegXml().XMLtranslate(path).text.find("<![CDATA[" + written + "]]>"), std::string::npos)
+                << c.content;
         }
     }
 }
