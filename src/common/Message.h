@@ -24,6 +24,7 @@ enum class Message : std::uint8_t {
     PathNotFound,
     ObjectNotSet,
     UnexpectedError,
+    Interrupted,
     // Regular expressions
     NotARegularExpression,
     ExpressionRunsTooLong,
@@ -33,6 +34,13 @@ enum class Message : std::uint8_t {
     NotAPath,
     DocumentTypeNotLoaded,
     ContentDoesNotMatch,
+    EntityNotDeclared,
+    EntityOutside,
+    EntityNotRead,
+    EntitiesTooLarge,
+    IncludesOther,
+    ElementsTooDeep,
+    FileNotForStyleSheets,
     StyleSheetNotApplied,
     StyleSheetTooLarge,
     // Reading

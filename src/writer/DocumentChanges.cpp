@@ -1,6 +1,7 @@
 #include "writer/DocumentChanges.h"
 
 #include "common/Error.h"
+#include "common/system/Interruption.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
 #include "common/text/Splitting.h"
@@ -19,6 +20,9 @@
 namespace ovisto {
 
 namespace {
+
+/// An Exif segment has no room for more.
+constexpr std::size_t kMostEntries = 65'535 / 12;
 
 /// What is compared of an element: whether it says the same, and whether it could have become another one.
 struct Identity {
@@ -130,8 +134,9 @@ private:
 };
 
 /// All that a saved document says of an element and those below it.
-std::string wholeText(const ConstXmlNode& element)
+std::string wholeText(const ConstXmlNode& element, LongLoop& elements)
 {
+    elements.step();
     std::string text = element.name();
     for (const char* attribute : {"id", "ns", "d"})
         text.append("\n").append(AttributeGet(element, attribute));
@@ -139,15 +144,16 @@ std::string wholeText(const ConstXmlNode& element)
     if (children.empty())
         return text.append("\n").append(element.name() == "Exif1" ? app1Text(element) : element.text());
     for (const ConstXmlNode& child : children)
-        text.append("\n").append(wholeText(child));
+        text.append("\n").append(wholeText(child, elements));
     return text;
 }
 
 Identities segmentIdentities(const std::vector<ConstXmlNode>& segments)
 {
     Identities identities;
+    LongLoop elements;
     for (const ConstXmlNode& segment : segments) {
-        identities.push_back({wholeText(segment), segment.name() + "\n" + AttributeGet(segment, "id")});
+        identities.push_back({wholeText(segment, elements), segment.name() + "\n" + AttributeGet(segment, "id")});
     }
     return identities;
 }
@@ -286,6 +292,8 @@ std::vector<PartChange> partChanges(const ConstXmlNode& exifBefore, const ConstX
             continue;
         change.entriesBefore = change.before.childElements("IFD");
         change.entriesAfter = change.after.childElements("IFD");
+        if (change.entriesAfter.size() > kMostEntries)
+            throw Error{kOverflow, Message::SegmentTooLong};
         const Identities before = entryIdentities(change.entriesBefore, parts);
         const Identities after = entryIdentities(change.entriesAfter, parts);
         change.entries = Pairing(before, after).pairs();

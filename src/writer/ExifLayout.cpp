@@ -1,5 +1,6 @@
 #include "writer/ExifLayout.h"
 
+#include "common/system/Interruption.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
 #include "common/text/Unicode.h"
@@ -58,7 +59,9 @@ void advance(std::int64_t& pos, std::int64_t bytes)
 void countComponents(XmlNode exif)
 {
     std::string inside = "0"; // an entry of an unknown type takes over that of the one before
+    LongLoop entries;
     for (XmlNode entry : exif.descendants("IFD")) {
+        entries.step();
         const int tag = tagOf(entry);
         const std::string text = entry.text();
         std::int64_t count = 0;

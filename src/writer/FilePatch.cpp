@@ -1,5 +1,6 @@
 #include "writer/FilePatch.h"
 
+#include "common/system/Interruption.h"
 #include "common/text/CodePage.h"
 #include "document/NodePath.h"
 #include "jpeg/Markers.h"
@@ -69,7 +70,9 @@ public:
     {
         constexpr std::int64_t kStartOfImageSize = 2;
         copy(0, kStartOfImageSize);
+        LongLoop segments;
         for (const DocumentPair& pair : segmentPairs(m_before, m_after)) {
+            segments.step();
             if (!pair.isDeleted())
                 writeSegment(pair);
         }

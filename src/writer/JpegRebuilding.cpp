@@ -1,5 +1,6 @@
 #include "writer/JpegRebuilding.h"
 
+#include "common/system/Interruption.h"
 #include "common/text/NumberText.h"
 #include "document/Directories.h"
 #include "document/NodePath.h"
@@ -40,7 +41,9 @@ void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& t
 void writeSegments(XmlDocument& document, OutputFile& file, ErrorReporter& reporter)
 {
     SegmentWriter writer(file, reporter);
+    LongLoop segments;
     for (const XmlNode& element : document.node().childElement("JPEG").childElements()) {
+        segments.step();
         writer.IntelOrder = false;
         if (element.name() == kFirstDirectory)
             WriteExif(writer, element);

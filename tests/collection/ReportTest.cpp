@@ -202,6 +202,77 @@ TEST(XmlTransform, WritesNoFilesAndReachesNoNetwork)
     EXPECT_FALSE(fs::exists(target));
 }
 
+TEST(XmlTransform, ReadsNoFilesButBelowItsFolder)
+{
+    const TemporaryFolder folder;
+    fs::create_directories(folder.path("styles/sub"));
+    fs::create_directories(folder.path("allowed"));
+    const std::string secret = folder.file("secret.xml", "<x>secret</x>");
+    const std::string allowed = folder.file("allowed/x.xml", "<x>allowed</x>");
+    const std::string imported = textStyle("<xsl:value-of select=\"document('/')\"/>secret");
+    folder.file("import.xsl", imported);
+    folder.file("styles/sub/x.xml", "<x>own</x>");
+    folder.file("styles/sub/entity.xml", "<!DOCTYPE x [<!ENTITY s SYSTEM '" + secret + "'>]><x>&s;</x>");
+    folder.file("styles/sub/type.xml", "<!DOCTYPE x SYSTEM '" + secret + "'><x>own</x>");
+    fs::create_symlink(secret, folder.path("styles/link.xml"));
+    fs::create_directory_symlink(folder.path(""), folder.path("styles/up"));
+    const auto document = [](const std::string& address) {
+        return textStyle("<xsl:value-of select=\"concat(document('" + address + "'), '!')\"/>");
+    };
+    const auto entity = [](const std::string& address) {
+        return "<!DOCTYPE x [<!ENTITY s SYSTEM '" + address + "'>]>" + textStyle("&s;!");
+    };
+    const auto parameter = [](const std::string& address) {
+        return "<!DOCTYPE x [<!ENTITY % s SYSTEM '" + address + "'> %s;]>" + textStyle("!");
+    };
+    const struct {
+        std::string style;
+        const char* text; // none: it is refused
+        const char* reason = "may not read";
+    } cases[] = {
+        {document("sub/x.xml"), "own!"},
+        {document(folder.path("styles/sub/../sub/x.xml")), "own!"},
+        {document("file://" + folder.path("styles/sub/x.xml")), "own!"},
+        {document("sub/none.xml"), "!"},
+        {document("sub/type.xml"), "own!"},
+        {document(allowed), "allowed!"},
+        {entity("sub/x.xml"), "own!"},
+        {document("../secret.xml"), nullptr},
+        {document("..%2Fsecret.xml"), nullptr},
+        {document("sub/../../secret.xml"), nullptr},
+        {document(secret), nullptr},
+        {document("file://" + secret), nullptr},
+        {document("link.xml"), nullptr},
+        {document("up/secret.xml"), nullptr},
+        {document("sub/entity.xml"), nullptr},
+        {document("http://127.0.0.1:9/x.xml"), nullptr, "Network file read"},
+        {entity(secret), nullptr},
+        {entity("link.xml"), nullptr},
+        {parameter(secret), nullptr},
+        {styleSheet("<xsl:import href='../import.xsl'/>"), nullptr},
+        {styleSheet("<xsl:include href='up/import.xsl'/>"), nullptr},
+    };
+    for (const auto& c : cases) {
+        XmlDocument style;
+        XmlDocument data;
+        Transformation result;
+        EXPECT_FALSE(data.loadText("<a/>"));
+        ErrorTrap trap;
+        trap.run([&] {
+            loadStyleSheet(style, folder.file("styles/a.xsl", c.style), FileKind::Regular, {folder.path("allowed")});
+            result = transformNode(data, std::move(style), TextEncoding::Utf8);
+            if (result.error)
+                throw Error(*result.error);
+        });
+        EXPECT_EQ(result.bytes.find("secret"), std::string::npos) << c.style;
+        const std::string reason = trap.pending() ? inEnglish(trap.take().description) : "";
+        if (c.text != nullptr)
+            EXPECT_EQ(result.bytes + reason, c.text) << c.style;
+        else
+            EXPECT_NE(reason.find(c.reason), std::string::npos) << c.style << reason;
+    }
+}
+
 TEST(XmlTransform, WaitsForNoPipe)
 {
     const TemporaryFolder folder;
@@ -211,8 +282,8 @@ TEST(XmlTransform, WaitsForNoPipe)
         const char* text;
     } cases[] = {
         {textStyle("<xsl:value-of select=\"concat(document('pipe'), 'read')\"/>"), "read"},
-        {"<!DOCTYPE x [<!ENTITY pipe SYSTEM 'pipe'>]>" + textStyle("&pipe;read"), "read"},
-        {"<!DOCTYPE x [<!ENTITY % pipe SYSTEM 'pipe'> %pipe;]>" + textStyle("read"), "read"},
+        {"<!DOCTYPE x [<!ENTITY pipe SYSTEM 'pipe'>]>" + textStyle("&pipe;read"), ""},
+        {"<!DOCTYPE x [<!ENTITY % pipe SYSTEM 'pipe'> %pipe;]>" + textStyle("read"), ""},
         {styleSheet("<xsl:import href='pipe'/>"), ""},
         {"<!DOCTYPE x SYSTEM 'pipe'>" + textStyle("read"), ""},
     };

@@ -2,6 +2,7 @@
 
 #include "common/Error.h"
 #include "common/system/File.h"
+#include "common/xml/XmlGuard.h"
 #include "common/xml/XmlPointer.h"
 #include "common/xml/XmlSetup.h"
 
@@ -20,14 +21,16 @@ struct XmlDocument::Content {
     XmlPtr<xmlDoc> doc;
     DetachedNodes detached; // after the document, as their names live in its dictionary
     bool declaration = false;
+    ReadableFolders readable;
 
     explicit Content(xmlDoc* loaded) : doc(loaded) { doc->_private = &detached; }
 };
 
 namespace {
 
-// Nothing outside the document itself is brought in: no network, no external entities.
-constexpr int kParseOptions = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_BIG_LINES;
+// Entities are replaced by their texts where they are used: what is not in the document cannot grow later on.
+constexpr int kParseOptions =
+    XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_BIG_LINES;
 
 /// The line (the first is 1) of a text that has no line breaks but LF and CR LF.
 std::string_view lineOf(std::string_view text, std::int64_t line)
@@ -138,17 +141,42 @@ std::size_t nodeMemory(std::string_view text)
     return memory;
 }
 
+/// What the nodes of a text of `size` bytes may take.
+constexpr std::size_t mostNodeMemory(std::size_t size)
+{
+    return kNodeMemoryFree + size;
+}
+
 /// Whether the nodes of `text` may take more memory than is in proportion to it. A short text need not be looked at.
 bool takesTooMuchMemory(std::string_view text)
 {
     const bool isShort = text.size() * std::max(kPerTag, kPerAttribute) <= kNodeMemoryFree;
-    return !isShort && nodeMemory(text) > kNodeMemoryFree + text.size();
+    return !isShort && nodeMemory(text) > mostNodeMemory(text.size());
+}
+
+/// What a document that declares entities may take, with all that it says.
+constexpr std::size_t mostMemory(std::size_t size)
+{
+    return mostNodeMemory(size) + size;
 }
 
 /// An error of the document as a whole.
 XmlParseError documentError(int code, const Phrase& reason)
 {
     return {.code = code, .reason = reason, .line = 0, .linepos = 0, .srcText = {}};
+}
+
+/// Why there is no document, or not the one that was meant. `source`: the text, as far as it is needed for the place.
+template <class Source>
+std::optional<XmlParseError> parseFailure(const xmlParserCtxt& context, const ParseGuard& guard, const xmlDoc* doc,
+                                          Source source)
+{
+    auto refusal = guard.refusal();
+    if (refusal)
+        refusal->srcText = lineOf(source(), refusal->line);
+    if (refusal || doc != nullptr)
+        return refusal;
+    return parseError(context.lastError, source());
 }
 
 /// Holds the document type that `doc` declares, if it does, against its content.
@@ -190,11 +218,13 @@ std::optional<XmlParseError> XmlDocument::loadText(std::string_view text)
     // Only without its limits does the parser take a long run of digits for one text, but also any depth of nesting.
     const bool mayHoldLongText = text.size() > XML_MAX_TEXT_LENGTH;
     std::string_view rest = text;
-    xmlDoc* doc = xmlCtxtReadIO(context.get(), readText, nullptr, &rest, nullptr, "UTF-8",
-                                kParseOptions | (mayHoldLongText ? XML_PARSE_HUGE : 0));
-    if (doc == nullptr)
-        return parseError(context->lastError, text);
-    m_content = std::make_unique<Content>(doc);
+    ParseGuard guard(*context);
+    guard.limitMemory(mostMemory(text.size()));
+    XmlPtr<xmlDoc> doc(xmlCtxtReadIO(context.get(), readText, nullptr, &rest, nullptr, "UTF-8",
+                                     kParseOptions | (mayHoldLongText ? XML_PARSE_HUGE : 0)));
+    if (auto error = parseFailure(*context, guard, doc.get(), [&] { return text; }))
+        return error;
+    m_content = std::make_unique<Content>(doc.release());
     return std::nullopt;
 }
 
@@ -213,25 +243,26 @@ std::optional<XmlParseError> XmlDocument::loadFile(const std::string& path, Vali
                         (whiteSpace == WhiteSpace::Strip ? XML_PARSE_NOBLANKS | XML_PARSE_COMPACT : 0) |
                         (source->file.size() > XML_MAX_TEXT_LENGTH ? XML_PARSE_HUGE : 0);
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
-    allowLocalFilesOnly(*context);
+    ParseGuard guard(*context);
+    guard.limitMemory(mostMemory(static_cast<std::size_t>(source->file.size())));
     const XmlPtr<xmlChar> uri(xmlPathToURI(xmlText(path.c_str())));
-    xmlDoc* doc =
-        xmlCtxtReadIO(context.get(), readSource, nullptr, &*source, toString(uri.get()).c_str(), nullptr, options);
-    auto content = doc != nullptr ? std::make_unique<Content>(doc) : nullptr;
+    XmlPtr<xmlDoc> doc(
+        xmlCtxtReadIO(context.get(), readSource, nullptr, &*source, toString(uri.get()).c_str(), nullptr, options));
     if (source->trap.pending())
         return parseError(source->trap.take());
-    if (doc == nullptr)
-        return parseError(context->lastError, source->text());
-    content->declaration = doc->standalone != kNoDeclaration;
+    if (auto error = parseFailure(*context, guard, doc.get(), [&] { return source->text(); }))
+        return error;
     if (validation == Validation::On && declaresElements(*doc)) {
-        if (auto error = validate(doc, source->text()))
+        if (auto error = validate(doc.get(), source->text()))
             return error;
     }
-    m_content = std::move(content);
+    m_content = std::make_unique<Content>(doc.release());
+    m_content->declaration = m_content->doc->standalone != kNoDeclaration;
     return std::nullopt;
 }
 
-std::optional<XmlParseError> XmlDocument::loadStyleSheet(const std::string& path, FileKind kind)
+std::optional<XmlParseError> XmlDocument::loadStyleSheet(const std::string& path, FileKind kind,
+                                                         const std::vector<std::string>& readable)
 {
     m_content.reset();
     initialiseXml();
@@ -241,19 +272,23 @@ std::optional<XmlParseError> XmlDocument::loadStyleSheet(const std::string& path
     if (trap.pending())
         return parseError(trap.take());
     const XmlPtr<xmlParserCtxt> context(xmlNewParserCtxt());
-    allowLocalFilesOnly(*context);
+    ReadableFolders folders(path, readable);
+    ParseGuard guard(*context, folders);
+    guard.limitMemory(mostMemory(text.size()));
     const XmlPtr<xmlChar> uri(xmlPathToURI(xmlText(path.c_str())));
     std::string_view rest = text;
-    xmlDoc* doc = xmlCtxtReadIO(context.get(), readText, nullptr, &rest, toString(uri.get()).c_str(), nullptr,
-                                kParseOptions | XSLT_PARSE_OPTIONS);
-    if (doc == nullptr)
-        return parseError(context->lastError, text);
-    auto content = std::make_unique<Content>(doc);
+    XmlPtr<xmlDoc> doc(xmlCtxtReadIO(context.get(), readText, nullptr, &rest, toString(uri.get()).c_str(), nullptr,
+                                     kParseOptions | XSLT_PARSE_OPTIONS));
+    if (auto error = parseFailure(*context, guard, doc.get(), [&] { return text; }))
+        return error;
+    if (!guard.missing().empty())
+        return documentError(XML_ERR_UNDECLARED_ENTITY, {Message::EntityNotRead, guard.missing()});
     if (declaresElements(*doc)) {
-        if (auto error = validate(doc, text))
+        if (auto error = validate(doc.get(), text))
             return error;
     }
-    m_content = std::move(content);
+    m_content = std::make_unique<Content>(doc.release());
+    m_content->readable = std::move(folders);
     return std::nullopt;
 }
 
@@ -275,6 +310,12 @@ XmlNode XmlDocument::documentElement()
 ConstXmlNode XmlDocument::documentElement() const
 {
     return ConstXmlNode(m_content ? xmlDocGetRootElement(m_content->doc.get()) : nullptr);
+}
+
+const ReadableFolders& XmlDocument::readableFolders() const
+{
+    static const ReadableFolders none;
+    return m_content ? m_content->readable : none;
 }
 
 std::string XmlDocument::xml() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/system/File.h"
+#include "common/xml/ReadableFolders.h"
 #include "common/xml/XmlNode.h"
 
 #include <cstdint>
@@ -26,9 +27,9 @@ enum class Validation { Off, On };
 /// Whether white space between elements counts as text.
 enum class WhiteSpace { Preserve, Strip };
 
-/// An XML document in memory. The nodes of a const one can only be read. External entities are read for style sheets
-/// only, and nothing is fetched from a network; what a document type declaration names is read from regular local files
-/// where validation asks for it.
+/// An XML document in memory. The nodes of a const one can only be read. Its entities are replaced by their texts.
+/// Those that are declared or stand elsewhere are read for style sheets only, and nothing is fetched from a network;
+/// what a document type declaration names is read from regular local files where validation asks for it.
 class XmlDocument {
 public:
     XmlDocument();
@@ -37,15 +38,21 @@ public:
     ~XmlDocument();
 
     /// Replaces the content by the document in `text` (UTF-8), preserving white space and CDATA sections. On failure
-    /// the document is empty. A text with so many nodes that they would need far more memory than the text also fails.
+    /// the document is empty. A text with so many nodes or entities that they would need far more memory than the text
+    /// also fails, and one that uses an entity which it does not declare or includes another document.
     std::optional<XmlParseError> loadText(std::string_view text);
 
     /// The same for a file, in whatever encoding it declares, including UTF-16. Strip white space only from a document
     /// that is not written again.
     std::optional<XmlParseError> loadFile(const std::string& path, Validation validation, WhiteSpace whiteSpace);
 
-    /// The same for a style sheet for transformNode(): it is validated, and its entities are replaced by their texts.
-    std::optional<XmlParseError> loadStyleSheet(const std::string& path, FileKind kind);
+    /// The same for a style sheet for transformNode(). It is validated. What it brings in has to be below its own
+    /// folder or one of `readable`.
+    std::optional<XmlParseError> loadStyleSheet(const std::string& path, FileKind kind,
+                                                const std::vector<std::string>& readable);
+
+    /// Where a style sheet may read files from.
+    const ReadableFolders& readableFolders() const;
 
     /// The document node, above the root element; no node if nothing is loaded.
     XmlNode node();

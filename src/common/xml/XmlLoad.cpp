@@ -36,9 +36,10 @@ void XMLLoad(XmlDocument& document, const std::string& source)
     raise(source, document.loadFile(source, Validation::On, WhiteSpace::Strip));
 }
 
-void loadStyleSheet(XmlDocument& document, const std::string& source, FileKind kind)
+void loadStyleSheet(XmlDocument& document, const std::string& source, FileKind kind,
+                    const std::vector<std::string>& readable)
 {
-    raise(source, document.loadStyleSheet(source, kind));
+    raise(source, document.loadStyleSheet(source, kind, readable));
 }
 
 Phrase parseErrorText(const XmlParseError& error)

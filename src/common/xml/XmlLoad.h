@@ -3,6 +3,7 @@
 #include "common/xml/XmlDocument.h"
 
 #include <string>
+#include <vector>
 
 namespace ovisto {
 
@@ -11,9 +12,10 @@ namespace ovisto {
 /// the source text up to the position; `document` is then empty.
 void XMLLoad(XmlDocument& document, const std::string& source);
 
-/// The same for a style sheet for transformNode(). It is read once, so it may be a pipe if `kind` allows that; what it
-/// imports by relative names must then be in the folder of the pipe.
-void loadStyleSheet(XmlDocument& document, const std::string& source, FileKind kind);
+/// The same for a style sheet for transformNode(). It is read once, so it may be a pipe if `kind` allows that. It may
+/// read files below its own folder, which a pipe has none of, and below those of `readable`.
+void loadStyleSheet(XmlDocument& document, const std::string& source, FileKind kind,
+                    const std::vector<std::string>& readable = {});
 
 /// The message for a metadata document that cannot be parsed.
 Phrase parseErrorText(const XmlParseError& error);

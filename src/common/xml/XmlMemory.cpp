@@ -80,19 +80,26 @@ bool XmlMemoryLimit::isExceeded()
     return threadLimit != nullptr && threadLimit->wasExceeded();
 }
 
-bool XmlMemoryLimit::allows(std::size_t size) const
+bool XmlMemoryLimit::allows(std::size_t size)
 {
     // The library lives well without a long text, not so well without a small piece. Those are refused only to a single
     // step that takes them without an end.
     constexpr std::size_t kMuch = std::size_t{64} * 1024;
-    return m_used + static_cast<std::int64_t>(size) <= (size < kMuch ? 3 : 2) * m_limit;
+    const bool isAllowed = m_used + static_cast<std::int64_t>(size) <= (size < kMuch ? 3 : 2) * m_limit;
+    if (!isAllowed)
+        exceed();
+    return isAllowed;
 }
 
 void XmlMemoryLimit::add(std::size_t size)
 {
     m_used += static_cast<std::int64_t>(size);
-    if (m_used <= m_limit)
-        return;
+    if (m_used > m_limit)
+        exceed();
+}
+
+void XmlMemoryLimit::exceed()
+{
     m_wasExceeded = true;
     m_stop();
 }

@@ -25,11 +25,13 @@ public:
     static bool isExceeded();
 
     /// For the allocation functions.
-    bool allows(std::size_t size) const;
+    bool allows(std::size_t size);
     void add(std::size_t size);
     void subtract(std::size_t size) { m_used -= static_cast<std::int64_t>(size); }
 
 private:
+    void exceed();
+
     std::int64_t m_limit;
     std::function<void()> m_stop;
     std::int64_t m_used = 0; // negative if memory was freed that had been allocated before

@@ -1,6 +1,7 @@
 #include "common/xml/XmlNode.h"
 
 #include "common/Error.h"
+#include "common/system/Interruption.h"
 #include "common/xml/XmlPointer.h"
 
 #include <libxml/xpathInternals.h>
@@ -128,7 +129,9 @@ xmlNode* firstElementBelow(const xmlNode* node, std::string_view name)
 template <class Node> std::vector<Node> allElementsBelow(const xmlNode* top, std::string_view name)
 {
     std::vector<Node> elements;
+    LongLoop nodes;
     for (xmlNode* node = top != nullptr ? top->children : nullptr; node != nullptr; node = nextBelow(node, top)) {
+        nodes.step();
         if (isNamed(node, name))
             elements.emplace_back(node);
     }
@@ -149,9 +152,12 @@ template <class Node> std::vector<Node> selectedNodes(xmlNode* from, const std::
 {
     if (from == nullptr)
         return {};
+    constexpr unsigned long kMostSteps = 100'000'000; // a path that looks at each node once more for each one
     xmlXPathContext& context = threadContext();
     context.doc = from->doc;
     context.node = from;
+    context.opLimit = kMostSteps;
+    context.opCount = 0;
     const XmlPtr<xmlXPathObject> found(xmlXPathEval(xmlText(xpath.c_str()), &context));
     if (!found || found->type != XPATH_NODESET)
         throw Error{kInvalidCall, {Message::NotAPath, xpath}};

@@ -2,6 +2,7 @@
 
 #include "common/Error.h"
 #include "common/system/File.h"
+#include "common/xml/XmlGuard.h"
 #include "common/xml/XmlMemory.h"
 #include "common/xml/XmlPointer.h"
 
@@ -15,9 +16,6 @@
 namespace ovisto {
 
 namespace {
-
-/// Its address marks the contexts that read local files only. Those of their entities inherit it.
-char localFilesOnly = 0;
 
 xmlExternalEntityLoader usualLoader = nullptr; ///< for the contexts of others in the program
 
@@ -62,14 +60,18 @@ std::string localPath(std::string_view address)
 
 xmlParserInput* load(const char* address, const char* identifier, xmlParserCtxt* context)
 {
-    if (context == nullptr || context->_private != &localFilesOnly)
+    ParseGuard* guard = ParseGuard::of(context);
+    if (guard == nullptr)
         return usualLoader(address, identifier, context);
     std::unique_ptr<OpenFile> file;
     ErrorTrap trap;
-    if (address != nullptr)
-        trap.run([&] { file = std::make_unique<OpenFile>(localPath(address)); });
-    if (!file)
+    const std::string path = address != nullptr ? localPath(address) : std::string();
+    if (guard->allows(path, *context))
+        trap.run([&] { file = std::make_unique<OpenFile>(path); });
+    if (!file) {
+        guard->miss(path, *context);
         return nullptr;
+    }
     xmlParserInputBuffer* buffer =
         xmlParserInputBufferCreateIO(readFile, closeFile, file.release(), XML_CHAR_ENCODING_NONE);
     xmlParserInput* input = xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE);
@@ -89,11 +91,6 @@ void initialiseXml()
         usualLoader = xmlGetExternalEntityLoader();
         xmlSetExternalEntityLoader(load);
     });
-}
-
-void allowLocalFilesOnly(xmlParserCtxt& context)
-{
-    context._private = &localFilesOnly;
 }
 
 } // namespace ovisto

@@ -1,5 +1,6 @@
 #include "common/xml/XmlTransform.h"
 
+#include "common/xml/XmlGuard.h"
 #include "common/xml/XmlMemory.h"
 #include "common/xml/XmlPointer.h"
 #include "common/xml/XmlSetup.h"
@@ -48,19 +49,63 @@ constexpr std::size_t kMemoryPerByte = 4;       // of the texts
 constexpr int kMostImports = 10'000;
 thread_local int importsLeft = 0;
 
-/// All that style sheets load, and themselves, comes from local files.
+/// What a running transformation may read, and why it was stopped.
+struct Reading {
+    explicit Reading(const ReadableFolders& readable);
+    Reading(const Reading&) = delete;
+    Reading& operator=(const Reading&) = delete;
+    ~Reading();
+
+    const ReadableFolders& folders;
+    xsltTransformContext* transformation = nullptr; ///< null while the style sheet is compiled
+    std::optional<Phrase> refusal = std::nullopt;
+};
+
+thread_local Reading* threadReading = nullptr;
+
+Reading::Reading(const ReadableFolders& readable) : folders(readable)
+{
+    threadReading = this;
+}
+
+Reading::~Reading()
+{
+    threadReading = nullptr;
+}
+
+/// Ends a transformation that has begun, and the path that it is at, with their next step.
+void stop(xsltTransformContext* context)
+{
+    if (context == nullptr)
+        return;
+    context->state = XSLT_STATE_STOPPED;
+    context->xpathCtxt->opLimit = 1;
+}
+
+/// All that style sheets load comes from the folders that they may read. What is not there counts as empty; what they
+/// may not read ends them.
 xmlDoc* loadLocal(const xmlChar* uri, xmlDict* dictionary, int options, void* /*context*/, xsltLoadType type)
 {
-    if (XmlMemoryLimit::isExceeded() || (type == XSLT_LOAD_STYLESHEET && importsLeft-- <= 0))
+    if (threadReading == nullptr || threadReading->refusal || XmlMemoryLimit::isExceeded() ||
+        (type == XSLT_LOAD_STYLESHEET && importsLeft-- <= 0))
         return nullptr;
     const XmlPtr<xmlParserCtxt> parser(xmlNewParserCtxt());
-    allowLocalFilesOnly(*parser);
+    ParseGuard guard(*parser, threadReading->folders);
     if (dictionary != nullptr) {
         xmlDictFree(parser->dict);
         parser->dict = dictionary;
         xmlDictReference(dictionary);
     }
-    return xmlCtxtReadFile(parser.get(), reinterpret_cast<const char*>(uri), nullptr, options | XML_PARSE_NONET);
+    XmlPtr<xmlDoc> doc(
+        xmlCtxtReadFile(parser.get(), reinterpret_cast<const char*>(uri), nullptr, options | XML_PARSE_NONET));
+    if (const auto refusal = guard.refusal())
+        threadReading->refusal = refusal->reason;
+    else if (doc && !guard.missing().empty())
+        threadReading->refusal = {Message::EntityNotRead, guard.missing()};
+    if (!threadReading->refusal)
+        return doc.release();
+    stop(threadReading->transformation);
+    return nullptr;
 }
 
 xsltSecurityPrefs* securityPreferences()
@@ -168,15 +213,6 @@ std::size_t textSize(const xmlDoc* doc)
     return size;
 }
 
-/// Ends a transformation that has begun, and the path that it is at, with their next step.
-void stop(xsltTransformContext* context)
-{
-    if (context == nullptr)
-        return;
-    context->state = XSLT_STATE_STOPPED;
-    context->xpathCtxt->opLimit = 1;
-}
-
 Error tooMuchMemory()
 {
     return {kOutOfMemory, Message::StyleSheetTooLarge};
@@ -202,26 +238,29 @@ Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEnco
     auto* doc = reinterpret_cast<xmlDoc*>(data.node().m_node);
     // Numbering the elements, besides counting them, lets paths sort what they find at once.
     const auto elements = static_cast<unsigned long>(std::max(0L, xmlXPathOrderDocElems(doc)));
-    xsltTransformContext* running = nullptr;
+    Reading reading(styleSheet.readableFolders());
     std::optional<XmlMemoryLimit> memory(std::in_place,
                                          kMemoryFree + elements * kMemoryPerElement + textSize(doc) * kMemoryPerByte,
-                                         [&running] { stop(running); });
+                                         [&reading] { stop(reading.transformation); });
     const XsltPtr<xsltStylesheet> style(xsltParseStylesheetDoc(reinterpret_cast<xmlDoc*>(styleSheet.node().m_node)));
-    if (!style || style->errors != 0)
-        return {.bytes = {}, .error = memory->wasExceeded() ? tooMuchMemory() : messages.error()};
+    const auto reason = [&](bool tookTooMuch) {
+        if (reading.refusal)
+            return Error{kPermissionDenied, *reading.refusal};
+        return tookTooMuch ? tooMuchMemory() : messages.error();
+    };
+    if (!style || style->errors != 0 || reading.refusal)
+        return {.bytes = {}, .error = reason(memory->wasExceeded())};
     setEncoding(*style, encoding);
 
     const XsltPtr<xsltTransformContext> context(xsltNewTransformContext(style.get(), doc));
     limitSteps(*context, elements);
-    running = context.get();
+    reading.transformation = context.get();
     const XmlPtr<xmlDoc> result(xsltApplyStylesheetUser(style.get(), doc, nullptr, nullptr, nullptr, context.get()));
     const bool tookTooMuch = memory->wasExceeded();
     memory.reset();
     Transformation transformation{.bytes = resultText(result.get(), style.get()), .error = {}};
-    if (tookTooMuch)
-        transformation.error = tooMuchMemory();
-    else if (!result || context->state != XSLT_STATE_OK)
-        transformation.error = messages.error();
+    if (tookTooMuch || !result || context->state != XSLT_STATE_OK || reading.refusal)
+        transformation.error = reason(tookTooMuch);
     return transformation;
 }
 

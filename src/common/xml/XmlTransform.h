@@ -18,8 +18,9 @@ struct Transformation {
 };
 
 /// Transforms `data` with an XSLT 1.0 style sheet that loadStyleSheet() loaded; EXSLT functions and msxsl:node-set()
-/// are available. White space that the style sheet strips is removed from `data`. A style sheet can read regular local
-/// files, but not pipes or the network, and it cannot write. One that never ends is stopped after far more steps than
+/// are available. White space that the style sheet strips is removed from `data`. A style sheet can read regular files
+/// below the folders that it was loaded with, and it cannot write. One that tries to read another file is stopped with
+/// kPermissionDenied. One that never ends is stopped after far more steps than
 /// the data needs. An error in the style sheet is kInvalidCall, with reason and position. One that needs far more
 /// memory than the data (128 MB, plus 2 KB per element, plus four times the texts) is kOutOfMemory.
 Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding);

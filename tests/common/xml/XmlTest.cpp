@@ -115,6 +115,38 @@ TEST(XmlDocument, RefusesMoreNodesThanTheirTextIsWorth)
     EXPECT_TRUE(document.loadText(deep));
 }
 
+TEST(XmlDocument, RefusesEntitiesThatGrowBeyondTheirText)
+{
+    std::string laughs = "<!ENTITY a0 'ha'>";
+    for (int i = 1; i < 10; ++i) {
+        const std::string former = "&a" + std::to_string(i - 1) + ";";
+        laughs += "<!ENTITY a" + std::to_string(i) + " '";
+        for (int time = 0; time < 10; ++time)
+            laughs += former;
+        laughs += "'>";
+    }
+    const auto repeated = [](const std::string& text, int times) {
+        std::string all;
+        for (; times > 0; --times)
+            all += text;
+        return all;
+    };
+    const std::string elements = "<!ENTITY e \"" + repeated("<b c='1'/>", 10'000) + "\">";
+    const std::string text = "<!ENTITY t '" + std::string(100'000, 'x') + "'>";
+    const std::string padding = "<!--" + std::string(10'000'000, 'x') + "-->"; // the library sets its limits aside
+    for (const std::string& document :
+         {laughs + "]><a>&a9;</a>", laughs + "]><a b='&a9;'/>", laughs + "]><a>&a9;</a>" + padding,
+          elements + "]><a>" + repeated("&e;", 500) + "</a>", text + "]><a>" + repeated("&t;", 10'000) + "</a>",
+          text + "]><a>" + repeated("<b c='" + repeated("&t;", 10) + "'/>", 1000) + "</a>"}) {
+        XmlDocument loaded;
+        EXPECT_TRUE(loaded.loadText("<!DOCTYPE a [" + document)) << document.substr(0, 40);
+    }
+    EXPECT_EQ(parsed("<!DOCTYPE a [<!ENTITY b 'c&#100;'><!ENTITY e '&b;&b;'>]><a b='&e;'>&e;</a>").xml(),
+              "<!DOCTYPE a [\n<!ENTITY b \"c&#100;\">\n<!ENTITY e \"&b;&b;\">\n]>\n<a b=\"cdcd\">cdcd</a>\n");
+    XmlDocument deep;
+    EXPECT_TRUE(deep.loadText("<a>" + repeated("<a>", 300) + repeated("</a>", 301) + padding));
+}
+
 TEST(NodePath, NamesEachLevelWithItsId)
 {
     const XmlDocument document = parsed("<JPEG><Exif id='FFE1'><IFD1><IFD id='0201'>12</IFD></IFD1></Exif></JPEG>");
@@ -171,9 +203,27 @@ TEST(XmlLoad, ReadsUtf16AndBringsInNothingFromOutside)
     EXPECT_EQ(document.documentElement().text(), "€");
 
     const std::string secret = folder.file("secret.txt", "secret");
-    XMLLoad(document, folder.file("entity.xml",
-                                  "<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY s SYSTEM \"" + secret + "\">]><a>&s;</a>"));
-    EXPECT_EQ(document.documentElement().text().find("secret"), std::string::npos);
+    const std::string other = folder.file("other.dtd", "<!ELEMENT a ANY><!ENTITY o 'other'>");
+    const struct {
+        std::string document;
+        const char* reason; // none: it is loaded
+    } cases[] = {
+        {"<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY s SYSTEM '" + secret + "'>]><a>&s;</a>", "\"s\" is outside"},
+        {"<!DOCTYPE a [<!ENTITY % s SYSTEM '" + secret + "'> %s;]><a/>", "\"s\" is outside"},
+        {"<!DOCTYPE a SYSTEM '" + other + "'><a>&o;</a>", "\"o\" is outside"},
+        {"<!DOCTYPE a SYSTEM '" + other + "'><a>&p;</a>", "\"p\" is not declared"},
+        {"<!DOCTYPE a SYSTEM '" + other + "' [<!ENTITY i 'inside'>]><a>&i;</a>", nullptr},
+        {"<a><i:include xmlns:i='http://www.w3.org/2001/XInclude' href='secret.txt'/></a>", "includes another"},
+    };
+    for (const auto& c : cases) {
+        if (c.reason != nullptr) {
+            EXPECT_NE(loadError(folder.file("entity.xml", c.document)).find(c.reason), std::string::npos) << c.document;
+            continue;
+        }
+        XMLLoad(document, folder.file("entity.xml", c.document));
+        EXPECT_EQ(document.documentElement().text(), "inside");
+        EXPECT_EQ(document.documentElement().children().front().name(), "#text") << "nothing is left to grow";
+    }
     const std::string remote = folder.file("remote.xml", "<!DOCTYPE a SYSTEM 'http://127.0.0.1:9/a.dtd'><a/>");
     EXPECT_NE(loadError(remote).find("\"http://127.0.0.1:9/a.dtd\" cannot be loaded"), std::string::npos);
 }
