@@ -12,7 +12,9 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace ovisto {
 
@@ -20,7 +22,8 @@ namespace {
 
 struct ReportCommandOptions {
     std::string styleSheet;
-    std::string output; ///< the file to write; empty for standard output
+    std::vector<std::string> readable; ///< folders
+    std::string output;                ///< the file to write; empty for standard output
     KeepOptions keep;
     FileOptions files;
 };
@@ -30,6 +33,12 @@ void addReportOptions(CLI::App& parser, ReportCommandOptions& options)
     parser.add_option("--style", options.styleSheet, "The XSL style sheet, applied to <JPEGs> with a <JPEG> a file")
         ->option_text("XSL")
         ->required();
+    parser
+        .add_option("--allow-read", options.readable,
+                    "A folder that the style sheet may read files from, besides its own; may be given several times")
+        ->option_text("DIR")
+        ->allow_extra_args(false)
+        ->check(CLI::ExistingDirectory);
     parser.add_option("--output", options.output, "The file to write, in UTF-16; else standard output, in UTF-8")
         ->option_text("FILE");
     addKeepOptions(parser, options.keep);
@@ -53,7 +62,7 @@ Transformation transformed(const ReportCommandOptions& options, const std::vecto
     XmlDocument style;
     XmlDocument document;
     // Nothing is written before: a style sheet that never comes out of its pipe is not waited for once more.
-    loadStyleSheet(style, options.styleSheet, FileKind::RegularOrPipe);
+    loadStyleSheet(style, options.styleSheet, FileKind::RegularOrPipe, options.readable);
     deferInterruption();
     const TemporaryFile combined;
     for (const FileFailure& failure : combineDocuments(files, options.keep, combined.path(), output.progress()))
