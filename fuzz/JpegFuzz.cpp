@@ -41,11 +41,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
         ovisto::ErrorTrap trap;
         trap.run([&] {
-            ovisto::XmlDocument document = ovisto::loadDocument(path);
+            const ovisto::FileReading reading = ovisto::readFile(path);
+            ovisto::XmlDocument document = ovisto::documentOf(reading.text);
             const std::vector<ovisto::XmlNode> entries = document.node().descendants("IFD");
             if (size % 2 == 0 && !entries.empty()) // one value is deleted, or nothing changed
                 ovisto::XmlNode(entries[size / 2 % entries.size()]).remove();
-            ovisto::saveDocument(document, path, way, reporter);
+            ovisto::saveDocument(document, reading.identity, path, way, reporter);
         });
     }
     return 0;

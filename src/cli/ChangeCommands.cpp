@@ -92,7 +92,8 @@ void changeFiles(const std::vector<std::string>& files, const NodeChange& change
                  CommandOutput& output)
 {
     const unsigned jobs = options.files.jobs;
-    const BatchAction batch(files, change, options.writing.way(), jobs);
+    const auto onOtherChange = options.writing.force ? OnOtherChange::ChangeAgain : OnOtherChange::Refuse;
+    const BatchAction batch(files, change, options.writing.way(), jobs, onOtherChange);
     // A thread takes a whole group at a time, unless others would have nothing to do.
     const std::size_t fair = (files.size() + jobs - 1) / jobs;
     const std::size_t stretch = std::clamp<std::size_t>(fair, 1, batch.groupSize());

@@ -1,5 +1,6 @@
 #include "cli/FileLoop.h"
 
+#include "cli/TerminalText.h"
 #include "common/Error.h"
 
 #include <algorithm>
@@ -40,11 +41,14 @@ public:
         m_finishedMore.wait(lock, [&] { return m_ended || m_taken < m_finished + m_places.size(); });
         std::optional<std::string> path;
         if (!m_ended)
-            path = m_files.next();
-        m_ended = !path;
+            m_failure.run([&] {
+                path = m_files.next();
+                if (path)
+                    place(m_taken).path = *path;
+            });
+        m_ended = !path || m_failure.pending();
         if (m_ended)
             return std::nullopt;
-        place(m_taken).path = *path;
         return Task{m_taken++, std::move(*path)};
     }
 
@@ -54,13 +58,24 @@ public:
         const std::lock_guard lock(m_mutex);
         place(index).result = std::move(result);
         while (m_finished < m_taken && place(m_finished).result) {
-            const Place& finished = place(m_finished);
-            m_ended = !m_progress.step(finished.path, m_finished, m_files.total) || m_ended;
-            m_finish(*finished.result);
+            m_failure.run([&] { finish(place(m_finished)); });
             place(m_finished++).result.reset();
         }
+        m_ended = m_ended || m_failure.pending();
         m_finishedMore.notify_all();
     }
+
+    /// Ends the loop because of an error that is no file's.
+    void end(Error error)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_failure.run([&] { throw Error(std::move(error)); });
+        m_ended = true;
+        m_finishedMore.notify_all();
+    }
+
+    /// Raises the error, if any, that ended the loop. Call when nothing is worked on any more.
+    void raise() { m_failure.raise(); }
 
 private:
     struct Place {
@@ -69,6 +84,12 @@ private:
     };
 
     static constexpr std::size_t kWaitingPerJob = 16; // bounds the memory of results that wait for a slow one
+
+    void finish(const Place& place)
+    {
+        m_ended = !m_progress.step(place.path, m_finished, m_files.total) || m_ended;
+        m_finish(*place.result);
+    }
 
     Place& place(std::size_t index) { return m_places[index % m_places.size()]; }
 
@@ -81,21 +102,41 @@ private:
     std::size_t m_taken = 0;
     std::size_t m_finished = 0;
     bool m_ended = false; ///< no other file is to be taken
+    ErrorTrap m_failure;  ///< of what is no file's own matter
 };
+
+/// The result of a file, whatever `work` raises: no exception leaves a thread.
+FileResult resultOf(const Task& task, const std::function<FileResult(const Task&)>& work)
+{
+    FileResult result;
+    ErrorTrap trap;
+    trap.run([&] { result = work(task); });
+    if (trap.pending())
+        result.errors += errorLine(task.path, trap.take().description);
+    return result;
+}
 
 void runLoop(const Files& files, unsigned jobs, const std::function<FileResult(const Task&)>& work,
              const std::function<void(const FileResult&)>& finish, Progress& progress)
 {
     ResultQueue queue(files, jobs, finish, progress);
     const auto workOn = [&] {
-        while (const auto task = queue.take())
-            queue.put(task->index, work(*task));
+        ErrorTrap trap;
+        trap.run([&] {
+            while (const auto task = queue.take())
+                queue.put(task->index, resultOf(*task, work));
+        });
+        if (trap.pending())
+            queue.end(trap.take());
     };
-    std::vector<std::jthread> helpers;
-    ErrorTrap trap; // a thread that the system refuses is done without
-    for (unsigned i = 1; i < jobs && !trap.pending(); ++i)
-        trap.run([&] { helpers.emplace_back(workOn); });
-    workOn();
+    {
+        std::vector<std::jthread> helpers;
+        ErrorTrap trap; // a thread that the system refuses is done without
+        for (unsigned i = 1; i < jobs && !trap.pending(); ++i)
+            trap.run([&] { helpers.emplace_back(workOn); });
+        workOn();
+    }
+    queue.raise();
 }
 
 } // namespace

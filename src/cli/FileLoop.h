@@ -20,7 +20,8 @@ struct FileResult {
 
 /// Calls `work` once for the index of every path, in up to `jobs` threads at a time, and `finish` with each result, one
 /// at a time and in the order of `paths`. `progress` is called before each file is finished; when it stops the loop, no
-/// other file is started, but those already started are finished.
+/// other file is started, but those already started are finished. What `work` raises becomes the error of its file;
+/// what `finish` or `progress` raises ends the loop and is raised when all that was started is finished.
 void forEachFile(const std::vector<std::string>& paths, unsigned jobs,
                  const std::function<FileResult(std::size_t index)>& work,
                  const std::function<void(const FileResult&)>& finish, Progress& progress);

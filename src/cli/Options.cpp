@@ -70,6 +70,8 @@ void addWritingOptions(CLI::App& parser, WritingOptions& options)
 {
     parser.add_flag("--rebuild", options.rebuild,
                     "Write the Exif segment anew instead of changing it where it stands; check says what that loses");
+    parser.add_flag("--force", options.force,
+                    "Change a file as it is now if another program changes it meanwhile, instead of refusing");
     parser.add_flag("--verbose", options.verbose, "Say how much of each file was changed");
 }
 

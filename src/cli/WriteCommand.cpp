@@ -7,6 +7,7 @@
 #include "common/system/File.h"
 #include "common/system/Interruption.h"
 #include "common/xml/XmlLoad.h"
+#include "document/MetadataDocument.h"
 #include "document/NodePath.h"
 
 #include <CLI/CLI.hpp>
@@ -14,6 +15,7 @@
 #include <algorithm>
 #include <iterator>
 #include <unordered_set>
+#include <utility>
 
 namespace ovisto {
 
@@ -54,18 +56,47 @@ std::vector<std::string> imageParts(const XmlDocument& document)
     return parts;
 }
 
-/// Loads an edited document, which must be of the file as it is now: the image data is taken from there.
-XmlDocument loadEdited(const std::string& documentPath, const std::string& path)
+/// Loads an edited document.
+XmlDocument loadEdited(const std::string& documentPath)
 {
-    const std::vector<std::string> parts = imageParts(loadDocument(path));
     XmlDocument document;
     if (const auto error = document.loadFile(documentPath, Validation::Off, WhiteSpace::Preserve))
         throw Error{kOpenFailed, {Message::InContext, documentPath, parseErrorText(*error)}};
     if (document.documentElement().name() != "JPEG")
         throw Error{kOpenFailed, documentPath + ": The root element is not JPEG"};
-    if (imageParts(document) != parts)
-        throw Error{kInvalidCall, documentPath + " describes another image, or this file before it was changed"};
     return document;
+}
+
+/// Writes an edited document, which must be of the file as it is when the command opens it: the image data is taken
+/// from there.
+SaveReceipt writeEdited(const WriteOptions& options, const std::string& path, ErrorReporter& reporter)
+{
+    const FileReading reading = readFile(path);
+    XmlDocument document = loadEdited(options.document);
+    const bool isOfFile = imageParts(document) == imageParts(documentOf(reading.text));
+    const WritingWay way = options.writing.way();
+    if (!isOfFile && !options.writing.force)
+        throw Error{kInvalidCall, options.document + " describes another image, or this file before it was changed"};
+    if (!isOfFile)
+        return saveOver(document, path, way, reporter);
+    if (!options.writing.force)
+        return saveDocument(document, reading.identity, path, way, reporter);
+    bool isFirst = true;
+    return savedAtLast(reporter, [&](ErrorReporter& reports) {
+        return std::exchange(isFirst, false) ? saveDocument(document, reading.identity, path, way, reports)
+                                             : saveOver(document, path, way, reports);
+    });
+}
+
+/// Writes a file from its own document.
+SaveReceipt writeAnew(const WriteOptions& options, const std::string& path, ErrorReporter& reporter)
+{
+    const auto write = [&](ErrorReporter& reports) {
+        const FileReading reading = readFile(path);
+        XmlDocument document = documentOf(reading.text);
+        return saveDocument(document, reading.identity, path, options.writing.way(), reports);
+    };
+    return options.writing.force ? savedAtLast(reporter, write) : write(reporter);
 }
 
 /// Those of `files` that would destroy another one of them while they are written.
@@ -85,14 +116,14 @@ int runWrite(const WriteOptions& options)
     deferInterruption();
     files = withoutRepeats(std::move(files));
     const std::unordered_set<std::string> overwriting = overwritingFiles(files);
-    return runEach(
-        files, options.files.jobs, [&](const std::string& path, FileResult& result, ErrorReporter& reporter) {
-            if (overwriting.contains(path))
-                throw Error(overwritingError());
-            XmlDocument document = options.document.empty() ? loadDocument(path) : loadEdited(options.document, path);
-            const SaveReceipt receipt = saveDocument(document, path, options.writing.way(), reporter);
-            result.notes = savedLines(options.writing, path, receipt);
-        });
+    return runEach(files, options.files.jobs,
+                   [&](const std::string& path, FileResult& result, ErrorReporter& reporter) {
+                       if (overwriting.contains(path))
+                           throw Error(overwritingError());
+                       const SaveReceipt receipt = options.document.empty() ? writeAnew(options, path, reporter)
+                                                                            : writeEdited(options, path, reporter);
+                       result.notes = savedLines(options.writing, path, receipt);
+                   });
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "collection/BatchAction.h"
 
 #include "collection/DocumentLoad.h"
+#include "collection/DocumentSaving.h"
 #include "common/FirstReport.h"
 #include "common/system/File.h"
 #include "common/system/FileReplacement.h"
@@ -29,24 +30,26 @@ constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< on th
 class Group {
 public:
     /// `room` is shared by all groups that run at the same time.
-    Group(WritingWay way, ErrorReporter& reporter, const SavedFile& saved, std::shared_mutex& room)
-        : m_way(way), m_reporter(reporter), m_saved(saved), m_room(room), m_share(room, std::defer_lock)
+    Group(const NodeChange& change, WritingWay way, OnOtherChange onOtherChange, ErrorReporter& reporter,
+          const SavedFile& saved, std::shared_mutex& room)
+        : m_change(change), m_way(way), m_onOtherChange(onOtherChange), m_reporter(reporter), m_saved(saved),
+          m_room(room), m_share(room, std::defer_lock)
     {
     }
 
     std::size_t size() const { return m_members.size(); }
     std::int64_t bytes() const { return m_bytes; }
 
-    /// Writes the new version of the file, if `change` makes a difference. When the disk is full, all groups put theirs
-    /// in place first, and the file has the room to itself.
-    void add(const std::string& path, const NodeChange& change)
+    /// Writes the new version of the file, if the change makes a difference. When the disk is full, all groups put
+    /// theirs in place first, and the file has the room to itself.
+    void add(const std::string& path)
     {
         if (!m_share.owns_lock())
             m_share.lock();
-        if (!write(path, change, DiskFull::TryAgain)) {
+        if (!write(path, DiskFull::TryAgain)) {
             finish();
             const std::unique_lock whole(m_room);
-            write(path, change, DiskFull::Fails);
+            write(path, DiskFull::Fails);
             putInPlace();
         }
         shareIfNeeded();
@@ -66,27 +69,31 @@ private:
         std::string path;
         FirstReport report;
         std::optional<NewVersion> version;
+        int tries = 1;
         bool failed = false;
     };
 
     enum class DiskFull { TryAgain, Fails };
 
     /// False when the disk is full and the file should be tried again.
-    bool write(const std::string& path, const NodeChange& change, DiskFull onDiskFull)
+    bool write(const std::string& path, DiskFull onDiskFull, int tries = 1)
     {
         auto member = std::make_unique<Member>(path);
+        member->tries = tries;
         ErrorTrap trap;
         trap.run([&] {
-            const std::string text = documentText(path);
-            XmlDocument document = documentOf(text);
-            if (!applyChange(document, change, member->report))
+            const FileReading reading = readFile(path);
+            XmlDocument document = documentOf(reading.text);
+            if (!applyChange(document, m_change, member->report))
                 return;
-            const XmlDocument before = documentOf(text);
-            member->version.emplace(member->report, path, Leftover::Spared);
+            const XmlDocument before = documentOf(reading.text);
+            member->version.emplace(member->report, path, Leftover::Spared, reading.identity);
             member->version->write({m_way, before, document, readDocument});
         });
         if (trap.pending() && trap.error().number == kDiskFull && onDiskFull == DiskFull::TryAgain)
             return false;
+        if (trap.pending() && isToBeChangedAgain(*member, trap.error()))
+            return write(path, onDiskFull, tries + 1);
         if (trap.pending()) {
             tell(*member, trap.error());
         } else if (member->version) {
@@ -96,7 +103,17 @@ private:
         return true;
     }
 
+    /// Puts all in place; then, if that is wanted, those anew that another program changed in the meantime.
     void putInPlace()
+    {
+        do {
+            putMembersInPlace();
+            for (const auto& [path, tries] : std::exchange(m_again, {}))
+                write(path, DiskFull::Fails, tries + 1);
+        } while (!m_members.empty());
+    }
+
+    void putMembersInPlace()
     {
         syncTogether();
         for (const auto& member : m_members)
@@ -105,15 +122,22 @@ private:
         for (const auto& member : m_members) {
             if (member->failed)
                 continue;
-            step(*member, [&] { member->version->putInPlace(); });
-            folders.insert(member->version->folder());
-            if (!member->failed && m_saved)
-                m_saved(member->path, member->version->receipt());
+            step(*member, [&] {
+                folders.insert(member->version->folder());
+                member->version->putInPlace();
+                if (m_saved)
+                    m_saved(member->path, member->version->receipt());
+            });
         }
         for (const std::string& folder : folders)
             syncFolder(folder);
         m_members.clear();
         m_bytes = 0;
+    }
+
+    bool isToBeChangedAgain(const Member& member, const Error& error) const
+    {
+        return m_onOtherChange == OnOtherChange::ChangeAgain && isFileWasChanged(error) && member.tries < kMostTries;
     }
 
     /// A group takes part of the room as long as it has new versions.
@@ -141,7 +165,9 @@ private:
         ErrorTrap trap;
         trap.run(work);
         member.failed = trap.pending();
-        if (trap.pending())
+        if (trap.pending() && isToBeChangedAgain(member, trap.error()))
+            m_again.emplace_back(member.path, member.tries);
+        else if (trap.pending())
             tell(member, trap.error());
     }
 
@@ -150,13 +176,16 @@ private:
         ErrorReport(m_reporter, member.path, member.report.orElse(error));
     }
 
+    const NodeChange& m_change;
     WritingWay m_way;
+    OnOtherChange m_onOtherChange;
     ErrorReporter& m_reporter;
     const SavedFile& m_saved;
     std::shared_mutex& m_room; ///< on the disk; whichever holds it alone has all of it
     std::shared_lock<std::shared_mutex> m_share;
     std::vector<std::unique_ptr<Member>> m_members;
     std::int64_t m_bytes = 0;
+    std::vector<std::pair<std::string, int>> m_again; ///< files that were changed meanwhile, and the tries so far
 };
 
 /// A file of a group keeps its old and its new version open. The rest of the process needs files too.
@@ -169,8 +198,10 @@ std::size_t groupSizeFor(unsigned jobs)
 
 } // namespace
 
-BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange change, WritingWay way, unsigned jobs)
-    : m_files(files), m_change(std::move(change)), m_way(way), m_groupSize(groupSizeFor(jobs))
+BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange change, WritingWay way, unsigned jobs,
+                         OnOtherChange onOtherChange)
+    : m_files(files), m_change(std::move(change)), m_way(way), m_onOtherChange(onOtherChange),
+      m_groupSize(groupSizeFor(jobs))
 {
     std::vector<std::string> realPaths;
     realPaths.reserve(files.size());
@@ -186,7 +217,7 @@ BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange chang
 void BatchAction::run(std::size_t first, std::size_t last, Progress& progress, ErrorReporter& reporter,
                       const SavedFile& saved) const
 {
-    Group group(m_way, reporter, saved, m_room);
+    Group group(m_change, m_way, m_onOtherChange, reporter, saved, m_room);
     for (std::size_t i = first; i < last; ++i) {
         const std::string& path = m_files[i];
         if (!progress.step(path, i, m_files.size()))
@@ -198,7 +229,7 @@ void BatchAction::run(std::size_t first, std::size_t last, Progress& progress, E
         // The second time a file comes along, what the first time made of it has to be there.
         if (group.size() >= m_groupSize || group.bytes() >= kGroupBytes || m_repeated.contains(i))
             group.finish();
-        group.add(path, m_change);
+        group.add(path);
     }
     group.finish();
 }

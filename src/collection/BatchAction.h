@@ -17,6 +17,12 @@ namespace ovisto {
 /// Called with the path of a file that was saved, and what became of it.
 using SavedFile = std::function<void(const std::string& path, const SaveReceipt& receipt)>;
 
+/// What to do with a file that another program changes between the moments when it is read and when it is replaced.
+enum class OnOtherChange {
+    Refuse,     ///< it fails
+    ChangeAgain ///< it is read again and changed as it is now
+};
+
 /// Makes one change to many JPEG files, keeping all parts of each. A file that already has the change is not written.
 /// New versions are written in groups, brought to disk together, then put in place: much less waiting for the disk, and
 /// each file as safe at every moment as if it were saved alone. When the disk is full, the groups are put in place,
@@ -26,7 +32,7 @@ public:
     /// `files` must outlive the object. A path may occur in it more than once. `jobs`: how many stretches of them will
     /// run at the same time.
     BatchAction(const std::vector<std::string>& files, NodeChange change, WritingWay way = WritingWay::Keep,
-                unsigned jobs = 1);
+                unsigned jobs = 1, OnOtherChange onOtherChange = OnOtherChange::Refuse);
 
     /// How many files are written before the first one is put in place.
     std::size_t groupSize() const { return m_groupSize; }
@@ -49,6 +55,7 @@ private:
     const std::vector<std::string>& m_files;
     NodeChange m_change;
     WritingWay m_way;
+    OnOtherChange m_onOtherChange;
     std::size_t m_groupSize;
     std::unordered_set<std::size_t> m_overwriting; ///< their temporary name is another file of the list
     mutable std::shared_mutex m_room;              ///< on the disk, shared by the stretches

@@ -4,6 +4,17 @@
 
 namespace ovisto {
 
+namespace {
+
+std::string textOf(Translation translation)
+{
+    if (translation.error)
+        throw Error(*translation.error);
+    return std::move(translation.text);
+}
+
+} // namespace
+
 XmlDocument loadDocument(const std::string& path, const KeepOptions& keep)
 {
     return documentOf(documentText(path, keep));
@@ -16,10 +27,19 @@ XmlDocument readDocument(const std::string& path)
 
 std::string documentText(const std::string& path, const KeepOptions& keep)
 {
-    Translation translation = JpegXml().XMLtranslate(path, keep);
-    if (translation.error)
-        throw Error(*translation.error);
-    return std::move(translation.text);
+    return textOf(JpegXml().XMLtranslate(path, keep));
+}
+
+std::string documentText(const InputFile& file, const std::string& path)
+{
+    return textOf(JpegXml().XMLtranslate(file, path));
+}
+
+FileReading readFile(const std::string& path)
+{
+    const InputFile file = openJpeg(path);
+    const FileIdentity identity = identityOf(file);
+    return {documentText(file, path), identity};
 }
 
 } // namespace ovisto

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/xml/XmlDocument.h"
+#include "jpeg/FileIdentity.h"
 #include "reader/JpegXml.h"
 
 #include <string>
@@ -13,7 +14,19 @@ XmlDocument loadDocument(const std::string& path, const KeepOptions& keep = {});
 /// The same with nothing left out, as writing asks for it.
 XmlDocument readDocument(const std::string& path);
 
+/// A JPEG file as it was read.
+struct FileReading {
+    std::string text; ///< of its document, nothing left out
+    FileIdentity identity;
+};
+
+/// Reads the file at `path`. Raises the reader's error.
+FileReading readFile(const std::string& path);
+
 /// The text of the document with nothing left out. Raises the reader's error.
 std::string documentText(const std::string& path, const KeepOptions& keep = {});
+
+/// The same for a file that is open.
+std::string documentText(const InputFile& file, const std::string& path);
 
 } // namespace ovisto

@@ -2,16 +2,30 @@
 
 #include "common/ErrorReport.h"
 #include "common/xml/XmlDocument.h"
+#include "jpeg/FileIdentity.h"
 #include "writer/DocumentSave.h"
 
+#include <functional>
 #include <string>
 
 namespace ovisto {
 
-/// Saves `document` to its file at `path`, which must be as it was when the document was read. Raises the error that
-/// kept the file from being replaced, which has been reported; the file is then unchanged. Rebuilding lays out the Exif
-/// elements of `document`.
-SaveReceipt saveDocument(XmlDocument& document, const std::string& path, WritingWay way, ErrorReporter& reporter);
+/// Saves `document` to its file at `path`, which must be the one `asRead` that the document was read from, unchanged.
+/// Raises the error that kept the file from being replaced, which has been reported; the file is then unchanged.
+/// Rebuilding lays out the Exif elements of `document`.
+SaveReceipt saveDocument(XmlDocument& document, const FileIdentity& asRead, const std::string& path, WritingWay way,
+                         ErrorReporter& reporter);
+
+/// The same for the file as it is now, whatever became of it since the document was read: what the document does not
+/// show stays as it is in the file. Raises an error if its picture needs other tables than the document has.
+SaveReceipt saveOver(XmlDocument& document, const std::string& path, WritingWay way, ErrorReporter& reporter);
+
+/// How often a file is saved again that another program keeps changing.
+inline constexpr int kMostTries = 5;
+
+/// Does `save`, again as long as another program changes the file meanwhile, up to kMostTries times. Reports and raises
+/// what went wrong the last time.
+SaveReceipt savedAtLast(ErrorReporter& reporter, const std::function<SaveReceipt(ErrorReporter&)>& save);
 
 /// What rebuilding the JPEG file at `path` would lose, without writing to it. Raises the error that keeps it from being
 /// read or rebuilt.

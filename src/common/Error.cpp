@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
+#include <stdexcept>
+#include <system_error>
 
 namespace ovisto {
 
@@ -32,6 +35,21 @@ Error systemError(int number)
 {
     const auto* row = std::ranges::find(kSystemErrors, number, &SystemError::number);
     return {number, row != std::end(kSystemErrors) ? row->reason : Message::UnexpectedError};
+}
+
+Error handledException()
+{
+    try {
+        throw;
+    } catch (const std::bad_alloc&) {
+        return systemError(kOutOfMemory);
+    } catch (const std::length_error&) { // of a text that could not be in memory
+        return systemError(kOutOfMemory);
+    } catch (const std::system_error&) {
+        return systemError(kOutOfMemory);
+    } catch (...) {
+        return systemError(kInternalError);
+    }
 }
 
 bool isOfSystem(const Error& error)

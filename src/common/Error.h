@@ -2,9 +2,7 @@
 
 #include "common/Phrase.h"
 
-#include <new>
 #include <optional>
-#include <system_error>
 #include <utility>
 
 namespace ovisto {
@@ -21,6 +19,7 @@ inline constexpr int kOverflow = 6;
 inline constexpr int kOutOfMemory = 7;
 inline constexpr int kTypeMismatch = 13;
 inline constexpr int kFileNotFound = 53;
+inline constexpr int kInternalError = 51;
 inline constexpr int kDeviceError = 57;
 inline constexpr int kDiskFull = 61;
 inline constexpr int kPermissionDenied = 70;
@@ -38,8 +37,12 @@ Error systemError(int number);
 /// Whether the system refused something: a file, the disk or memory. Otherwise, what was to be worked on is wrong.
 bool isOfSystem(const Error& error);
 
-/// Runs steps that may fail, so that later steps still run, and keeps the latest error until it is looked at. Running
-/// out of memory or of another system resource counts as an error too; nothing else is caught.
+/// The exception that is being handled as an error: running out of memory or of another system resource, or what a
+/// library raised.
+Error handledException();
+
+/// Runs steps that may fail, so that later steps still run, and keeps the latest error until it is looked at. Every
+/// exception counts as an error, so that none leaves a step.
 class ErrorTrap {
 public:
     template <class Step> void run(Step&& step)
@@ -48,10 +51,8 @@ public:
             std::forward<Step>(step)();
         } catch (const Error& error) {
             m_pending = error;
-        } catch (const std::bad_alloc&) {
-            m_pending = systemError(kOutOfMemory);
-        } catch (const std::system_error&) {
-            m_pending = systemError(kOutOfMemory);
+        } catch (...) {
+            m_pending = handledException();
         }
     }
 

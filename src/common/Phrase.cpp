@@ -37,6 +37,13 @@ std::string filled(std::string_view text, const std::vector<std::string>& detail
 
 } // namespace
 
+Phrase Phrase::as(Message message) const
+{
+    Phrase phrase = *this;
+    phrase.m_message = message;
+    return phrase;
+}
+
 Phrase Phrase::shortened(std::size_t most) const
 {
     Phrase phrase = *this;

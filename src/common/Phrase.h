@@ -24,6 +24,9 @@ public:
     Message message() const { return m_message; }
     bool isEmpty() const { return m_message == Message::AsItIs && m_text.empty(); }
 
+    /// The details of this phrase in another message.
+    Phrase as(Message message) const;
+
     /// The phrase, its words cut after `most` characters (and "..." put there).
     Phrase shortened(std::size_t most) const;
 

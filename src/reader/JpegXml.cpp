@@ -13,6 +13,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 namespace ovisto {
 
@@ -118,10 +119,25 @@ Translation JpegXml::XMLtranslate(const std::string& FileName, const KeepOptions
 {
     ErrorTrap trap;
     std::optional<InputFile> file;
+    trap.run([&] { file.emplace(openJpeg(FileName)); });
+    if (trap.pending())
+        return {.text = {}, .error = trap.take()};
+    return XMLtranslate(*file, FileName, keep);
+}
+
+Translation JpegXml::XMLtranslate(const InputFile& file, const std::string& FileName, const KeepOptions& keep) const
+{
+    return FileTranslation(file, FileName, keep).run();
+}
+
+InputFile openJpeg(const std::string& FileName)
+{
+    ErrorTrap trap;
+    std::optional<InputFile> file;
     trap.run([&] { file.emplace(FileName); });
     if (trap.pending())
-        return {.text = {}, .error = Error{kOpenFailed, {Message::OpenFailed, trap.take().description, FileName}}};
-    return FileTranslation(*file, FileName, keep).run();
+        throw Error{kOpenFailed, {Message::OpenFailed, trap.take().description, FileName}};
+    return std::move(*file);
 }
 
 } // namespace ovisto

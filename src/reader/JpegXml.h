@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/Error.h"
+#include "common/system/File.h"
 #include "reader/KeepOptions.h"
 
 #include <optional>
@@ -26,6 +27,12 @@ public:
     /// fails, and kOutOfMemory if the directories repeat the same bytes until textLimit() is reached. After any other
     /// fault of a file, only what could not be read is missing from the text.
     Translation XMLtranslate(const std::string& FileName, const KeepOptions& keep = {}) const;
+
+    /// The same for a file that is open. `FileName` is what it was opened by.
+    Translation XMLtranslate(const InputFile& file, const std::string& FileName, const KeepOptions& keep = {}) const;
 };
+
+/// Opens the file at `FileName` for XMLtranslate(). Raises kOpenFailed.
+InputFile openJpeg(const std::string& FileName);
 
 } // namespace ovisto

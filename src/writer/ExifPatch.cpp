@@ -62,10 +62,16 @@ struct PatchedImage {
     std::optional<TiffRange> oldPlace;
 };
 
-Error failure(const ExifPart& part, const std::string& tag, const Phrase& reason)
+/// The error of a node that cannot be changed.
+Error failure(const ExifPart& part, const std::string& tag, const Error& reason)
 {
     const std::string node = std::string(part.element) + (tag.empty() ? "" : " " + tag);
-    return {kInvalidCall, {Message::InContext, node, reason}};
+    return {reason.number, {Message::InContext, node, reason.description}};
+}
+
+Error failure(const ExifPart& part, const std::string& tag, Message reason)
+{
+    return failure(part, tag, Error{kInvalidCall, reason});
 }
 
 /// Texts and numbers do not hold offsets of their own, so that they may be moved.
@@ -300,7 +306,7 @@ private:
         ErrorTrap trap;
         trap.run([&] { value = changedValue(m_old, change.entriesBefore[*pair.before], after, slot.entry); });
         if (trap.pending())
-            throw failure(*change.part, AttributeGet(after, "id"), trap.error().description);
+            throw failure(*change.part, AttributeGet(after, "id"), trap.error());
         replaceValue(slot, std::move(value));
         directory.isChanged = true;
     }
@@ -335,7 +341,7 @@ private:
         ErrorTrap trap;
         trap.run([&] { value = newValue(m_old, entry); });
         if (trap.pending())
-            throw failure(*change.part, AttributeGet(entry, "id"), trap.error().description);
+            throw failure(*change.part, AttributeGet(entry, "id"), trap.error());
         checkIsNoPointer(change, tag, value.type);
         Slot slot{.entry = {.tag = tag}};
         setValue(slot, std::move(value));
@@ -380,7 +386,7 @@ private:
         ErrorTrap trap;
         trap.run([&] { bytes = digitBytes(change.after.text()); });
         if (trap.pending())
-            throw failure(part, "", trap.error().description);
+            throw failure(part, "", trap.error());
         if (part.pointer.length == 0)
             changeMakerNote(part, *from, std::move(bytes));
         else

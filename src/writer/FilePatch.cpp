@@ -3,6 +3,7 @@
 #include "common/system/Interruption.h"
 #include "common/text/CodePage.h"
 #include "document/NodePath.h"
+#include "jpeg/FileIdentity.h"
 #include "jpeg/Markers.h"
 #include "writer/DocumentChanges.h"
 #include "writer/ExifPatch.h"
@@ -21,11 +22,6 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-Error changedSinceRead()
-{
-    return {kInvalidCall, Message::FileWasChanged};
-}
-
 /// The one IMG element of a document.
 ConstXmlNode imageElement(const ConstXmlNode& root)
 {
@@ -43,7 +39,7 @@ void checkImage(const ConstXmlNode& before, const ConstXmlNode& after)
     const ConstXmlNode imageAfter = imageElement(after);
     for (const char* attribute : {"offset", "length"}) {
         if (AttributeGet(imageBefore, attribute) != AttributeGet(imageAfter, attribute))
-            throw changedSinceRead();
+            throw fileWasChanged();
     }
 }
 
@@ -61,7 +57,7 @@ public:
           m_writer(newFile, reporter), m_segments(segmentsOf(oldFile))
     {
         if (m_segments.size() != m_before.size())
-            throw changedSinceRead();
+            throw fileWasChanged();
         if (m_after.empty() || m_after.back().name() != "SOS")
             throw Error{kInvalidCall, Message::ScanHeaderNotLast};
     }
@@ -103,7 +99,7 @@ private:
     void copy(std::int64_t offset, std::int64_t length)
     {
         if (m_newFile.writeFrom(m_oldFile, offset, length) != length)
-            throw changedSinceRead();
+            throw fileWasChanged();
     }
 
     void writeExif(const Segment* segment, const ConstXmlNode& before, const ConstXmlNode& after)

@@ -8,7 +8,7 @@ namespace ovisto {
 void JpegDocument::WriteJpeg(XmlDocument& document, const std::string& fileName)
 {
     NewVersion version(m_reporter, fileName, Leftover::Kept);
-    version.write(document);
+    version.write(document, m_read);
     version.bringToDisk();
     version.putInPlace();
     syncFolder(version.folder());

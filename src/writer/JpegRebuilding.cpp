@@ -4,11 +4,13 @@
 #include "common/text/NumberText.h"
 #include "document/Directories.h"
 #include "document/NodePath.h"
+#include "jpeg/FileIdentity.h"
 #include "jpeg/Segments.h"
 #include "writer/ExifSegment.h"
 #include "writer/PlainSegment.h"
 #include "writer/SegmentWriter.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace ovisto {
@@ -30,12 +32,14 @@ void copyImage(const XmlDocument& document, const InputFile& from, OutputFile& t
     const auto place = imagePlace(from);
     if (!place || AttributeGet(image, "offset") != numberText(place->offset) ||
         AttributeGet(image, "length") != numberText(place->length))
-        throw Error{kInvalidCall, Message::FileWasChanged};
+        throw fileWasChanged();
     const std::int64_t offset = std::int64_t{attributeToLong(AttributeGet(image, "offset"))} - 1;
     const std::int64_t length = std::int64_t{attributeToLong(AttributeGet(image, "length"))} + 1;
     if (offset < 0)
         throw systemError(kInvalidCall);
-    to.writeFrom(from, offset, length);
+    const std::int64_t there = std::clamp<std::int64_t>(from.size() - offset, 0, length);
+    if (to.writeFrom(from, offset, there) != there)
+        throw fileWasChanged();
 }
 
 void writeSegments(XmlDocument& document, OutputFile& file, ErrorReporter& reporter)

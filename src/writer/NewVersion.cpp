@@ -44,29 +44,44 @@ std::string replaceableTarget(const std::string& fileName, Leftover leftover, Er
 
 } // namespace
 
-NewVersion::NewVersion(ErrorReporter& reporter, const std::string& fileName, Leftover leftover)
+NewVersion::NewVersion(ErrorReporter& reporter, const std::string& fileName, Leftover leftover,
+                       const std::optional<FileIdentity>& asRead)
     : m_reporter(reporter), m_leftover(leftover), m_target(replaceableTarget(fileName, leftover, reporter)),
       m_temporaryName(temporaryNameOf(m_target)), m_oldFile(opened<InputFile>(reporter, fileName, m_target)),
-      m_newFile(opened<OutputFile>(reporter, m_temporaryName, m_temporaryName))
+      m_asRead(oldIdentity(asRead)), m_newFile(opened<OutputFile>(reporter, m_temporaryName, m_temporaryName))
 {
 }
 
-void NewVersion::write(XmlDocument& document)
+/// The identity of the old file, which has to be the one that was read.
+FileIdentity NewVersion::oldIdentity(const std::optional<FileIdentity>& asRead) const
 {
-    writeWhole([&] { rebuildJpeg(document, m_oldFile, m_newFile, m_temporaryName, m_reporter); });
+    FileIdentity identity;
+    reported(m_reporter, m_target, [&] {
+        if (asRead && !isSameFile(*asRead, m_oldFile))
+            throw fileWasChanged();
+        identity = asRead ? *asRead : identityOf(m_oldFile);
+    });
+    return identity;
+}
+
+void NewVersion::write(XmlDocument& document, const DocumentReader& read)
+{
+    rebuild(document);
+    checkNewFile([&] { readBack(m_temporaryName, read); });
 }
 
 void NewVersion::write(const DocumentSave& save)
 {
     if (save.way == WritingWay::Rebuild)
-        write(save.after);
+        rebuild(save.after);
     else
         writeWhole([&] { patch(save); });
-    ErrorTrap trap;
-    trap.run([&] { reported(m_reporter, m_target, [&] { compare(save); }); });
-    if (trap.pending())
-        m_newFile.discard();
-    trap.raise();
+    checkNewFile([&] { compare(save); });
+}
+
+void NewVersion::rebuild(XmlDocument& document)
+{
+    writeWhole([&] { rebuildJpeg(document, m_oldFile, m_newFile, m_temporaryName, m_reporter); });
 }
 
 /// A change that cannot be made is a matter of the photograph, not of the temporary file.
@@ -85,6 +100,16 @@ void NewVersion::compare(const DocumentSave& save)
     m_receipt = compareVersions(m_oldFile, newFile, m_temporaryName, save.before, save.after, save.read);
     if (save.way == WritingWay::Keep && !m_receipt.losses.empty())
         throw Error{kInvalidCall, m_receipt.losses.front()};
+}
+
+/// Runs a check that the new version may fail. It is then of no use and is deleted.
+template <class Check> void NewVersion::checkNewFile(Check check)
+{
+    ErrorTrap trap;
+    trap.run([&] { reported(m_reporter, m_target, check); });
+    if (trap.pending())
+        m_newFile.discard();
+    trap.raise();
 }
 
 void NewVersion::bringToDisk()
@@ -112,9 +137,30 @@ void NewVersion::bringToDiskTogether(const std::vector<NewVersion*>& versions)
 
 void NewVersion::putInPlace()
 {
-    if (!m_receipt.losses.empty())
+    checkNewFile([&] { checkOldFile(); });
+    if (!m_receipt.losses.empty()) {
         keepOriginal();
+        checkNewFile([&] { checkKeptFile(); }); // that took its time
+    }
     raise(replaceFile(m_temporaryName, m_target), m_target, m_reporter);
+}
+
+/// Between the two steps of a save: what another program made of the old file in the meantime is not overwritten. The
+/// second look is the last thing before the rename, as comparing contents takes time.
+void NewVersion::checkOldFile() const
+{
+    const InputFile now(m_target);
+    if (!isSameFile(m_asRead, now) || InputFile(m_target).status() != now.status())
+        throw fileWasChanged();
+}
+
+void NewVersion::checkKeptFile() const
+{
+    ErrorTrap trap;
+    trap.run([&] { checkOldFile(); });
+    if (trap.pending() && m_receipt.original == Original::Kept)
+        forgetKept(m_receipt.originalName);
+    trap.raise();
 }
 
 void NewVersion::keepOriginal()
@@ -149,7 +195,7 @@ template <class Step> void NewVersion::spared(Step step)
 {
     ErrorTrap trap;
     trap.run(step);
-    if (trap.pending() && m_leftover == Leftover::Spared)
+    if (trap.pending() && (m_leftover == Leftover::Spared || isFileWasChanged(trap.error())))
         m_newFile.discard();
     trap.raise();
 }

@@ -279,6 +279,34 @@ private:
 
 } // namespace
 
+namespace {
+
+struct Tenses {
+    Message before;
+    Message after;
+};
+
+constexpr Tenses kTenses[] = {
+    {Message::WouldRead, Message::ReadsOther},
+    {Message::WouldHaveType, Message::HasOtherType},
+    {Message::WouldStandAt, Message::StandsElsewhere},
+    {Message::WouldBeLost, Message::IsLost},
+    {Message::WouldBeNew, Message::IsNew},
+    {Message::WouldDiffer, Message::Differs},
+    {Message::WouldHaveOtherLink, Message::HasOtherLink},
+    {Message::WouldHaveOtherEntries, Message::HasOtherEntries},
+    {Message::WouldHaveSegments, Message::HasOtherSegments},
+};
+
+/// A loss as it is said once the file has been saved.
+Phrase afterTheFact(const Phrase& loss)
+{
+    const auto* row = std::ranges::find(kTenses, loss.message(), &Tenses::before);
+    return row != std::end(kTenses) ? loss.as(row->after) : loss;
+}
+
+} // namespace
+
 Phrase summary(const SaveReceipt& receipt)
 {
     const std::string unchanged = std::to_string(receipt.unchanged);
@@ -289,7 +317,7 @@ Phrase summary(const SaveReceipt& receipt)
 
 Phrase lossSummary(const SaveReceipt& receipt)
 {
-    Phrase losses = receipt.losses.front();
+    Phrase losses = afterTheFact(receipt.losses.front());
     if (receipt.losses.size() > 1)
         losses = Phrase(Message::AndMore, losses, std::to_string(receipt.losses.size() - 1));
     switch (receipt.original) {
@@ -302,12 +330,24 @@ Phrase lossSummary(const SaveReceipt& receipt)
     }
 }
 
+XmlDocument readBack(const std::string& newPath, const DocumentReader& read)
+{
+    XmlDocument document;
+    ErrorTrap trap;
+    trap.run([&] { document = read(newPath); });
+    if (trap.pending() && !isOfSystem(trap.error()))
+        throw Error{trap.error().number, {Message::NotReadBack, trap.error().description}};
+    trap.raise();
+    return document;
+}
+
 SaveReceipt compareVersions(const InputFile& oldFile, const InputFile& newFile, const std::string& newPath,
                             const XmlDocument& before, const XmlDocument& after, const DocumentReader& read)
 {
+    const XmlDocument found = readBack(newPath, read);
     SaveReceipt receipt;
-    ErrorTrap trap; // a file that cannot be read again is as good as lost
-    trap.run([&] { receipt = Receipt(oldFile, newFile, before, after).compare(read(newPath)); });
+    ErrorTrap trap; // what cannot be compared may be lost
+    trap.run([&] { receipt = Receipt(oldFile, newFile, before, after).compare(found); });
     if (trap.pending() && isOfSystem(trap.error()))
         trap.raise();
     if (trap.pending())

@@ -37,10 +37,14 @@ Phrase summary(const SaveReceipt& receipt);
 /// What was lost, the first loss standing for all, and where the original is.
 Phrase lossSummary(const SaveReceipt& receipt);
 
+/// The document of a new version at `newPath`. Raises an error that says so if it cannot be read: nobody could read it
+/// later.
+XmlDocument readBack(const std::string& newPath, const DocumentReader& read);
+
 /// Holds two versions of a file against each other: `newFile`, at `newPath`, has to say what `after` says, and all that
 /// `before`, the document of `oldFile`, says just so has to be the same, whether a document shows it or not: each entry
 /// of each directory, the maker note and its place, all other segments, every byte from the scan on. Raises what
-/// reading raises.
+/// readBack() raises.
 SaveReceipt compareVersions(const InputFile& oldFile, const InputFile& newFile, const std::string& newPath,
                             const XmlDocument& before, const XmlDocument& after, const DocumentReader& read);
 

@@ -146,6 +146,8 @@ TEST(CommandLine, WritesAFileFromItsOwnOrAnEditedDocument)
     EXPECT_EQ(loadDocument(path).selectSingleNode("//IFD[@id='010F']").text(), "Acme & Sons");
     const Bytes before = contentOf(path);
     expectOneLine(ovisto({"write", "--document", documentPath, path}), path, "before it was changed");
+    EXPECT_EQ(ovisto({"write", "--force", "--document", documentPath, path}).errors, "");
+    EXPECT_EQ(contentOf(path), before) << "which says the same";
     folder.file("edited.xml", "<HTML/>");
     expectOneLine(ovisto({"write", "--document", documentPath, path}), path, "The root element is not JPEG");
     expectOneLine(ovisto({"write", "--document", folder.path("none.xml"), path}), path, "File not found");

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+#include <stdexcept>
+
 namespace ovisto::test {
 
 TEST(Phrase, PutsItsDetailsWhereTheTextHasTheirPlaces)
@@ -30,6 +33,10 @@ TEST(ErrorTrap, KeepsTheLatestErrorUntilItIsTaken)
     EXPECT_TRUE(trap.pending()) << "a step that succeeds clears nothing";
     trap.run([] { throw std::bad_alloc(); });
     EXPECT_EQ(trap.take().number, kOutOfMemory);
+    trap.run([] { std::string().append(std::string::npos, 'x'); });
+    EXPECT_EQ(trap.take().number, kOutOfMemory);
+    trap.run([] { throw std::runtime_error("a library's own"); });
+    EXPECT_EQ(trap.take().number, kInternalError);
     EXPECT_FALSE(trap.pending());
 }
 

@@ -2,6 +2,7 @@
 #include "collection/DocumentLoad.h"
 #include "collection/DocumentSaving.h"
 #include "common/system/File.h"
+#include "document/MetadataDocument.h"
 #include "support/CommandRun.h"
 #include "support/CountingProgress.h"
 #include "support/Dictionary.h"
@@ -15,7 +16,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <map>
 
 #include <sys/stat.h>
@@ -70,9 +73,10 @@ Way keepingSave()
     way.name = "save that keeps the rest";
     way.keepsIncomplete = false;
     way.save = [](const TemporaryFolder& folder, ErrorReporter& reporter) {
-        XmlDocument document = loadDocument(folder.path("a.jpg"));
+        const FileReading reading = readFile(folder.path("a.jpg"));
+        XmlDocument document = documentOf(reading.text);
         document.selectSingleNode("/JPEG/Exif/IFD").setText("Another maker");
-        saveDocument(document, folder.path("a.jpg"), WritingWay::Keep, reporter);
+        saveDocument(document, reading.identity, folder.path("a.jpg"), WritingWay::Keep, reporter);
     };
     return way;
 }
@@ -336,6 +340,140 @@ TEST(Saving, MakesRoomOnAFullDiskBeforeAFileFails)
     EXPECT_EQ(always.failed, Names{"102.jpg"});
     EXPECT_EQ(always.numbers, std::vector<int>{kDiskFull});
     expectWhole(way, always, clean, {});
+}
+
+namespace {
+
+/// What another program makes of a photograph, which has `theirs` instead of `way.before` then.
+struct OtherProgram {
+    const char* name;
+    void (*act)(const std::string& path, const Bytes& theirs);
+    bool isInPlace = false;
+    bool isDeletion = false;
+};
+
+void writeInPlace(const std::string& path, const Bytes& theirs)
+{
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(theirs.data()), static_cast<std::streamsize>(theirs.size()));
+}
+
+/// As programs do that are asked to keep the date.
+void writeInPlaceWithItsOldDate(const std::string& path, const Bytes& theirs)
+{
+    const auto date = fs::last_write_time(path);
+    writeInPlace(path, theirs);
+    fs::last_write_time(path, date);
+}
+
+void replaceByRename(const std::string& path, const Bytes& theirs)
+{
+    writeInPlace(path + ".new", theirs);
+    fs::rename(path + ".new", path);
+}
+
+void cutShort(const std::string& path, const Bytes& /*theirs*/)
+{
+    fs::resize_file(path, 1000);
+}
+
+void deleteFile(const std::string& path, const Bytes& /*theirs*/)
+{
+    fs::remove(path);
+}
+
+constexpr OtherProgram kOtherPrograms[] = {{"written in place", writeInPlace, true},
+                                           {"written in place, old date", writeInPlaceWithItsOldDate, true},
+                                           {"replaced", replaceByRename},
+                                           {"cut short", cutShort, true},
+                                           {"deleted", deleteFile, false, true}};
+
+/// The outcome of a save during which another program acts on the file just before the call.
+Outcome outcomeOfRace(Way way, const Fault& call, const OtherProgram& other, const std::string& file,
+                      const Bytes& theirs)
+{
+    std::string path;
+    way.save = [&, save = way.save](const TemporaryFolder& folder, ErrorReporter& reporter) {
+        path = folder.path(file);
+        save(folder, reporter);
+    };
+    Fault fault = call;
+    fault.meanwhile = [&] { other.act(path, theirs); };
+    return outcomeOf(way, fault);
+}
+
+} // namespace
+
+TEST(Saving, NeverOverwritesWhatAnotherProgramMadeOfAFile)
+{
+    Way rebuilding = keepingSave();
+    rebuilding.name = "rebuilding";
+    rebuilding.save = [](const TemporaryFolder& folder, ErrorReporter& reporter) {
+        const FileReading reading = readFile(folder.path("a.jpg"));
+        XmlDocument document = documentOf(reading.text);
+        saveDocument(document, reading.identity, folder.path("a.jpg"), WritingWay::Rebuild, reporter);
+    };
+    for (const Way& way : {keepingSave(), rebuilding, batchOf(2)}) {
+        const std::string& file = way.files.front();
+        Bytes theirs = way.before;
+        theirs[way.before.size() - 3] ^= 0xFF; // in the picture, and in a segment where there is one
+        theirs[theirs.size() / 2] ^= 0xFF;
+        const Names calls = outcomeOf(way, {}).calls;
+        std::map<std::string, int> times{{calls.front(), 1}};
+        // What comes after the last look at the name is too late to be seen, and what is written within the same tick
+        // of the clock after the last look at the content.
+        const auto renamed = std::make_reverse_iterator(std::ranges::find(calls, renameOf(file)));
+        const auto lastOpen = std::find(renamed, calls.rend(), "open " + file).base();
+        const auto lastRead = std::find(renamed, calls.rend(), "pread " + file).base();
+        for (auto call = calls.begin() + 1; call != lastOpen; ++call) { // from the first look at the file on
+            for (const OtherProgram& other : kOtherPrograms) {
+                if (other.isInPlace && call >= lastRead)
+                    continue;
+                const Fault fault{*call, times[*call] + 1, 0, {}};
+                SCOPED_TRACE(way.name + ": " + other.name + " before " + *call + ", " + std::to_string(fault.time));
+                Outcome outcome = outcomeOfRace(way, fault, other, file, theirs);
+                Names left;
+                for (const auto& [name, content] : outcome.contents)
+                    left.push_back(name);
+                Names expected = way.files;
+                if (other.isDeletion)
+                    std::erase(expected, file);
+                EXPECT_EQ(left, expected) << "litter, or a file that nobody wants";
+                if (other.isDeletion)
+                    EXPECT_EQ(outcome.failed, Names{file});
+                else if (contains(outcome.failed, file))
+                    EXPECT_TRUE(outcome.contents[file] != way.before) << "theirs is gone";
+                else // theirs was read
+                    EXPECT_TRUE(imageData(outcome.contents[file]) == imageData(theirs)) << "theirs is gone";
+            }
+            ++times[*call];
+        }
+    }
+}
+
+TEST(Saving, GoesOnFromWhatAnotherProgramMadeOfAFileWhereThatIsWanted)
+{
+    Way way = batchOf(2);
+    const std::string file = way.files.front();
+    const Bytes theirs = JpegBytes().app0().segment(0xFFE2, {1, 2, 3}).end();
+    way.save = [&way](const TemporaryFolder& folder, ErrorReporter& reporter) {
+        const NodeChange change{NodeAction::Set, dictionary().entry(kTitle), "New"};
+        const Names paths = {folder.path(way.files[0]), folder.path(way.files[1])};
+        CountingProgress progress;
+        BatchAction(paths, change, WritingWay::Keep, 1, OnOtherChange::ChangeAgain).run(progress, reporter);
+    };
+    const struct {
+        int time; ///< 0: again and again
+        Names failed;
+    } cases[] = {{1, {}}, {0, {file}}};
+    for (const auto& c : cases) {
+        Outcome outcome = outcomeOfRace(way, {"fsync ~" + file, c.time, 0, {}}, kOtherPrograms[0], file, theirs);
+        EXPECT_EQ(outcome.failed, c.failed);
+        EXPECT_EQ(outcome.contents.size(), way.files.size());
+        EXPECT_EQ(outcome.contents[file] == theirs, !c.failed.empty());
+        const Bytes segment = {0xFF, 0xE2, 0, 5, 1, 2, 3};
+        EXPECT_FALSE(std::ranges::search(outcome.contents[file], segment).empty());
+    }
 }
 
 TEST(Saving, SparesAFileThatHasTheTemporaryNameOfAnother)

@@ -49,6 +49,8 @@ template <class Real> auto noted(const std::string& call, std::size_t size, Real
     const Fault& fault = state.fault;
     const bool isHit = isFaulty(call);
     state.log.push_back(call);
+    if (isHit && fault.meanwhile)
+        fault.meanwhile();
     if (isHit && fault.error > 0) {
         state.log.back() += " " + std::to_string(fault.error);
         errno = fault.error;

@@ -2,6 +2,7 @@
 
 #include "common/system/posix/SystemCalls.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,7 @@ struct Fault {
     std::string call;
     int time = 1; ///< 1: the first such call; 0: each of them
     int error = 0;
+    std::function<void()> meanwhile{}; ///< what another program does just before the call
 };
 
 /// Makes one of the calls that saving depends on go wrong, and keeps the list of them all. Nothing waits for the disk.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "collection/DocumentLoad.h"
+#include "collection/DocumentSaving.h"
 #include "writer/JpegDocument.h"
 
 #include <string>
@@ -11,7 +12,13 @@ namespace ovisto::test {
 inline void rewrite(const std::string& path, ErrorReporter& reporter)
 {
     XmlDocument document = loadDocument(path);
-    JpegDocument(reporter).WriteJpeg(document, path);
+    JpegDocument(reporter, readDocument).WriteJpeg(document, path);
+}
+
+/// Saves `document` to the file at `path` as if it had just been read from it.
+inline SaveReceipt saveNow(XmlDocument& document, const std::string& path, WritingWay way, ErrorReporter& reporter)
+{
+    return saveDocument(document, readFile(path).identity, path, way, reporter);
 }
 
 } // namespace ovisto::test

@@ -19,14 +19,29 @@ const QString kSource = QStringLiteral(OVISTO_SOURCE_FOLDER);
 
 } // namespace
 
+namespace {
+
+template <class Answer> Answer next(std::deque<Answer>& answers, const QString& question)
+{
+    if (answers.empty())
+        qFatal("unexpected question: %s", qPrintable(question));
+    const Answer answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+} // namespace
+
 bool TestDialogs::ask(const QString& question)
 {
     messages << question;
-    if (answers.empty())
-        qFatal("unexpected question: %s", qPrintable(question));
-    const bool answer = answers.front();
-    answers.pop_front();
-    return answer;
+    return next(answers, question);
+}
+
+int TestDialogs::choose(const QString& question, const QStringList& /*answers*/)
+{
+    messages << question;
+    return next(choices, question);
 }
 
 bool TestDesktop::open(const std::string& path)
@@ -182,7 +197,7 @@ void setInFile(const std::string& path, const std::string& nodePath, const std::
     XmlDocument document = loadDocument(path);
     document.selectSingleNode(nodePath).setText(text);
     RecordingReporter reporter;
-    JpegDocument(reporter).WriteJpeg(document, path);
+    JpegDocument(reporter, readDocument).WriteJpeg(document, path);
 }
 
 void blockSaving(const std::string& path)

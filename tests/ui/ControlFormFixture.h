@@ -25,10 +25,12 @@ class TestDialogs : public Dialogs {
 public:
     QStringList messages; ///< messages and questions, as they came
     std::deque<bool> answers;
+    std::deque<int> choices; ///< to questions with several answers
     std::optional<QString> file;
 
     void show(const QString& message) override { messages << message; }
     bool ask(const QString& question) override;
+    int choose(const QString& question, const QStringList& answers) override;
     std::optional<QString> chooseFile(const QString& /*title*/, const QString& /*folder*/,
                                       const QString& /*filter*/) override
     {

@@ -338,7 +338,40 @@ private Q_SLOTS:
         QCOMPARE(window.dialogs.messages.size(), 1);
         QVERIFY(window.dialogs.taken()[0].startsWith(QString::fromStdString(window.path("~night.jpg"))));
         QCOMPARE(window.text("NodeText"), u"Refused"_s);
-        QVERIFY(!window.isChanged()); // the mark goes whatever becomes of the save
+        QVERIFY(window.isChanged());
+    }
+
+    void doesWithAFileThatAnotherProgramChangedWhatItIsTold()
+    {
+        enum { SaveOver, ReadAgain, Cancel };
+        Window window{"little-endian.jpg", "night.jpg"};
+        const std::string path = window.path("little-endian.jpg");
+        const auto editBoth = [&](const char* mine, const char* theirs, int answer) {
+            window.edit(kDescription, QLatin1String(mine));
+            setInFile(path, kTitle, theirs);
+            window.dialogs.choices = {answer};
+        };
+        editBoth("Mine", "First", Cancel);
+        window.click("FileSaver");
+        QVERIFY(window.isChanged() && window.text("NodeText") == u"Mine"_s);
+        window.dialogs.answers = {true};
+        window.dialogs.choices = {Cancel};
+        window.form().close();
+        QVERIFY(window.form().isVisible());
+
+        window.dialogs.answers = {true};
+        window.dialogs.choices = {ReadAgain};
+        window.selectFile(1); // leaving the file
+        QTRY_COMPARE(window.selectedFile(), 0);
+        QVERIFY(!window.isChanged());
+        QCOMPARE(window.text("FileTitle"), u"First"_s);
+
+        editBoth("Mine", "Second", SaveOver);
+        window.click("FilePickerNext");
+        QCOMPARE(window.selectedFile(), 1);
+        QCOMPARE(inFile(path, kDescription).value(), std::string("Mine"));
+        QCOMPARE(inFile(path, kTitle).value(), std::string("First"));
+        QVERIFY(window.dialogs.choices.empty() && window.dialogs.answers.empty());
     }
 
     void resetsAndTellsWhatTheOptionsRemove()
@@ -490,6 +523,22 @@ private Q_SLOTS:
             });
             QCOMPARE(dialogs.ask(u"Save <b>Changes</b>?"_s), answer);
             QVERIFY(isPlain && !hasEscaped);
+        }
+    }
+
+    void takesTheEscapeKeyForTheLastOfSeveralAnswers()
+    {
+        SystemDialogs dialogs;
+        const QStringList answers = {u"Over"_s, u"Again"_s, u"Cancel"_s};
+        for (int i = 0; i <= answers.size(); ++i) {
+            whenOpen<QMessageBox>([&](QMessageBox& box) {
+                for (QAbstractButton* button : box.buttons()) {
+                    if (button->text() == answers.value(i))
+                        return QTest::mouseClick(button, Qt::LeftButton);
+                }
+                QTest::keyClick(&box, Qt::Key_Escape);
+            });
+            QCOMPARE(dialogs.choose(u"?"_s, answers), std::min(i, 2));
         }
     }
 

@@ -17,6 +17,7 @@ namespace {
 class TestWindow : public ShownFile::Window {
 public:
     bool answer = false;
+    ShownFile::OtherChange choice = ShownFile::OtherChange::Cancel;
     QStringList told;
     bool isMarked = false;
 
@@ -24,6 +25,11 @@ public:
     {
         told << QString::fromStdString(path).section(u'/', -1) + u'?';
         return answer;
+    }
+    ShownFile::OtherChange askAboutOtherChange(const std::string& path) override
+    {
+        told << QString::fromStdString(path).section(u'/', -1) + u"??"_s;
+        return choice;
     }
     void showChanged(bool changed) override { isMarked = changed; }
     void showBusy(bool busy) override { told << (busy ? u"busy"_s : u"ready"_s); }
@@ -90,8 +96,7 @@ private Q_SLOTS:
             {"yes", Changed, true, true, SaveResult::Saved, "night.jpg? busy ready night.jpg+", true, false},
             {"no", Changed, true, false, SaveResult::NotSaved, "night.jpg?", false, false},
             {"yes, and fails", Blocked, true, true, SaveResult::Failed, "night.jpg? busy ready", false, true},
-            // The mark goes whatever becomes of a save that nobody was asked about.
-            {"fails unasked", Blocked, false, false, SaveResult::Failed, "busy ready", false, false}};
+            {"fails unasked", Blocked, false, false, SaveResult::Failed, "busy ready", false, true}};
         for (const auto& c : cases) {
             Opened opened("night.jpg");
             const std::string before = readTextFile(opened.path);
@@ -125,19 +130,51 @@ private Q_SLOTS:
         QVERIFY(opened.reporter.contexts.empty());
     }
 
-    void doesNotOverwriteWhatAnotherProgramChanged()
+    void asksBeforeItOverwritesWhatAnotherProgramChanged()
     {
+        using OtherChange = ShownFile::OtherChange;
+        const struct {
+            OtherChange answer;
+            const char* theirs; ///< a title; it moves the image data if it has another length
+            SaveResult result;
+            bool isChanged;
+            const char *title, *description; ///< in the file afterwards
+        } cases[] = {
+            {OtherChange::Cancel, "Mountain Lake", SaveResult::Failed, true, "Mountain Lake", ""},
+            {OtherChange::ReadAgain, "Lake", SaveResult::GivenUp, false, "Lake", ""},
+            {OtherChange::SaveOver, "Mountain Lake", SaveResult::Saved, false, "Mountain lake", "Mine"},
+            {OtherChange::SaveOver, "A lake in the mountains", SaveResult::Saved, false, "Mountain lake", "Mine"},
+        };
         for (const auto way : {WritingWay::Keep, WritingWay::Rebuild}) {
-            Opened opened("little-endian.jpg");
-            opened.open({}, way);
-            opened.file.setText(opened.node(kDescription), "Mine");
-            setInFile(opened.path, kTitle, "Mountain Lake"); // of the same length
-            QVERIFY(opened.file.SaveDocument() == SaveResult::Failed);
-            QCOMPARE(opened.reported(), std::vector<std::string>{opened.path});
-            QCOMPARE(inFile(opened.path, kTitle).value(), std::string("Mountain Lake"));
-            opened.open({}, way);
-            QVERIFY(opened.file.SaveDocument() == SaveResult::Saved);
+            for (const auto& c : cases) {
+                Opened opened("little-endian.jpg");
+                opened.open({}, way);
+                const std::string description = opened.text(kDescription);
+                opened.file.setText(opened.node(kDescription), "Mine");
+                setInFile(opened.path, kTitle, c.theirs);
+                opened.window.choice = c.answer;
+                QVERIFY(opened.file.SaveDocument() == c.result);
+                QVERIFY(opened.window.told.contains(u"little-endian.jpg??"_s) && opened.reported().empty());
+                QCOMPARE(opened.file.isChanged(), c.isChanged);
+                QCOMPARE(opened.text(kDescription), std::string("Mine"));
+                QCOMPARE(inFile(opened.path, kTitle).value(), std::string(c.title));
+                QCOMPARE(inFile(opened.path, kDescription).value(),
+                         c.result == SaveResult::Saved ? std::string("Mine") : description);
+            }
         }
+        Opened deleted("night.jpg");
+        deleted.file.setText(deleted.node(kDescription), "Mine");
+        QFile::remove(QString::fromStdString(deleted.path));
+        QVERIFY(deleted.file.SaveDocument() == SaveResult::Failed && deleted.file.isChanged());
+        QCOMPARE(deleted.reported().size(), std::size_t{1});
+
+        Opened replaced("little-endian.jpg"); // whose picture the tables of the document do not fit
+        replaced.file.setText(replaced.node(kDescription), "Mine");
+        writeTextFile(replaced.path, readTextFile(replaced.folder.copy("night.jpg")));
+        replaced.window.choice = OtherChange::SaveOver;
+        const std::string before = readTextFile(replaced.path);
+        QVERIFY(replaced.file.SaveDocument() == SaveResult::Failed && replaced.file.isChanged());
+        QCOMPARE(readTextFile(replaced.path), before);
     }
 
     void countsAsChangedByWhatChangesIt()

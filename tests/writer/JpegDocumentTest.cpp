@@ -43,7 +43,7 @@ Written writing(const std::string& text)
     RecordingReporter reporter;
     XmlDocument document = documentOf(text);
     Written written;
-    written.error = errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); });
+    written.error = errorNumberOf([&] { JpegDocument(reporter, readDocument).WriteJpeg(document, path); });
     for (std::string context : reporter.contexts) {
         for (auto at = context.find(folder.path("")); at != std::string::npos; at = context.find(folder.path("")))
             context.erase(at, folder.path("").size());
@@ -87,10 +87,10 @@ TEST(WriteJpeg, WritesOtherApp1SegmentsWithTheLengthThatTheySay)
         for (const std::string& text : {std::string(), std::string("\x80"), std::string(1000, 't')}) {
             const bool euro = text == "\x80";
             const Written written = writing("<JPEG><Exif1 ns='" + ns + "'>" + (euro ? "<![CDATA[€]]>" : text) +
-                                            "</Exif1><IMG offset='9' length='2'/></JPEG>");
+                                            "</Exif1><SOS>0102</SOS><IMG offset='9' length='2'/></JPEG>");
             const std::size_t length = 256 * written.file[4] + written.file[5];
             EXPECT_EQ(length, ns.size() + text.size() + 4);
-            EXPECT_EQ(written.file.size(), 2 + 2 + length + 3 + 2) << "nothing more, or the next marker is lost";
+            EXPECT_EQ(written.file.size(), 2 + 2 + length + 6 + 3 + 2) << "nothing more, or the next marker is lost";
         }
     }
 }
@@ -288,7 +288,7 @@ TEST(WriteJpeg, EitherRefusesAValueOrWritesAFileThatCanBeRead)
                 entry.setAttribute("d", std::to_string(random() % 14));
         }
         RecordingReporter reporter;
-        if (errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); }) != 0) {
+        if (errorNumberOf([&] { JpegDocument(reporter, readDocument).WriteJpeg(document, path); }) != 0) {
             EXPECT_EQ(contentOf(path), before);
             EXPECT_FALSE(reporter.contexts.empty());
             continue;
@@ -319,7 +319,8 @@ TEST(WriteJpeg, RefusesATextWithWhichTheFileCouldNotBeOpenedAgain)
         XmlDocument document = loadDocument(path);
         document.selectSingleNode(c.path).setText(c.text);
         RecordingReporter reporter;
-        EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); }), c.error) << c.text;
+        EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter, readDocument).WriteJpeg(document, path); }), c.error)
+            << c.text;
         EXPECT_EQ(errorNumberOf([&] { loadDocument(path); }), 0) << c.text;
     }
 }
@@ -332,7 +333,7 @@ TEST(WriteJpeg, RefusesAFileThatWasChangedAfterItWasRead)
     const auto isRefused = [&](const Bytes& file, int error) {
         folder.file("a.jpg", file);
         RecordingReporter reporter;
-        EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter).WriteJpeg(document, path); }), error);
+        EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter, readDocument).WriteJpeg(document, path); }), error);
         EXPECT_EQ(contentOf(path), file);
     };
     isRefused(JpegBytes().app0().end(), kInvalidCall);

@@ -12,6 +12,7 @@
 #include "document/TagNumbers.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
+#include "support/Rewriting.h"
 #include "writer/FileSegments.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +30,7 @@ namespace {
 
 SaveReceipt save(const std::string& path, XmlDocument& document, ErrorReporter& reporter)
 {
-    return saveDocument(document, path, WritingWay::Keep, reporter);
+    return saveNow(document, path, WritingWay::Keep, reporter);
 }
 
 bool isPlaceTag(int tag)
@@ -341,7 +342,7 @@ TEST(Keeping, KeepsTheOriginalOnceWhereRebuildingLosesSomething)
     RecordingReporter reporter;
     const auto rebuild = [&] {
         XmlDocument document = loadDocument(path);
-        return saveDocument(document, path, WritingWay::Rebuild, reporter);
+        return saveNow(document, path, WritingWay::Rebuild, reporter);
     };
     const SaveReceipt receipt = rebuild();
     EXPECT_FALSE(receipt.losses.empty());
@@ -356,7 +357,7 @@ TEST(Keeping, KeepsTheOriginalOnceWhereRebuildingLosesSomething)
 
     std::filesystem::create_directory(folder.path("b.jpg.original"));
     XmlDocument document = loadDocument(folder.path("b.jpg"));
-    EXPECT_EQ(errorNumberOf([&] { saveDocument(document, folder.path("b.jpg"), WritingWay::Rebuild, reporter); }),
+    EXPECT_EQ(errorNumberOf([&] { saveNow(document, folder.path("b.jpg"), WritingWay::Rebuild, reporter); }),
               kPathAccessError);
     EXPECT_EQ(contentOf(folder.path("b.jpg")), before) << "nothing is saved where the original cannot be kept";
 }

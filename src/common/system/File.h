@@ -29,6 +29,24 @@ private:
     int m_descriptor = -1;
 };
 
+/// What the system says of a file at one moment. Times are in nanoseconds.
+struct FileStatus {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    std::int64_t size = 0;
+    std::int64_t modified = 0; ///< when its content was last changed
+    std::int64_t changed = 0;  ///< when anything about it was
+    /// So short before that one more change could have got the same times: the clock of a file system ticks slowly.
+    bool isRecent = false;
+
+    /// Whether it is the same file, and nothing about it was changed.
+    bool operator==(const FileStatus& other) const
+    {
+        return device == other.device && inode == other.inode && size == other.size && modified == other.modified &&
+               changed == other.changed;
+    }
+};
+
 /// A regular file that is open for reading at any place. Another process may change it in the meantime: a read then
 /// returns what is there, or less.
 class InputFile {
@@ -37,7 +55,10 @@ public:
     explicit InputFile(const std::string& path);
 
     /// The size of the file, in bytes, when it was opened.
-    std::int64_t size() const { return m_size; }
+    std::int64_t size() const { return m_status.size; }
+
+    /// What the system said of the file when it was opened.
+    const FileStatus& status() const { return m_status; }
 
     /// Fills `into` with the bytes from `offset` on (the first byte is 0) and returns their number, which is smaller
     /// than asked for only at the end of the file.
@@ -46,7 +67,7 @@ public:
 private:
     friend class OutputFile;
     FileHandle m_handle;
-    std::int64_t m_size = 0;
+    FileStatus m_status;
 };
 
 /// Who may read a new file: only its owner, until it takes the permissions of the file that it replaces; or whoever

@@ -28,6 +28,9 @@ std::optional<ReplaceFailure> replaceObstacle(const std::string& path);
 /// is not a regular file. Until syncFolder(), a power failure may take it away.
 bool keepFile(const std::string& path, const std::string& keptPath);
 
+/// Takes away a name that keepFile() made, if it can.
+void forgetKept(const std::string& keptPath);
+
 /// Makes replacements, creations and deletions in `folder` survive a power failure, where the file system can do that.
 void syncFolder(const std::string& folder);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -19,6 +20,10 @@ public:
 
     /// Asks a Yes-or-No question. True for Yes.
     virtual bool ask(const QString& question) = 0;
+
+    /// Asks a question with several answers and returns the index of the one chosen. The last one changes nothing: it
+    /// is what the Escape key and the Return key mean, too.
+    virtual int choose(const QString& question, const QStringList& answers) = 0;
 
     /// Lets the user choose an existing file, starting in `folder`. `filter` is in the syntax of QFileDialog; an empty
     /// `title` means the desktop's own. Returns nothing if the user cancels.

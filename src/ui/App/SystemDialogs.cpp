@@ -57,6 +57,22 @@ bool SystemDialogs::ask(const QString& question)
     return box.clickedButton() == yes;
 }
 
+int SystemDialogs::choose(const QString& question, const QStringList& answers)
+{
+    QMessageBox box(owner());
+    box.setIcon(QMessageBox::Question);
+    setText(box, question);
+    QList<QPushButton*> buttons;
+    for (const QString& answer : answers) {
+        const bool isLast = buttons.size() + 1 == answers.size();
+        buttons << box.addButton(answer, isLast ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
+    }
+    box.setEscapeButton(buttons.back());
+    box.setDefaultButton(buttons.back());
+    box.exec();
+    return static_cast<int>(buttons.indexOf(box.clickedButton()));
+}
+
 std::optional<QString> SystemDialogs::chooseFile(const QString& title, const QString& folder, const QString& filter)
 {
     const QString path = QFileDialog::getOpenFileName(owner(), title, folder, filter);

@@ -9,6 +9,7 @@ class SystemDialogs : public Dialogs {
 public:
     void show(const QString& message) override;
     bool ask(const QString& question) override;
+    int choose(const QString& question, const QStringList& answers) override;
     std::optional<QString> chooseFile(const QString& title, const QString& folder, const QString& filter) override;
 };
 

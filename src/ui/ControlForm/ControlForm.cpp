@@ -150,7 +150,10 @@ void ControlForm::closeEvent(QCloseEvent* event)
         show->close();
     m_boxes.moveFocusTo(*ui.FileFinder);
     // What could not be saved is not thrown away by closing. Whoever wants that answers No.
-    if (m_editor.OfferSave(true) == ShownFile::SaveResult::Failed) {
+    const auto saved = m_editor.OfferSave(true);
+    if (saved == ShownFile::SaveResult::GivenUp)
+        m_editor.openAgain();
+    if (saved == ShownFile::SaveResult::Failed || saved == ShownFile::SaveResult::GivenUp) {
         event->ignore();
         return;
     }

@@ -58,10 +58,13 @@ void Editor::OpenSelectedFile()
 
 bool Editor::leaveShownFile()
 {
-    if (OfferSave(true) == SaveResult::Failed) {
+    const SaveResult saved = OfferSave(true);
+    if (saved == SaveResult::Failed)
         m_list.select(m_file.path());
+    if (saved == SaveResult::GivenUp)
+        openAgain();
+    if (saved == SaveResult::Failed || saved == SaveResult::GivenUp)
         return false;
-    }
     clearShownFile();
     return true;
 }
@@ -73,6 +76,8 @@ bool Editor::settleChanges()
         OpenSelectedFile();
     else if (saved == SaveResult::Failed)
         m_list.select(m_file.path());
+    else if (saved == SaveResult::GivenUp)
+        openAgain();
     return saved != SaveResult::Failed;
 }
 
@@ -90,6 +95,8 @@ void Editor::step(std::optional<int> (FoundFiles::*neighbour)(int) const)
     const SaveResult saved = OfferSave(false);
     if (saved == SaveResult::Failed)
         return;
+    if (saved == SaveResult::GivenUp)
+        return OpenSelectedFile();
     if (const auto row = (m_list.files().*neighbour)(m_list.selectedRow()))
         m_list.open(*row);
     else if (saved == SaveResult::Saved)
@@ -100,8 +107,14 @@ void Editor::saveAndReopen()
 {
     m_parts.boxes.leaveFocused();
     m_list.selectShownFile();
-    if (m_file.SaveDocument() == SaveResult::Saved)
+    if (m_file.SaveDocument() != SaveResult::Failed)
         OpenSelectedFile();
+}
+
+void Editor::openAgain()
+{
+    m_list.select(m_file.path());
+    OpenSelectedFile();
 }
 
 void Editor::saveXml()
@@ -130,6 +143,19 @@ void Editor::runVerb(Verb verb)
 bool Editor::wantsToSave(const std::string& path)
 {
     return m_parts.surroundings.dialogs.ask(tr("Save Changes to file %1?").arg(pathText(path)));
+}
+
+ShownFile::OtherChange Editor::askAboutOtherChange(const std::string& path)
+{
+    using OtherChange = ShownFile::OtherChange;
+    constexpr OtherChange kAnswers[] = {OtherChange::SaveOver, OtherChange::ReadAgain, OtherChange::Cancel};
+    const int answer = m_parts.surroundings.dialogs.choose(
+        tr("Another program changed the file %1 after it was opened here.\r\n\r\n"
+           "Save Over It: the file gets all values as they are shown here.\r\n"
+           "Read It Again: what you changed here is given up, and the file is shown as it is now.")
+            .arg(pathText(path)),
+        {tr("&Save Over It"), tr("&Read It Again"), QCoreApplication::translate("QPlatformTheme", "Cancel")});
+    return kAnswers[answer];
 }
 
 void Editor::showChanged(bool changed)

@@ -30,8 +30,8 @@ public:
     WritingWay writingWay() const;
 
     void OpenSelectedFile();
-    /// Closes the file shown, saving its changes if the user wants that. Returns false if they could not be saved; the
-    /// file then stays open.
+    /// Closes the file shown, saving its changes if the user wants that. Returns false if they could not be saved, or
+    /// were given up for what another program made of the file; the file then stays open.
     bool leaveShownFile();
     /// Offers to save the file shown, which stays open. Returns false if its changes could not be saved.
     bool settleChanges();
@@ -46,10 +46,13 @@ public:
     void saveXml();
     /// Opens it again, discarding its changes.
     void reset();
+    /// The same for a file whose changes were given up.
+    void openAgain();
     void runVerb(Verb verb);
 
 private:
     bool wantsToSave(const std::string& path) override;
+    ShownFile::OtherChange askAboutOtherChange(const std::string& path) override;
     void showChanged(bool changed) override;
     void showBusy(bool busy) override;
     void showSaved(const std::string& path, const std::optional<SaveReceipt>& receipt) override;

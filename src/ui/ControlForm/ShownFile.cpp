@@ -2,6 +2,7 @@
 
 #include "collection/DocumentSaving.h"
 #include "collection/XmlExport.h"
+#include "common/KeptReports.h"
 #include "common/xml/XmlLoad.h"
 #include "document/NodePath.h"
 
@@ -16,11 +17,18 @@ void ShownFile::open(const std::string& path, const KeepOptions& keep, WritingWa
 {
     CurrentFileName = path;
     m_way = way;
-    m_stateRead.reset();
-    ErrorTrap noState; // what keeps it from being read is reported below
-    noState.run([&] { m_stateRead = fileState(path); });
+    m_asRead = {};
     clearChanged();
-    const Translation translation = JpegXml().XMLtranslate(CurrentFileName, keep);
+    Translation translation;
+    ErrorTrap opening;
+    opening.run([&] {
+        const InputFile file = openJpeg(path);
+        ErrorTrap noIdentity; // what keeps it from being read is reported below
+        noIdentity.run([&] { m_asRead = identityOf(file); });
+        translation = JpegXml().XMLtranslate(file, path, keep);
+    });
+    if (opening.pending())
+        translation.error = opening.take();
     if (translation.ChangesMade)
         MarkChanged();
     if (translation.error)
@@ -100,38 +108,49 @@ ShownFile::SaveResult ShownFile::OfferSave(bool ask)
         clearChanged();
         return SaveResult::NotSaved;
     }
-    const SaveResult saved = SaveDocument();
-    if (ask && saved == SaveResult::Failed)
-        MarkChanged();
-    return saved;
+    return SaveDocument();
 }
 
 ShownFile::SaveResult ShownFile::SaveDocument()
 {
+    KeptReports reports;
+    const auto error = errorOfSave([&] { return saveDocument(JpegDoc, m_asRead, CurrentFileName, m_way, reports); });
+    if (error && isFileWasChanged(*error))
+        return settleOtherChange();
+    reports.passTo(m_reporter);
+    return error ? SaveResult::Failed : SaveResult::Saved;
+}
+
+ShownFile::SaveResult ShownFile::settleOtherChange()
+{
+    switch (m_window.askAboutOtherChange(CurrentFileName)) {
+    case OtherChange::SaveOver:
+        return errorOfSave([&] { return saveOver(JpegDoc, CurrentFileName, m_way, m_reporter); }) ? SaveResult::Failed
+                                                                                                  : SaveResult::Saved;
+    case OtherChange::ReadAgain:
+        clearChanged();
+        return SaveResult::GivenUp;
+    case OtherChange::Cancel:
+        break;
+    }
+    return SaveResult::Failed;
+}
+
+/// Runs `save`, and returns the error that it raises, if any.
+std::optional<Error> ShownFile::errorOfSave(const std::function<SaveReceipt()>& save)
+{
+    const bool wasChanged = ChangesMade;
     m_window.showBusy(true);
     std::optional<SaveReceipt> receipt;
     ErrorTrap trap;
-    trap.run([&] {
-        checkState();
-        receipt = saveDocument(JpegDoc, CurrentFileName, m_way, m_reporter);
-    });
-    // Whatever became of it, the file does not count as changed any more: of all error numbers, only -1 would keep the
-    // mark.
-    const int number = trap.pending() ? trap.error().number : 0;
-    if (~number != 0)
-        clearChanged();
+    trap.run([&] { receipt = save(); });
+    // The mark goes whatever became of the save; but what was typed and is not in the file is marked again.
+    clearChanged();
+    if (trap.pending() && wasChanged)
+        MarkChanged();
     m_window.showBusy(false);
     m_window.showSaved(CurrentFileName, receipt);
-    return trap.pending() ? SaveResult::Failed : SaveResult::Saved;
-}
-
-/// Reports and raises an error if the file is not the one that the document was read from.
-void ShownFile::checkState()
-{
-    reported(m_reporter, CurrentFileName, [this] {
-        if (m_stateRead && fileState(CurrentFileName) != *m_stateRead)
-            throw Error{kInvalidCall, Message::FileWasChanged};
-    });
+    return trap.pending() ? std::optional(trap.take()) : std::nullopt;
 }
 
 void ShownFile::saveXml()

@@ -1,15 +1,16 @@
 #pragma once
 
-#include "collection/FileState.h"
 #include "common/ErrorReport.h"
 #include "common/xml/XmlDocument.h"
 #include "document/NodeChange.h"
 #include "document/TagDictionary.h"
+#include "jpeg/FileIdentity.h"
 #include "reader/JpegXml.h"
 #include "ui/ControlForm/LeafTree.h"
 #include "ui/ControlForm/OsProperties.h"
 #include "writer/DocumentSave.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,6 +21,13 @@ namespace ovisto {
 /// class, and written to the file on request.
 class ShownFile {
 public:
+    /// What to do with a file that another program changed while it was shown.
+    enum class OtherChange {
+        SaveOver,  ///< save the document over the file as it is now
+        ReadAgain, ///< give up the changes and show the file as it is now
+        Cancel     ///< save nothing
+    };
+
     /// What the file needs from the window.
     class Window {
     public:
@@ -30,6 +38,8 @@ public:
 
         /// Asks whether to save the changes to the file at `path`.
         virtual bool wantsToSave(const std::string& path) = 0;
+        /// Asks what to do instead of saving over what another program made of the file at `path`.
+        virtual OtherChange askAboutOtherChange(const std::string& path) = 0;
         /// Shows whether the file has unsaved changes.
         virtual void showChanged(bool changed) = 0;
         /// Shows whether the program is busy writing the file.
@@ -38,7 +48,12 @@ public:
         virtual void showSaved(const std::string& path, const std::optional<SaveReceipt>& receipt) = 0;
     };
 
-    enum class SaveResult { NotSaved, Saved, Failed };
+    enum class SaveResult {
+        NotSaved,
+        Saved,
+        Failed,
+        GivenUp ///< the changes: the file is to be opened again, as another program changed it
+    };
 
     /// `Merovel` describes the nodes of documents; every failure goes to `reporter`. All arguments must outlive the
     /// object.
@@ -83,19 +98,19 @@ public:
 
     // Saving
 
-    /// Saves the file if it is changed; with `ask`, only if the user says so, and otherwise gives up the changes. If
-    /// saving fails after the user said yes, the file still counts as changed.
+    /// Saves the file if it is changed; with `ask`, only if the user says so, and otherwise gives up the changes.
     SaveResult OfferSave(bool ask);
-    /// Saves the file, changed or not. Afterwards it counts as unchanged, even if saving failed. What another program
-    /// made of the file since it was opened is not overwritten: saving then fails. Open it again after a save, because
-    /// its image data may have moved.
+    /// Saves the file, changed or not. If that fails, changes still count as changes. What another program made of the
+    /// file since it was opened is overwritten only if the user says so. Open it again after a save, because its image
+    /// data may have moved.
     SaveResult SaveDocument();
     /// Exports the document to an XML file beside the photograph.
     void saveXml();
 
 private:
     ChangeResult apply(const NodeChange& change);
-    void checkState();
+    SaveResult settleOtherChange();
+    std::optional<Error> errorOfSave(const std::function<SaveReceipt()>& save);
 
     const TagDictionary& m_merovel;
     ErrorReporter& m_reporter;
@@ -103,8 +118,8 @@ private:
     XmlDocument JpegDoc;
     std::string CurrentFileName;
     WritingWay m_way = WritingWay::Keep;
-    std::optional<FileState> m_stateRead; ///< of the file when JpegDoc was read; nothing if it could not be read
-    bool ChangesMade = false;             ///< JpegDoc differs from the file
+    FileIdentity m_asRead;    ///< the file that JpegDoc was read from
+    bool ChangesMade = false; ///< JpegDoc differs from the file
     OsProperties m_osProperties;
 };
 

@@ -53,6 +53,13 @@ SlideRequest slideRequest(const std::string& path, QSize maximum)
     return {path, maximum, std::filesystem::last_write_time(path, missing)};
 }
 
+Slide failedSlide(const SlideRequest& request, const Error& error)
+{
+    Slide slide;
+    slide.failure = pathText(splitPath(request.path).name) + QLatin1Char('\n') + toQString(error.description);
+    return slide;
+}
+
 std::optional<Slide> decodeSlide(const SlideRequest& request, const QLocale& locale, const DecodeLimits& limits)
 {
     Slide slide;
@@ -64,7 +71,7 @@ std::optional<Slide> decodeSlide(const SlideRequest& request, const QLocale& loc
     if (limits.abandoned || isTooLarge)
         return std::nullopt;
     if (trap.pending())
-        slide.failure = pathText(splitPath(request.path).name) + QLatin1Char('\n') + toQString(trap.take().description);
+        slide.failure = failedSlide(request, trap.take()).failure;
     return slide;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/Error.h"
+
 #include <QImage>
 #include <QLocale>
 #include <QSize>
@@ -36,6 +38,9 @@ struct DecodeLimits {
     std::int64_t mostBytes;             ///< of a picture in memory
     const std::atomic<bool>& abandoned; ///< true once nobody waits for the slide
 };
+
+/// What is shown instead of a slide that could not be made.
+Slide failedSlide(const SlideRequest& request, const Error& error);
 
 /// Makes a slide. Nothing if it is abandoned in the meantime or its picture would take more memory than allowed.
 std::optional<Slide> decodeSlide(const SlideRequest& request, const QLocale& locale, const DecodeLimits& limits);

@@ -59,7 +59,11 @@ void SlideCache::make(std::unique_lock<std::mutex>& lock, const SlideRequest& re
     m_abandoned = false;
     const auto mostBytes = isNeededNow(request) ? std::numeric_limits<std::int64_t>::max() : kMostBytesAhead;
     lock.unlock();
-    auto slide = m_decoder(request, {mostBytes, m_abandoned});
+    std::optional<Slide> slide;
+    ErrorTrap trap; // no exception leaves the thread
+    trap.run([&] { slide = m_decoder(request, {mostBytes, m_abandoned}); });
+    if (trap.pending())
+        slide = failedSlide(request, trap.take());
     lock.lock();
     m_inHand.reset();
     // One that turned out too large, but is needed by now, is made again.

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -41,6 +42,39 @@ struct stat statusOf(int descriptor)
     struct stat status = {};
     checked(systemCall(&SystemCalls::fstat, descriptor, &status));
     return status;
+}
+
+std::int64_t nanoseconds(const timespec& time)
+{
+    constexpr std::int64_t kPerSecond = 1'000'000'000;
+    return std::int64_t{time.tv_sec} * kPerSecond + time.tv_nsec;
+}
+
+std::int64_t nanosecondsNow()
+{
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
+}
+
+/// Whether a file that was last changed at `time` could be changed after `now` and get the same time. The system's
+/// clock for files ticks every 10 milliseconds or more often, that of some file systems every second or two.
+bool isRecentAt(std::int64_t now, std::int64_t time)
+{
+    constexpr std::int64_t kTick = 20'000'000;
+    constexpr std::int64_t kSecond = 1'000'000'000;
+    const bool hasWholeSeconds = time % kSecond == 0;
+    return time > now - (hasWholeSeconds ? 2 * kSecond : kTick);
+}
+
+FileStatus fileStatus(const struct stat& status, std::int64_t now)
+{
+    FileStatus result{.device = status.st_dev,
+                      .inode = status.st_ino,
+                      .size = status.st_size,
+                      .modified = nanoseconds(status.st_mtim),
+                      .changed = nanoseconds(status.st_ctim)};
+    result.isRecent = isRecentAt(now, std::max(result.modified, result.changed));
+    return result;
 }
 
 /// False when another save holds the file. A file system without locks has none that could.
@@ -133,10 +167,11 @@ FileHandle::~FileHandle()
 // O_NONBLOCK: a pipe that nobody writes to must not keep the program waiting.
 InputFile::InputFile(const std::string& path) : m_handle(openFile(path, O_RDONLY | O_NONBLOCK))
 {
+    const std::int64_t now = nanosecondsNow();
     const struct stat status = statusOf(m_handle.get());
     if (!S_ISREG(status.st_mode))
         throw systemError(kPathAccessError);
-    m_size = status.st_size;
+    m_status = fileStatus(status, now);
 }
 
 std::size_t InputFile::readAt(std::int64_t offset, std::span<std::uint8_t> into) const

@@ -77,6 +77,11 @@ bool keepFile(const std::string& path, const std::string& keptPath)
     return true;
 }
 
+void forgetKept(const std::string& keptPath)
+{
+    systemCall(&SystemCalls::unlink, keptPath.c_str());
+}
+
 void syncFolder(const std::string& folder)
 {
     const char* name = folder.empty() ? "." : folder.c_str();

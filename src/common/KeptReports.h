@@ -1,0 +1,26 @@
+#pragma once
+
+#include "common/ErrorReport.h"
+
+#include <utility>
+#include <vector>
+
+namespace ovisto {
+
+/// Keeps reports until it is known whether anyone should see them.
+class KeptReports : public ErrorReporter {
+public:
+    void report(const Phrase& context, const Error& error) override { m_reports.emplace_back(context, error); }
+
+    /// Reports all of them to `reporter`.
+    void passTo(ErrorReporter& reporter) const
+    {
+        for (const auto& [context, error] : m_reports)
+            ErrorReport(reporter, context, error);
+    }
+
+private:
+    std::vector<std::pair<Phrase, Error>> m_reports;
+};
+
+} // namespace ovisto
