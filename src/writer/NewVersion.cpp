@@ -139,7 +139,11 @@ void NewVersion::putInPlace()
 {
     checkNewFile([&] { checkOldFile(); });
     if (!m_receipt.losses.empty()) {
-        keepOriginal();
+        ErrorTrap trap;
+        trap.run([&] { keepOriginal(); });
+        if (trap.pending())
+            m_newFile.discard();
+        trap.raise();
         checkNewFile([&] { checkKeptFile(); }); // that took its time
     }
     raise(replaceFile(m_temporaryName, m_target), m_target, m_reporter);
