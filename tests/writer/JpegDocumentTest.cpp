@@ -118,7 +118,7 @@ TEST(WriteJpeg, WritesAllTextOfOtherApp1SegmentsButTheLineBreakOfTheLayout)
             text.replace(text.find(old), old.size(), c.content);
             XmlDocument document = documentOf(text);
             RecordingReporter reporter;
-            EXPECT_EQ(errorNumberOf([&] { saveDocument(document, path, way, reporter); }), c.error) << c.content;
+            EXPECT_EQ(errorNumberOf([&] { saveNow(document, path, way, reporter); }), c.error) << c.content;
             const std::string written = c.error == 0 ? c.text : "<x:xmpmeta/>";
             EXPECT_NE(JpegXml().XMLtranslate(path).text.find("<![CDATA[" + written + "]]>"), std::string::npos)
                 << c.content;
