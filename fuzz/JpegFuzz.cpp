@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             const std::vector<ovisto::XmlNode> entries = document.node().descendants("IFD");
             if (size % 2 == 0 && !entries.empty()) // one value is deleted, or nothing changed
                 ovisto::XmlNode(entries[size / 2 % entries.size()]).remove();
-            ovisto::saveDocument(document, reading.identity, path, way, reporter);
+            ovisto::saveDocument(document, reading.identity, path, {way}, reporter);
         });
     }
     return 0;

@@ -3,6 +3,7 @@
 #include "cli/Options.h"
 #include "cli/TerminalText.h"
 #include "collection/DocumentSaving.h"
+#include "common/system/Interruption.h"
 
 namespace ovisto {
 
@@ -16,7 +17,9 @@ int runCheck(const FileOptions& options)
             result.output += oneLine(path + ": " + inEnglish(loss), std::string::npos) + "\n";
         result.failed = !receipt.losses.empty();
     };
-    return runEach(fileNames(options), options.jobs, work);
+    const std::vector<std::string> files = fileNames(options);
+    deferInterruption();
+    return runEach(files, options.jobs, work);
 }
 
 } // namespace

@@ -64,8 +64,8 @@ Transformation transformed(const ReportCommandOptions& options, const std::vecto
     // Nothing is written before: a style sheet that never comes out of its pipe is not waited for once more.
     loadStyleSheet(style, options.styleSheet, FileKind::RegularOrPipe, options.readable);
     deferInterruption();
-    const TemporaryFile combined;
-    for (const FileFailure& failure : combineDocuments(files, options.keep, combined.path(), output.progress()))
+    TemporaryFile combined;
+    for (const FileFailure& failure : combineDocuments(files, options.keep, combined.file(), output.progress()))
         ErrorReport(output, failure.path, failure.error);
     if (interrupted())
         return {};

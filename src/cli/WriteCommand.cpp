@@ -1,10 +1,9 @@
 #include "cli/Commands.h"
 #include "cli/EachFile.h"
 #include "cli/Options.h"
-#include "collection/BatchAction.h"
+#include "cli/TerminalText.h"
 #include "collection/DocumentLoad.h"
 #include "collection/DocumentSaving.h"
-#include "common/system/File.h"
 #include "common/system/Interruption.h"
 #include "common/xml/XmlLoad.h"
 #include "document/MetadataDocument.h"
@@ -12,9 +11,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
-#include <iterator>
-#include <unordered_set>
 #include <utility>
 
 namespace ovisto {
@@ -69,12 +65,13 @@ XmlDocument loadEdited(const std::string& documentPath)
 
 /// Writes an edited document, which must be of the file as it is when the command opens it: the image data is taken
 /// from there.
-SaveReceipt writeEdited(const WriteOptions& options, const std::string& path, ErrorReporter& reporter)
+SaveReceipt writeEdited(const WriteOptions& options, const std::string& path, ErrorReporter& reporter,
+                        const SparedFile& isSpared)
 {
     const FileReading reading = readFile(path);
     XmlDocument document = loadEdited(options.document);
     const bool isOfFile = imageParts(document) == imageParts(documentOf(reading.text));
-    const WritingWay way = options.writing.way();
+    const SavingWay way{.writing = options.writing.way(), .isSpared = isSpared};
     if (!isOfFile && !options.writing.force)
         throw Error{kInvalidCall, options.document + " describes another image, or this file before it was changed"};
     if (!isOfFile)
@@ -89,25 +86,15 @@ SaveReceipt writeEdited(const WriteOptions& options, const std::string& path, Er
 }
 
 /// Writes a file from its own document.
-SaveReceipt writeAnew(const WriteOptions& options, const std::string& path, ErrorReporter& reporter)
+SaveReceipt writeAnew(const WriteOptions& options, const std::string& path, ErrorReporter& reporter,
+                      const SparedFile& isSpared)
 {
     const auto write = [&](ErrorReporter& reports) {
         const FileReading reading = readFile(path);
         XmlDocument document = documentOf(reading.text);
-        return saveDocument(document, reading.identity, path, options.writing.way(), reports);
+        return saveDocument(document, reading.identity, path, {options.writing.way(), isSpared}, reports);
     };
     return options.writing.force ? savedAtLast(reporter, write) : write(reporter);
-}
-
-/// Those of `files` that would destroy another one of them while they are written.
-std::unordered_set<std::string> overwritingFiles(const std::vector<std::string>& files)
-{
-    std::vector<std::string> realPaths;
-    std::ranges::transform(files, std::back_inserter(realPaths), realPath);
-    std::unordered_set<std::string> overwriting;
-    for (const std::size_t index : overwritingOthers(realPaths))
-        overwriting.insert(files[index]);
-    return overwriting;
 }
 
 int runWrite(const WriteOptions& options)
@@ -115,15 +102,15 @@ int runWrite(const WriteOptions& options)
     std::vector<std::string> files = fileNames(options.files);
     deferInterruption();
     files = withoutRepeats(std::move(files));
-    const std::unordered_set<std::string> overwriting = overwritingFiles(files);
-    return runEach(files, options.files.jobs,
-                   [&](const std::string& path, FileResult& result, ErrorReporter& reporter) {
-                       if (overwriting.contains(path))
-                           throw Error(overwritingError());
-                       const SaveReceipt receipt = options.document.empty() ? writeAnew(options, path, reporter)
-                                                                            : writeEdited(options, path, reporter);
-                       result.notes = savedLines(options.writing, path, receipt);
-                   });
+    const SparedFile isSpared = sparing(files);
+    return runEach(
+        files, options.files.jobs, [&](const std::string& path, FileResult& result, ErrorReporter& reporter) {
+            const SaveReceipt receipt = options.document.empty() ? writeAnew(options, path, reporter, isSpared)
+                                                                 : writeEdited(options, path, reporter, isSpared);
+            result.notes = savedLines(options.writing, path, receipt);
+            if (receipt.notOnDisk)
+                result.errors = errorLine(path, receipt.notOnDisk->description);
+        });
 }
 
 } // namespace

@@ -6,9 +6,7 @@
 #include "common/system/File.h"
 #include "common/system/FileReplacement.h"
 #include "common/system/Process.h"
-#include "common/text/PathText.h"
 #include "document/MetadataDocument.h"
-#include "writer/NewVersion.h"
 
 #include <algorithm>
 #include <iterator>
@@ -30,7 +28,7 @@ constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< on th
 class Group {
 public:
     /// `room` is shared by all groups that run at the same time.
-    Group(const NodeChange& change, WritingWay way, OnOtherChange onOtherChange, ErrorReporter& reporter,
+    Group(const NodeChange& change, const SavingWay& way, OnOtherChange onOtherChange, ErrorReporter& reporter,
           const SavedFile& saved, std::shared_mutex& room)
         : m_change(change), m_way(way), m_onOtherChange(onOtherChange), m_reporter(reporter), m_saved(saved),
           m_room(room), m_share(room, std::defer_lock)
@@ -87,8 +85,9 @@ private:
             if (!applyChange(document, m_change, member->report))
                 return;
             const XmlDocument before = documentOf(reading.text);
-            member->version.emplace(member->report, path, Leftover::Spared, reading.identity);
-            member->version->write({m_way, before, document, readDocument});
+            member->version.emplace(member->report, path,
+                                    NewVersionOptions{ReadOnlyFails::AtOnce, m_way.isSpared, reading.identity});
+            member->version->write({m_way.writing, before, document, readDocument});
         });
         if (trap.pending() && trap.error().number == kDiskFull && onDiskFull == DiskFull::TryAgain)
             return false;
@@ -130,7 +129,7 @@ private:
             });
         }
         for (const std::string& folder : folders)
-            syncFolder(folder);
+            bringToDisk(folder);
         m_members.clear();
         m_bytes = 0;
     }
@@ -138,6 +137,16 @@ private:
     bool isToBeChangedAgain(const Member& member, const Error& error) const
     {
         return m_onOtherChange == OnOtherChange::ChangeAgain && isFileWasChanged(error) && member.tries < kMostTries;
+    }
+
+    void bringToDisk(const std::string& folder)
+    {
+        ErrorTrap trap;
+        trap.run([&] { syncFolder(folder); });
+        for (const auto& member : m_members) {
+            if (trap.pending() && !member->failed && member->version->folder() == folder)
+                ErrorReport(m_reporter, member->path, trap.error());
+        }
     }
 
     /// A group takes part of the room as long as it has new versions.
@@ -177,7 +186,7 @@ private:
     }
 
     const NodeChange& m_change;
-    WritingWay m_way;
+    const SavingWay& m_way;
     OnOtherChange m_onOtherChange;
     ErrorReporter& m_reporter;
     const SavedFile& m_saved;
@@ -200,13 +209,12 @@ std::size_t groupSizeFor(unsigned jobs)
 
 BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange change, WritingWay way, unsigned jobs,
                          OnOtherChange onOtherChange)
-    : m_files(files), m_change(std::move(change)), m_way(way), m_onOtherChange(onOtherChange),
+    : m_files(files), m_change(std::move(change)), m_way{way, sparing(files)}, m_onOtherChange(onOtherChange),
       m_groupSize(groupSizeFor(jobs))
 {
     std::vector<std::string> realPaths;
     realPaths.reserve(files.size());
     std::ranges::transform(files, std::back_inserter(realPaths), realPath);
-    m_overwriting = overwritingOthers(realPaths);
     std::unordered_set<std::string_view> seen;
     for (std::size_t i = 0; i < realPaths.size(); ++i) {
         if (!seen.insert(realPaths[i]).second)
@@ -222,32 +230,12 @@ void BatchAction::run(std::size_t first, std::size_t last, Progress& progress, E
         const std::string& path = m_files[i];
         if (!progress.step(path, i, m_files.size()))
             break;
-        if (m_overwriting.contains(i)) {
-            ErrorReport(reporter, path, overwritingError());
-            continue;
-        }
         // The second time a file comes along, what the first time made of it has to be there.
         if (group.size() >= m_groupSize || group.bytes() >= kGroupBytes || m_repeated.contains(i))
             group.finish();
         group.add(path);
     }
     group.finish();
-}
-
-std::unordered_set<std::size_t> overwritingOthers(const std::vector<std::string>& realPaths)
-{
-    const std::unordered_set<std::string_view> all(realPaths.begin(), realPaths.end());
-    std::unordered_set<std::size_t> overwriting;
-    for (std::size_t i = 0; i < realPaths.size(); ++i) {
-        if (all.contains(temporaryNameOf(realPaths[i])))
-            overwriting.insert(i);
-    }
-    return overwriting;
-}
-
-Error overwritingError()
-{
-    return {kPathAccessError, Message::TemporaryNameTaken};
 }
 
 } // namespace ovisto

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "collection/DocumentSaving.h"
 #include "common/ErrorReport.h"
 #include "common/Progress.h"
 #include "document/NodeChange.h"
 #include "writer/DocumentSave.h"
+#include "writer/NewVersion.h"
 
 #include <cstddef>
 #include <functional>
@@ -39,8 +41,8 @@ public:
 
     /// Changes all files, one Progress::step() before each; when that returns false, the files before are still put in
     /// place. Each failed file is reported once, with its path as context, and is left unchanged; the run goes on. To
-    /// stop after a failure, return false from the next step. A file whose temporary name is that of another file in
-    /// the list fails, as saving it would destroy the other.
+    /// stop after a failure, return false from the next step. Files that are saved but not known to be on disk are
+    /// reported too.
     void run(Progress& progress, ErrorReporter& reporter, const SavedFile& saved = {}) const
     {
         run(0, m_files.size(), progress, reporter, saved);
@@ -54,17 +56,11 @@ public:
 private:
     const std::vector<std::string>& m_files;
     NodeChange m_change;
-    WritingWay m_way;
+    SavingWay m_way;
     OnOtherChange m_onOtherChange;
     std::size_t m_groupSize;
-    std::unordered_set<std::size_t> m_overwriting; ///< their temporary name is another file of the list
-    mutable std::shared_mutex m_room;              ///< on the disk, shared by the stretches
-    std::unordered_set<std::size_t> m_repeated;    ///< earlier in the list under this or another name
+    mutable std::shared_mutex m_room;           ///< on the disk, shared by the stretches
+    std::unordered_set<std::size_t> m_repeated; ///< earlier in the list under this or another name
 };
-
-/// The indexes of those `realPaths` whose temporary name is another of them.
-std::unordered_set<std::size_t> overwritingOthers(const std::vector<std::string>& realPaths);
-/// The error of such a file.
-Error overwritingError();
 
 } // namespace ovisto

@@ -2,12 +2,16 @@
 
 #include "collection/DocumentLoad.h"
 #include "common/KeptReports.h"
+#include "common/system/FileNames.h"
 #include "common/system/FileReplacement.h"
 #include "common/system/TemporaryFile.h"
 #include "document/MetadataDocument.h"
 #include "document/NodePath.h"
 #include "writer/JpegRebuilding.h"
-#include "writer/NewVersion.h"
+
+#include <memory>
+#include <set>
+#include <utility>
 
 namespace ovisto {
 
@@ -36,20 +40,38 @@ void adoptPicture(XmlDocument& document, const XmlDocument& present)
 }
 
 SaveReceipt save(const XmlDocument& before, XmlDocument& after, const FileIdentity& asRead, const std::string& path,
-                 WritingWay way, ErrorReporter& reporter)
+                 const SavingWay& way, ErrorReporter& reporter)
 {
-    NewVersion version(reporter, path, way == WritingWay::Keep ? Leftover::Spared : Leftover::Kept, asRead);
-    version.write({way, before, after, readDocument});
+    NewVersion version(reporter, path, {ReadOnlyFails::AtTheEnd, way.isSpared, asRead});
+    version.write({way.writing, before, after, readDocument});
     version.bringToDisk();
     version.putInPlace();
-    syncFolder(version.folder());
-    return version.receipt();
+    SaveReceipt receipt = version.receipt();
+    ErrorTrap trap;
+    trap.run([&] { reported(reporter, path, [&] { syncFolder(version.folder()); }); });
+    if (trap.pending())
+        receipt.notOnDisk = trap.take();
+    return receipt;
 }
 
 } // namespace
 
-SaveReceipt saveDocument(XmlDocument& document, const FileIdentity& asRead, const std::string& path, WritingWay way,
-                         ErrorReporter& reporter)
+SparedFile sparing(const std::vector<std::string>& files)
+{
+    std::set<std::string> spared;
+    for (const std::string& file : files) {
+        if (file[folderOf(file).size()] == '~')
+            spared.insert(realPath(file));
+    }
+    if (spared.empty())
+        return {};
+    return [spared = std::make_shared<const std::set<std::string>>(std::move(spared))](const std::string& path) {
+        return spared->contains(realPath(path));
+    };
+}
+
+SaveReceipt saveDocument(XmlDocument& document, const FileIdentity& asRead, const std::string& path,
+                         const SavingWay& way, ErrorReporter& reporter)
 {
     XmlDocument before;
     reported(reporter, path, [&] {
@@ -61,7 +83,7 @@ SaveReceipt saveDocument(XmlDocument& document, const FileIdentity& asRead, cons
     return save(before, document, asRead, path, way, reporter);
 }
 
-SaveReceipt saveOver(XmlDocument& document, const std::string& path, WritingWay way, ErrorReporter& reporter)
+SaveReceipt saveOver(XmlDocument& document, const std::string& path, const SavingWay& way, ErrorReporter& reporter)
 {
     return savedAtLast(reporter, [&](ErrorReporter& reports) {
         FileReading reading;
@@ -95,11 +117,10 @@ SaveReceipt tryRebuilding(const std::string& path, ErrorReporter& reporter)
     const std::string text = documentText(path);
     const XmlDocument before = documentOf(text);
     XmlDocument document = documentOf(text);
-    const TemporaryFile rebuilt;
+    TemporaryFile rebuilt;
     const InputFile oldFile(path);
-    OutputFile newFile(rebuilt.path());
-    rebuildJpeg(document, oldFile, newFile, rebuilt.path(), reporter);
-    newFile.flush();
+    rebuildJpeg(document, oldFile, rebuilt.file(), rebuilt.path(), reporter);
+    rebuilt.file().flush();
     return compareVersions(oldFile, InputFile(rebuilt.path()), rebuilt.path(), before, document, readDocument);
 }
 

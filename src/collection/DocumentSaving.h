@@ -4,21 +4,34 @@
 #include "common/xml/XmlDocument.h"
 #include "jpeg/FileIdentity.h"
 #include "writer/DocumentSave.h"
+#include "writer/NewVersion.h"
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace ovisto {
 
+/// How a document is saved.
+struct SavingWay {
+    WritingWay writing = WritingWay::Keep;
+    SparedFile isSpared{}; ///< see NewVersionOptions
+};
+
+/// Spares those of `files` that have a name such as temporary files have, so that all of them can be saved. It may
+/// outlive `files`.
+SparedFile sparing(const std::vector<std::string>& files);
+
 /// Saves `document` to its file at `path`, which must be the one `asRead` that the document was read from, unchanged.
-/// Raises the error that kept the file from being replaced, which has been reported; the file is then unchanged.
-/// Rebuilding lays out the Exif elements of `document`.
-SaveReceipt saveDocument(XmlDocument& document, const FileIdentity& asRead, const std::string& path, WritingWay way,
-                         ErrorReporter& reporter);
+/// Raises the error that kept the file from being replaced, which has been reported; the file is then unchanged. That
+/// the saved file is not known to be on disk is reported, and said by the receipt. Rebuilding lays out the Exif
+/// elements of `document`.
+SaveReceipt saveDocument(XmlDocument& document, const FileIdentity& asRead, const std::string& path,
+                         const SavingWay& way, ErrorReporter& reporter);
 
 /// The same for the file as it is now, whatever became of it since the document was read: what the document does not
 /// show stays as it is in the file. Raises an error if its picture needs other tables than the document has.
-SaveReceipt saveOver(XmlDocument& document, const std::string& path, WritingWay way, ErrorReporter& reporter);
+SaveReceipt saveOver(XmlDocument& document, const std::string& path, const SavingWay& way, ErrorReporter& reporter);
 
 /// How often a file is saved again that another program keeps changing.
 inline constexpr int kMostTries = 5;

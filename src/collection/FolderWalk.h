@@ -19,7 +19,7 @@ namespace ovisto {
 class FolderWalk {
 public:
     /// Raises kPathNotFound, described by Message::FolderNotFound, when `folder` cannot be read. The files are those
-    /// whose names match `patterns`.
+    /// whose names match `patterns`, without what saves left under temporary names.
     FolderWalk(std::string folder, std::string_view patterns, bool subFolders);
 
     /// A file and its place among the files of its folder.
@@ -42,7 +42,7 @@ private:
     std::vector<std::string> m_names; ///< of its files
     std::size_t m_place = 0;          ///< of the next of them
     std::vector<std::string> m_ahead; ///< folders to read, the next one at the end
-    std::set<FolderIdentity> m_seen;
+    std::set<FileId> m_seen;
 };
 
 } // namespace ovisto

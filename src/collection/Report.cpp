@@ -64,12 +64,11 @@ std::string writeReport(const std::string& report, const std::string& folder, Er
 } // namespace
 
 std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files, const KeepOptions& keep,
-                                          const std::string& combined, Progress& progress)
+                                          OutputFile& combined, Progress& progress)
 {
     std::vector<FileFailure> leftOut;
-    OutputFile file(combined, NewFileAccess::Usual);
-    write(file, kByteOrderMark);
-    write(file, utf16Bytes("<JPEGs>"));
+    write(combined, kByteOrderMark);
+    write(combined, utf16Bytes("<JPEGs>"));
     for (std::size_t i = 0; i < files.size(); ++i) {
         if (!progress.step(files[i], i, files.size()))
             break;
@@ -79,10 +78,10 @@ std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files,
         if (trap.pending())
             leftOut.push_back({files[i], trap.take()});
         else
-            write(file, utf16Bytes(text));
+            write(combined, utf16Bytes(text));
     }
-    write(file, utf16Bytes("</JPEGs>"));
-    file.flush();
+    write(combined, utf16Bytes("</JPEGs>"));
+    combined.flush();
     return leftOut;
 }
 
@@ -98,7 +97,8 @@ ReportResult makeReport(const std::vector<std::string>& files, const ReportOptio
     const std::string combined = options.folder + "Report.xml";
     if (!attempt(reporter, combined, [&] {
             createFolders(options.folder);
-            result.leftOut = combineDocuments(files, options.keep, combined, progress);
+            OutputFile file(combined, NewFileAccess::Usual);
+            result.leftOut = combineDocuments(files, options.keep, file, progress);
             progress.endOfFiles();
             XMLLoad(document, combined);
         }))

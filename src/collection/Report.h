@@ -2,6 +2,7 @@
 
 #include "common/ErrorReport.h"
 #include "common/Progress.h"
+#include "common/system/File.h"
 #include "reader/JpegXml.h"
 
 #include <string>
@@ -21,7 +22,7 @@ struct FileFailure {
 /// it, the files before are included. A file that the reader could not translate in full, or whose document is not
 /// well-formed, is left out and returned. Raises an error if `combined` cannot be written.
 std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files, const KeepOptions& keep,
-                                          const std::string& combined, Progress& progress);
+                                          OutputFile& combined, Progress& progress);
 
 /// How a report is made.
 struct ReportOptions {

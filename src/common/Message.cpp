@@ -74,6 +74,9 @@ constexpr MessageText kTexts[] = {
     {Message::ImageTransferFailed, QT_TRANSLATE_NOOP("Message", "%1 transfer of image from existing file failed")},
     {Message::DeleteOldFile, QT_TRANSLATE_NOOP("Message", "Delete old file %1")},
     {Message::RenameFile, QT_TRANSLATE_NOOP("Message", "Rename file %1 to %2")},
+    {Message::TemporaryFileGone, QT_TRANSLATE_NOOP("Message", "Another program has moved or replaced the new version")},
+    {Message::NewVersionStays, QT_TRANSLATE_NOOP("Message", "%1. The new version is in %2")},
+    {Message::NotKnownOnDisk, QT_TRANSLATE_NOOP("Message", "It is saved, but not known to be on disk. %1")},
     {Message::TextHasCdataEnd, QT_TRANSLATE_NOOP("Message", "The text has \"]]>\", which could not be read back")},
     {Message::TextHasControl,
      QT_TRANSLATE_NOOP("Message", "The text has a control character that could not be read back")},
@@ -158,8 +161,6 @@ constexpr MessageText kTexts[] = {
     {Message::AndMore, QT_TRANSLATE_NOOP("Message", "%1, and %2 more")},
 
     {Message::RootIsNotJpeg, QT_TRANSLATE_NOOP("Message", "The root element is %1, not JPEG")},
-    {Message::TemporaryNameTaken,
-     QT_TRANSLATE_NOOP("Message", "Another file of the list has the name of its temporary file")},
     {Message::FolderNotFound, QT_TRANSLATE_NOOP("Message", "Folder not found")},
     {Message::NoFilesFound, QT_TRANSLATE_NOOP("Message", "No files found with search criteria specified.  Click 'Find "
                                                          "Files' button to try again.")},

@@ -59,6 +59,9 @@ enum class Message : std::uint8_t {
     ImageTransferFailed,
     DeleteOldFile,
     RenameFile,
+    TemporaryFileGone,
+    NewVersionStays,
+    NotKnownOnDisk,
     TextHasCdataEnd,
     TextHasControl,
     TextHasElements,
@@ -127,7 +130,6 @@ enum class Message : std::uint8_t {
     AndMore,
     // Collections
     RootIsNotJpeg,
-    TemporaryNameTaken,
     FolderNotFound,
     NoFilesFound,
     FilesFound,

@@ -7,11 +7,11 @@ namespace ovisto {
 
 void JpegDocument::WriteJpeg(XmlDocument& document, const std::string& fileName)
 {
-    NewVersion version(m_reporter, fileName, Leftover::Kept);
+    NewVersion version(m_reporter, fileName, {});
     version.write(document, m_read);
     version.bringToDisk();
     version.putInPlace();
-    syncFolder(version.folder());
+    attempt(m_reporter, fileName, [&] { syncFolder(version.folder()); });
 }
 
 } // namespace ovisto

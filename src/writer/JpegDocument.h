@@ -15,9 +15,10 @@ public:
     /// Reports every failure to `reporter`, which must outlive the object. `read` reads back what was written.
     JpegDocument(ErrorReporter& reporter, DocumentReader read) : m_reporter(reporter), m_read(std::move(read)) {}
 
-    /// Rewrites the file from `document`, as rebuildJpeg() does. The new file is complete, under the file's name with
-    /// "~" in front, and can be read back before it replaces the old one; an existing file of that name is deleted.
-    /// Failures are reported and raised; the old file is then unchanged, and the "~" file may be left.
+    /// Rewrites the file from `document`, as rebuildJpeg() does. The new file is complete, under a temporary name, and
+    /// can be read back before it replaces the old one. Failures are reported and raised; the old file is then
+    /// unchanged. A complete new file that could not replace it stays. One that did, but may not be on disk yet, is
+    /// only reported.
     void WriteJpeg(XmlDocument& document, const std::string& fileName);
 
 private:

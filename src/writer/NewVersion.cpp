@@ -1,9 +1,9 @@
 #include "writer/NewVersion.h"
 
-#include "common/system/FileReplacement.h"
-#include "common/text/PathText.h"
+#include "common/system/FileNames.h"
 #include "writer/FilePatch.h"
 #include "writer/JpegRebuilding.h"
+#include "writer/Leftover.h"
 
 #include <map>
 #include <optional>
@@ -13,43 +13,46 @@ namespace ovisto {
 
 namespace {
 
-/// The file at `path`, opened. A failure is reported in `context`.
-template <class File> File opened(ErrorReporter& reporter, const Phrase& context, const std::string& path)
+/// What `make` returns. A failure is reported in `context`.
+template <class Make> auto madeOrReported(ErrorReporter& reporter, const Phrase& context, Make make)
 {
-    std::optional<File> file;
-    reported(reporter, context, [&] { file.emplace(path); });
-    return std::move(*file);
-}
-
-/// Reports and raises the failure, if any, to replace the file `target`.
-void raise(const std::optional<ReplaceFailure>& failure, const std::string& target, ErrorReporter& reporter)
-{
-    if (!failure)
-        return;
-    const Phrase context = failure->step == ReplaceStep::Delete
-                               ? Phrase(Message::DeleteOldFile, target)
-                               : Phrase(Message::RenameFile, temporaryNameOf(target), target);
-    ErrorReport(reporter, context, failure->error);
-    throw failure->error;
-}
-
-/// The file that `fileName` leads to.
-std::string replaceableTarget(const std::string& fileName, Leftover leftover, ErrorReporter& reporter)
-{
-    std::string target = linkTarget(fileName);
-    if (leftover == Leftover::Spared)
-        raise(replaceObstacle(target), target, reporter);
-    return target;
+    std::optional<decltype(make())> made;
+    reported(reporter, context, [&] { made.emplace(make()); });
+    return std::move(*made);
 }
 
 } // namespace
 
-NewVersion::NewVersion(ErrorReporter& reporter, const std::string& fileName, Leftover leftover,
-                       const std::optional<FileIdentity>& asRead)
-    : m_reporter(reporter), m_leftover(leftover), m_target(replaceableTarget(fileName, leftover, reporter)),
-      m_temporaryName(temporaryNameOf(m_target)), m_oldFile(opened<InputFile>(reporter, fileName, m_target)),
-      m_asRead(oldIdentity(asRead)), m_newFile(opened<OutputFile>(reporter, m_temporaryName, m_temporaryName))
+NewVersion::NewVersion(ErrorReporter& reporter, const std::string& fileName, const NewVersionOptions& options)
+    : m_reporter(reporter), m_isSpared(options.isSpared), m_target(target(fileName, options.readOnlyFails)),
+      m_oldFile(madeOrReported(reporter, fileName, [&] { return InputFile(m_target); })),
+      m_asRead(oldIdentity(options.asRead)),
+      m_newFile(madeOrReported(
+          reporter, temporaryName(m_target),
+          [&] { return OutputFile::forNewVersionOf(m_target, std::bind_front(&NewVersion::isLeftover, this)); })),
+      m_temporaryName(m_newFile.path())
 {
+}
+
+NewVersion::~NewVersion()
+{
+    if (!m_stays)
+        m_newFile.discard();
+}
+
+/// The file that `fileName` leads to.
+std::string NewVersion::target(const std::string& fileName, ReadOnlyFails readOnlyFails)
+{
+    std::string target = madeOrReported(m_reporter, fileName, [&] { return linkTarget(fileName); });
+    const auto obstacle = readOnlyFails == ReadOnlyFails::AtOnce ? replaceObstacle(target) : std::nullopt;
+    if (obstacle)
+        reported(m_reporter, Phrase(Message::DeleteOldFile, target), [&] { throw Error(obstacle->error); });
+    return target;
+}
+
+bool NewVersion::isLeftover(const std::string& path, const InputFile& file) const
+{
+    return isIncomplete(file, m_oldFile) || (hasSameImage(file, m_oldFile) && !(m_isSpared && m_isSpared(path)));
 }
 
 /// The identity of the old file, which has to be the one that was read.
@@ -67,7 +70,7 @@ FileIdentity NewVersion::oldIdentity(const std::optional<FileIdentity>& asRead) 
 void NewVersion::write(XmlDocument& document, const DocumentReader& read)
 {
     rebuild(document);
-    checkNewFile([&] { readBack(m_temporaryName, read); });
+    reported(m_reporter, m_target, [&] { readBack(m_temporaryName, read); });
 }
 
 void NewVersion::write(const DocumentSave& save)
@@ -76,7 +79,7 @@ void NewVersion::write(const DocumentSave& save)
         rebuild(save.after);
     else
         writeWhole([&] { patch(save); });
-    checkNewFile([&] { compare(save); });
+    reported(m_reporter, m_target, [&] { compare(save); });
 }
 
 void NewVersion::rebuild(XmlDocument& document)
@@ -102,21 +105,10 @@ void NewVersion::compare(const DocumentSave& save)
         throw Error{kInvalidCall, m_receipt.losses.front()};
 }
 
-/// Runs a check that the new version may fail. It is then of no use and is deleted.
-template <class Check> void NewVersion::checkNewFile(Check check)
-{
-    ErrorTrap trap;
-    trap.run([&] { reported(m_reporter, m_target, check); });
-    if (trap.pending())
-        m_newFile.discard();
-    trap.raise();
-}
-
 void NewVersion::bringToDisk()
 {
-    const auto sync = [&] { m_newFile.sync(); };
     if (!m_onDisk)
-        spared([&] { reported(m_reporter, Phrase(Message::WriteFailed, m_temporaryName), sync); });
+        reported(m_reporter, Phrase(Message::WriteFailed, m_temporaryName), [&] { m_newFile.sync(); });
     m_onDisk = true;
 }
 
@@ -137,16 +129,21 @@ void NewVersion::bringToDiskTogether(const std::vector<NewVersion*>& versions)
 
 void NewVersion::putInPlace()
 {
-    checkNewFile([&] { checkOldFile(); });
-    if (!m_receipt.losses.empty()) {
-        ErrorTrap trap;
-        trap.run([&] { keepOriginal(); });
-        if (trap.pending())
-            m_newFile.discard();
-        trap.raise();
-        checkNewFile([&] { checkKeptFile(); }); // that took its time
-    }
-    raise(replaceFile(m_temporaryName, m_target), m_target, m_reporter);
+    const auto check = [&] { reported(m_reporter, m_target, [&] { checkOldFile(); }); };
+    check();
+    if (const auto obstacle = replaceObstacle(m_target))
+        raise(*obstacle);
+    ErrorTrap trap;
+    trap.run([&] {
+        if (!m_receipt.losses.empty()) {
+            keepOriginal();
+            check(); // that took its time
+        }
+        replaceOld();
+    });
+    if (trap.pending() && m_original)
+        deleteFile(m_receipt.originalName, *m_original); // the file that it was kept for is as it was, or not ours
+    trap.raise();
 }
 
 /// Between the two steps of a save: what another program made of the old file in the meantime is not overwritten. The
@@ -158,27 +155,39 @@ void NewVersion::checkOldFile() const
         throw fileWasChanged();
 }
 
-void NewVersion::checkKeptFile() const
-{
-    ErrorTrap trap;
-    trap.run([&] { checkOldFile(); });
-    if (trap.pending() && m_receipt.original == Original::Kept)
-        forgetKept(m_receipt.originalName);
-    trap.raise();
-}
-
 void NewVersion::keepOriginal()
 {
     m_receipt.originalName = m_target + ".original";
     reported(m_reporter, m_receipt.originalName, [&] {
-        m_receipt.original = keepFile(m_target, m_receipt.originalName) ? Original::Kept : Original::WasThere;
+        m_original = keepFile(m_target, m_receipt.originalName, std::bind_front(&NewVersion::isLeftover, this));
+        m_receipt.original = m_original ? Original::Kept : Original::WasThere;
         syncFolder(folder());
     });
 }
 
+void NewVersion::replaceOld()
+{
+    if (const auto failure = replaceFile(m_newFile, m_target))
+        raise(*failure);
+    m_stays = true;
+}
+
+/// Reports and raises the failure to replace the old file by the complete new one, which stays.
+void NewVersion::raise(const ReplaceFailure& failure)
+{
+    m_stays = true;
+    Error error = failure.error;
+    if (failure.step == ReplaceStep::Delete)
+        error.description = Phrase(Message::NewVersionStays, error.description, m_temporaryName);
+    const Phrase context = failure.step == ReplaceStep::Delete ? Phrase(Message::DeleteOldFile, m_target)
+                                                               : Phrase(Message::RenameFile, m_temporaryName, m_target);
+    ErrorReport(m_reporter, context, error);
+    throw error;
+}
+
 std::string NewVersion::folder() const
 {
-    return splitPath(m_target).folder;
+    return folderOf(m_target);
 }
 
 /// Writes the new file: its content, which `fill` writes and reports on, then what it takes from the old one.
@@ -188,20 +197,8 @@ template <class Fill> void NewVersion::writeWhole(Fill fill)
         m_newFile.takeAttributesFrom(m_oldFile);
         m_newFile.startSync();
     };
-    spared([&] {
-        fill();
-        reported(m_reporter, Phrase(Message::WriteFailed, m_temporaryName), finish);
-    });
-}
-
-/// Runs `step`. When it fails, the new file is of no use and is deleted, unless leftovers are kept.
-template <class Step> void NewVersion::spared(Step step)
-{
-    ErrorTrap trap;
-    trap.run(step);
-    if (trap.pending() && (m_leftover == Leftover::Spared || isFileWasChanged(trap.error())))
-        m_newFile.discard();
-    trap.raise();
+    fill();
+    reported(m_reporter, Phrase(Message::WriteFailed, m_temporaryName), finish);
 }
 
 } // namespace ovisto

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "common/Error.h"
 #include "common/Phrase.h"
 #include "common/system/File.h"
 #include "common/xml/XmlDocument.h"
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,8 +29,9 @@ struct SaveReceipt {
     std::size_t unchanged = 0;  ///< those that are as they were
     std::vector<Phrase> losses; ///< what differs beyond the changes
     Original original = Original::NotNeeded;
-    std::string originalName{}; ///< the path of the kept original
-    std::vector<Phrase> notes;  ///< what a comparison of the two files cannot know
+    std::string originalName{};       ///< the path of the kept original
+    std::vector<Phrase> notes;        ///< what a comparison of the two files cannot know
+    std::optional<Error> notOnDisk{}; ///< why the saved file is not known to be on disk, if so
 };
 
 /// What a save without losses says of itself: how many values were changed and how many are as they were.

@@ -101,7 +101,8 @@ TEST(CommandLine, ChangesFilesNamedInEveryWay)
 {
     const TemporaryFolder folder;
     const std::string first = folder.file("a.jpg", JpegBytes().app0().end());
-    const std::string second = folder.file("line\nbreak.jpg", JpegBytes().app0().end());
+    // As long as a name may be; the temporary one has to be shorter.
+    const std::string second = folder.file("line\nbreak\\" + std::string(240, 'x') + ".jpg", JpegBytes().app0().end());
     const std::string third = folder.file("~a.jpg.jpg", JpegBytes().app0().end());
     EXPECT_EQ(ovisto({"set", kTitle, "One", first}).status, 0);
     EXPECT_EQ(ovisto({"set", kTitle, "Two", "--files-from", "-", "-0"}, second + '\0' + third + '\0').status, 0);
@@ -123,10 +124,9 @@ TEST(CommandLine, DoesNotDestroyAFileThatHasATemporaryName)
     const TemporaryFolder folder;
     const std::string first = folder.file("a.jpg", JpegBytes().app0().end());
     const std::string second = folder.file("~a.jpg", JpegBytes().app0().end());
-    expectOneLine(ovisto({"set", kTitle, "New", first, second}), first, "temporary file");
-    EXPECT_EQ(titleOf(first) + titleOf(second), "New");
-    expectOneLine(ovisto({"write", "--jobs", "1", second, first}), first, "temporary file");
-    EXPECT_EQ(titleOf(second), "New");
+    EXPECT_EQ(ovisto({"set", kTitle, "New", first, second}).status, 0);
+    EXPECT_EQ(titleOf(first) + titleOf(second), "NewNew");
+    EXPECT_EQ(ovisto({"write", "--jobs", "1", first, second}).status, 0);
     EXPECT_EQ(ovisto({"export", first, second}).status, 0);
     EXPECT_EQ(folder.names(), (std::vector<std::string>{"a.jpg", "a.jpg.XML", "~a.jpg", "~a.jpg.XML"}));
 }

@@ -1,5 +1,6 @@
 #include "collection/BatchAction.h"
 #include "collection/DocumentLoad.h"
+#include "common/system/File.h"
 #include "document/TagDictionary.h"
 #include "support/CountingProgress.h"
 #include "support/JpegBytes.h"
@@ -51,7 +52,7 @@ TEST_F(BatchActionTest, DoesTheOthersWhenOneFailsHalfWay)
     const std::string unreadable = folder.file("text.jpg", "no photograph");
     const std::string readOnly = files[20];
     fs::permissions(readOnly, fs::perms::owner_read);
-    fs::create_directory(folder.path("~110.jpg")); // where the new version of a file would be written
+    const OutputFile otherSave(folder.path("~110.jpg")); // of a file of the list
     files.insert(files.begin() + 5, {folder.path("deleted.jpg"), unreadable});
 
     BatchAction(files, titled("New")).run(progress, reporter);

@@ -1,7 +1,6 @@
 #include "collection/KeywordFile.h"
-#include "common/system/File.h"
-#include "common/system/TemporaryFile.h"
 #include "common/system/posix/SystemCalls.h"
+#include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 
 #include <gtest/gtest.h>
@@ -23,11 +22,11 @@ TEST(KeywordFile, HasOneKeywordALine)
         {"Windows-1252", "caf\xE9\r\n\x80", {"café", "€"}},
         {"UTF-8", "café", {"café"}}};
     for (const auto& row : cases) {
-        const TemporaryFile file;
-        writeTextFile(file.path(), row.content);
+        const TemporaryFolder folder;
+        const std::string file = folder.file("keywords.txt", row.content);
         std::vector<std::string> keywords{"old"};
         RecordingReporter reporter;
-        loadKeywords(file.path(), keywords, reporter);
+        loadKeywords(file, keywords, reporter);
         EXPECT_EQ(keywords, row.keywords) << row.name;
         EXPECT_TRUE(reporter.contexts.empty()) << row.name;
     }
@@ -44,8 +43,8 @@ TEST(KeywordFile, LeavesTheListWhenItCannotBeOpened)
 
 TEST(KeywordFile, TakesNoMoreThanWasReadBeforeAnError)
 {
-    const TemporaryFile file;
-    writeTextFile(file.path(), "beach");
+    const TemporaryFolder folder;
+    const std::string file = folder.file("keywords.txt", "beach");
     SystemCalls calls = systemCalls();
     calls.pread = [](int, void*, std::size_t, off_t) {
         errno = EIO;
@@ -54,9 +53,9 @@ TEST(KeywordFile, TakesNoMoreThanWasReadBeforeAnError)
     const ReplacedSystemCalls replaced(calls);
     std::vector<std::string> keywords{"old"};
     RecordingReporter reporter;
-    loadKeywords(file.path(), keywords, reporter);
+    loadKeywords(file, keywords, reporter);
     EXPECT_EQ(keywords, std::vector<std::string>{""});
-    EXPECT_EQ(reporter.contexts, std::vector<std::string>{"Read File " + file.path()});
+    EXPECT_EQ(reporter.contexts, std::vector<std::string>{"Read File " + file});
 }
 
 TEST(KeywordFile, SetsBlanksWhereTextStands)

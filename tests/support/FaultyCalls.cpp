@@ -6,6 +6,7 @@
 #include <map>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -30,9 +31,8 @@ std::string nameOf(const char* path)
     if (std::filesystem::is_directory(whole))
         return ".";
     const std::string name = whole.filename();
-    constexpr std::size_t kRandom = sizeof(".XXXXXX") - 1;
-    const bool isReplacement = name.size() > kRandom && name[name.size() - kRandom] == '.';
-    return isReplacement ? "~" + name.substr(0, name.size() - kRandom) : name;
+    const std::string textMark = ".ovisto";
+    return name.ends_with(textMark) ? name.substr(0, name.size() - textMark.size()) : name;
 }
 
 bool isFaulty(const std::string& call)
@@ -108,19 +108,26 @@ int unlinkNoted(const char* path)
     return noted("unlink " + nameOf(path), 0, [&](std::size_t) { return unlink(path); });
 }
 
+int lstatNoted(const char* path, struct stat* status)
+{
+    return noted("lstat " + nameOf(path), 0, [&](std::size_t) { return lstat(path, status); });
+}
+
 int isOnDisk(int /*descriptor*/)
 {
     return 0;
 }
 
-constexpr char kFstat[] = "fstat", kFsync[] = "fsync", kSyncfs[] = "syncfs", kFchown[] = "fchown", kFchmod[] = "fchmod",
-               kFsetxattr[] = "fsetxattr";
+constexpr char kFstat[] = "fstat", kFlock[] = "flock", kFsync[] = "fsync", kSyncfs[] = "syncfs", kFchown[] = "fchown",
+               kFchmod[] = "fchmod", kFsetxattr[] = "fsetxattr";
 
 const SystemCalls kNoted{
     .open = openNoted,
     .pread = preadNoted,
     .write = writeNoted,
     .fstat = notedCall<fstat, kFstat>,
+    .lstat = lstatNoted,
+    .flock = notedCall<flock, kFlock>,
     .fsync = notedCall<isOnDisk, kFsync>,
     .syncfs = notedCall<isOnDisk, kSyncfs>,
     .fchown = notedCall<fchown, kFchown>,

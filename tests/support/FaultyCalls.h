@@ -15,7 +15,7 @@ inline constexpr int kNothing = -2; ///< reads or writes nothing, without an err
 inline constexpr auto* kAnyCall = "*"; ///< each of them; one that was interrupted succeeds the next time
 
 /// Which call goes wrong, and how. A call is written as the verb and the name of its file: "write ~a.jpg". The file
-/// that replaces a.txt counts as ~a.txt, whatever its random name; its folder is "."; "create" opens a new file.
+/// that replaces a.txt counts as ~a.txt, without the end of its name; its folder is "."; "create" opens a new file.
 struct Fault {
     std::string call;
     int time = 1; ///< 1: the first such call; 0: each of them

@@ -14,10 +14,12 @@ public:
     {
         contexts.push_back(inEnglish(context));
         numbers.push_back(error.number);
+        reasons.push_back(inEnglish(error.description));
     }
 
     std::vector<std::string> contexts;
     std::vector<int> numbers;
+    std::vector<std::string> reasons;
 };
 
 /// The number of the error that `step` raises; 0 for none.

@@ -18,7 +18,7 @@ inline void rewrite(const std::string& path, ErrorReporter& reporter)
 /// Saves `document` to the file at `path` as if it had just been read from it.
 inline SaveReceipt saveNow(XmlDocument& document, const std::string& path, WritingWay way, ErrorReporter& reporter)
 {
-    return saveDocument(document, readFile(path).identity, path, way, reporter);
+    return saveDocument(document, readFile(path).identity, path, {way}, reporter);
 }
 
 } // namespace ovisto::test

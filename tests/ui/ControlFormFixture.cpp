@@ -2,6 +2,7 @@
 
 #include "../support/RecordingReporter.h"
 #include "collection/DocumentLoad.h"
+#include "common/system/FileNames.h"
 #include "writer/JpegDocument.h"
 
 #include <QFile>
@@ -200,10 +201,9 @@ void setInFile(const std::string& path, const std::string& nodePath, const std::
     JpegDocument(reporter, readDocument).WriteJpeg(document, path);
 }
 
-void blockSaving(const std::string& path)
+OutputFile blockSaving(const std::string& path)
 {
-    const std::filesystem::path file(path);
-    std::filesystem::create_directories(file.parent_path() / ("~" + file.filename().string()) / "full");
+    return OutputFile(temporaryName(path));
 }
 
 } // namespace ovisto::test

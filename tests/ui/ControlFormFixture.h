@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/system/File.h"
 #include "common/xml/XmlDocument.h"
 #include "ui/App/Desktop.h"
 #include "ui/App/Dialogs.h"
@@ -138,8 +139,8 @@ std::optional<std::string> inFile(const std::string& path, const std::string& no
 /// Sets the text of a node in a file.
 void setInFile(const std::string& path, const std::string& nodePath, const std::string& text);
 
-/// Lets every attempt to write the file at `path` fail.
-void blockSaving(const std::string& path);
+/// Lets every attempt to write the file at `path` fail, as long as the result lives.
+[[nodiscard]] OutputFile blockSaving(const std::string& path);
 
 /// The nodes that the tests look at.
 inline constexpr const char* kDescription = "/JPEG/Exif[@id='FFE1']/IFD[@id='010E']";

@@ -284,8 +284,9 @@ private Q_SLOTS:
             const std::string path = window.path("night.jpg");
             const std::string before = readTextFile(path);
             const std::string image = imageData(path);
+            std::optional<OutputFile> otherSave;
             if (answer == Fails)
-                blockSaving(path);
+                otherSave = blockSaving(path);
             window.edit(kDescription, u"Typed"_s);
             window.dialogs.answers = {answer != No};
             leave(window);
@@ -325,14 +326,14 @@ private Q_SLOTS:
         QVERIFY2(lost.startsWith(u"Lost, as \"Keep Untouched Data?\" is off: "_s), qPrintable(lost));
         QVERIFY(lost.endsWith(u" little-endian.jpg.original"_s));
         QVERIFY(window.dialogs.messages.isEmpty());
-        blockSaving(window.path("little-endian.jpg"));
+        const OutputFile otherSave = blockSaving(window.path("little-endian.jpg"));
         QCOMPARE(lineAfter("Refused", "FileSaver"), QString());
     }
 
     void staysWhenSteppingOnCannotSave()
     {
         Window window{"night.jpg", "xmp.jpg"};
-        blockSaving(window.path("night.jpg"));
+        const OutputFile otherSave = blockSaving(window.path("night.jpg"));
         window.edit(kDescription, u"Refused"_s);
         window.click("FilePickerNext");
         QCOMPARE(window.dialogs.messages.size(), 1);

@@ -120,7 +120,7 @@ public:
         RecordingReporter reporter;
         ErrorTrap trap;
         trap.run([&] {
-            NewVersion version(reporter, m_path, Leftover::Spared);
+            NewVersion version(reporter, m_path, {ReadOnlyFails::AtOnce});
             const XmlDocument old = loadDocument(m_path);
             version.write({WritingWay::Keep, old, after, readDocument});
             receipt = version.receipt();

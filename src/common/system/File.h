@@ -4,6 +4,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -66,6 +68,8 @@ public:
 
 private:
     friend class OutputFile;
+    explicit InputFile(FileHandle handle);
+
     FileHandle m_handle;
     FileStatus m_status;
 };
@@ -74,12 +78,39 @@ private:
 /// the user lets read new files.
 enum class NewFileAccess { Private, Usual };
 
-/// A new file that is written from start to end. Only sync() makes sure that its bytes are on disk.
+/// Whether the file at `path`, opened as `file`, was left by work that did not come to its end, and nobody needs it.
+using LeftoverTest = std::function<bool(const std::string& path, const InputFile& file)>;
+
+/// A new file that is written from start to end. It is locked while the object lives, where the file system has locks.
+/// Only sync() makes sure that its bytes are on disk.
 class OutputFile {
 public:
-    /// Creates `path`. Deletes a file of that name that an earlier save left; raises kPermissionDenied when another
-    /// save is writing it.
+    /// Creates `path`. A file of that name is deleted before, but raises kPermissionDenied when another OutputFile is
+    /// writing it.
     explicit OutputFile(const std::string& path, NewFileAccess newFileAccess = NewFileAccess::Private);
+
+    /// Creates a file under the first name that no other file has: nameOf(1), nameOf(2) and so on up to
+    /// kTemporaryNames. Leftovers of these names are deleted. Raises kPermissionDenied when all names are taken, or
+    /// when another OutputFile is writing what would be a leftover: then the same work is being done elsewhere.
+    static OutputFile underFreeName(const std::function<std::string(int number)>& nameOf,
+                                    const LeftoverTest& isLeftover,
+                                    NewFileAccess newFileAccess = NewFileAccess::Private);
+
+    /// The same with the temporary names of the file `path`, which it is to replace.
+    static OutputFile forNewVersionOf(const std::string& path, const LeftoverTest& isLeftover,
+                                      NewFileAccess newFileAccess = NewFileAccess::Private);
+
+    /// What became of a file that may be a leftover.
+    enum class Leftover { Gone, Stays, BeingWritten };
+
+    /// Deletes the regular file `path` if it is known that `isLeftover` and that nobody is writing it: it could be
+    /// opened and locked, and still has that name.
+    static Leftover deleteLeftover(const std::string& path, const LeftoverTest& isLeftover);
+
+    const std::string& path() const { return m_path; }
+
+    /// Whether path() still leads to this file: another program may have moved or replaced it.
+    bool hasItsName() const;
 
     void write(std::span<const std::uint8_t> bytes);
 
@@ -105,14 +136,15 @@ public:
     /// say: then sync each file.
     bool syncFileSystem();
 
-    /// Gives the new file the permission bits of `old`, and its owner and extended attributes where the system allows
-    /// it.
+    /// Gives the new file the permission bits of `old`, and its owner, group and extended attributes where the system
+    /// allows it. A group that is not that of `old` may do no more than everyone.
     void takeAttributesFrom(const InputFile& old);
 
     /// Deletes the file, unless its name means another one by now.
     void discard();
 
 private:
+    OutputFile(std::string path, FileHandle handle);
     void writeAll(std::string_view rest);
 
     std::string m_path;
@@ -138,7 +170,10 @@ bool isFolderWritable(const std::string& folder);
 /// Creates `folder` and any missing folders above it.
 void createFolders(const std::string& folder);
 
-/// The same text for all names that lead to the same file: its real path, or `path` when there is no such file.
+/// The same text for all names that lead to the same file; nothing if it is not there or cannot be found out.
+std::optional<std::string> resolvedPath(const std::string& path);
+
+/// The same, but `path` itself instead of nothing.
 std::string realPath(const std::string& path);
 
 } // namespace ovisto

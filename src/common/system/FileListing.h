@@ -1,20 +1,17 @@
 #pragma once
 
-#include <cstdint>
+#include "common/system/FileId.h"
+
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace ovisto {
 
-/// Equal for two paths only if they lead to the same folder.
-using FolderIdentity = std::pair<std::uint64_t, std::uint64_t>;
-
 /// What is in one folder: names without the folder's path, sorted without regard to case. What is hidden, or neither
 /// file nor folder, is left out. A symbolic link counts as what it leads to.
 struct FolderListing {
-    FolderIdentity identity;
+    FileId identity;
     std::vector<std::string> files;
     std::vector<std::string> folders;
 };

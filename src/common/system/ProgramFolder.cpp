@@ -1,14 +1,14 @@
 #include "common/system/ProgramFolder.h"
 
 #include "common/system/File.h"
+#include "common/system/FileNames.h"
 #include "common/system/Process.h"
-#include "common/text/PathText.h"
 
 namespace ovisto {
 
 ProgramFolders ProgramFolder()
 {
-    const std::string own = splitPath(executablePath()).folder;
+    const std::string own = folderOf(executablePath());
     const bool holdsData = fileExists(own + "Merovel.xml");
     if (holdsData && isFolderWritable(own))
         return {own, own};

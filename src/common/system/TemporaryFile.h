@@ -1,10 +1,13 @@
 #pragma once
 
+#include "common/system/File.h"
+
 #include <string>
 
 namespace ovisto {
 
-/// An empty file under a name that nobody else has; deleted with the object.
+/// A new file in the folder for temporary files, for the program itself only; deleted with the object. The first one in
+/// a process deletes those that a killed process left.
 class TemporaryFile {
 public:
     TemporaryFile();
@@ -12,10 +15,11 @@ public:
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile();
 
-    const std::string& path() const { return m_path; }
+    OutputFile& file() { return m_file; }
+    const std::string& path() const { return m_file.path(); }
 
 private:
-    std::string m_path;
+    OutputFile m_file;
 };
 
 } // namespace ovisto

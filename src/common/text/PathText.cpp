@@ -9,10 +9,4 @@ PathParts splitPath(std::string_view path)
     return {std::string(path.substr(0, nameStart)), std::string(path.substr(nameStart))};
 }
 
-std::string temporaryNameOf(std::string_view path)
-{
-    const auto [folder, name] = splitPath(path);
-    return folder + "~" + name;
-}
-
 } // namespace ovisto

@@ -114,7 +114,7 @@ ShownFile::SaveResult ShownFile::OfferSave(bool ask)
 ShownFile::SaveResult ShownFile::SaveDocument()
 {
     KeptReports reports;
-    const auto error = errorOfSave([&] { return saveDocument(JpegDoc, m_asRead, CurrentFileName, m_way, reports); });
+    const auto error = errorOfSave([&] { return saveDocument(JpegDoc, m_asRead, CurrentFileName, {m_way}, reports); });
     if (error && isFileWasChanged(*error))
         return settleOtherChange();
     reports.passTo(m_reporter);
@@ -125,8 +125,8 @@ ShownFile::SaveResult ShownFile::settleOtherChange()
 {
     switch (m_window.askAboutOtherChange(CurrentFileName)) {
     case OtherChange::SaveOver:
-        return errorOfSave([&] { return saveOver(JpegDoc, CurrentFileName, m_way, m_reporter); }) ? SaveResult::Failed
-                                                                                                  : SaveResult::Saved;
+        return errorOfSave([&] { return saveOver(JpegDoc, CurrentFileName, {m_way}, m_reporter); }) ? SaveResult::Failed
+                                                                                                    : SaveResult::Saved;
     case OtherChange::ReadAgain:
         clearChanged();
         return SaveResult::GivenUp;

@@ -1,4 +1,5 @@
 #include "common/system/File.h"
+#include "common/system/FileNames.h"
 #include "common/system/Process.h"
 #include "common/system/ProgramFolder.h"
 #include "support/JpegBytes.h"
@@ -36,6 +37,35 @@ TEST(OutputFile, ReplacesALeftoverButNotAFileThatIsBeingWritten)
     }
     EXPECT_EQ(contentOf(path), bytes("new"));
     EXPECT_EQ(errorNumberOf([&] { OutputFile second(path); }), 0);
+}
+
+TEST(FileNames, MakesTemporaryNames)
+{
+    const std::string x(246, 'x');
+    const struct {
+        std::string path;
+        int number;
+        std::string temporary;
+    } cases[] = {
+        {"/a\\b/c\\d.jpg", 1, "/a\\b/~c\\d.jpg"},
+        {"a.jpg", 12, "~12a.jpg"},
+        {x + "12345.jpg", 1, "~" + x + "1234.jpg"},
+        {x + "1é234.jpg", 10, "~10" + x + "1.jpg"},
+        {"f/a." + std::string(253, 'x'), 2, "f/~2a." + std::string(251, 'x')},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(temporaryName(c.path, c.number), c.temporary);
+        EXPECT_TRUE(isTemporaryName(c.temporary, c.path));
+        EXPECT_FALSE(isTemporaryName(c.path, c.temporary));
+    }
+}
+
+TEST(WriteTextFile, LeavesALinkThatLeadsNowhere)
+{
+    const TemporaryFolder folder;
+    fs::create_symlink("none", folder.path("link"));
+    EXPECT_EQ(errorNumberOf([&] { writeTextFile(folder.path("link"), "text"); }), kFileNotFound);
+    EXPECT_EQ(folder.names(), std::vector<std::string>{"link"});
 }
 
 TEST(ProgramFolder, IsTheFolderOfAPortableCopy)

@@ -1,9 +1,9 @@
 #include "common/system/File.h"
 
+#include "common/system/FileNames.h"
 #include "common/system/FileReplacement.h"
 #include "common/system/posix/SystemCalls.h"
 #include "common/system/posix/SystemError.h"
-#include "common/text/PathText.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -25,13 +25,16 @@ namespace {
 
 constexpr std::size_t kBufferSize = std::size_t{64} * 1024;
 
+/// What the name of a text file that is not yet whole ends with, so that nobody takes it for a file of their own.
+constexpr auto* kTextMark = ".ovisto";
+
 FileHandle openFile(const std::string& path, int flags)
 {
     FileHandle handle(systemCall(&SystemCalls::open, path.c_str(), flags | O_CLOEXEC, 0));
     if (handle.get() >= 0)
         return handle;
     const int openError = errno;
-    const std::string folder = splitPath(path).folder;
+    const std::string folder = folderOf(path);
     if (openError == ENOENT && !folder.empty() && access(folder.c_str(), F_OK) != 0)
         throw systemError(kPathNotFound);
     throw errorOf(openError);
@@ -77,28 +80,82 @@ FileStatus fileStatus(const struct stat& status, std::int64_t now)
     return result;
 }
 
-/// False when another save holds the file. A file system without locks has none that could.
-bool lock(int descriptor)
+enum class Lock {
+    Taken,
+    HeldByAnother,
+    Unknown ///< the file system has no locks, or none is to be had: nobody can say whether another is writing the file
+};
+
+Lock lock(int descriptor)
 {
-    return flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    if (systemCall(&SystemCalls::flock, descriptor, LOCK_EX | LOCK_NB) == 0)
+        return Lock::Taken;
+    return errno == EWOULDBLOCK ? Lock::HeldByAnother : Lock::Unknown;
 }
 
 /// Whether `path` names the file that has this status.
 bool names(const std::string& path, const struct stat& opened)
 {
     struct stat named = {};
-    return lstat(path.c_str(), &named) == 0 && named.st_dev == opened.st_dev && named.st_ino == opened.st_ino;
+    return systemCall(&SystemCalls::lstat, path.c_str(), &named) == 0 && named.st_dev == opened.st_dev &&
+           named.st_ino == opened.st_ino;
 }
 
-/// Deletes a file that an earlier save left. One that a save is writing at this moment is locked, and stays.
-void deleteLeftover(const std::string& path)
+/// Whether a file may still have the content that it had when it had the status `before`.
+bool isUnchanged(const struct stat& before, const struct stat& now)
 {
-    const FileHandle leftover(
-        systemCall(&SystemCalls::open, path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0));
-    if (leftover.get() < 0 && errno == ENOENT)
-        return;
-    if (leftover.get() < 0 || (lock(leftover.get()) && names(path, statusOf(leftover.get()))))
+    return before.st_size == now.st_size && before.st_mtim.tv_sec == now.st_mtim.tv_sec &&
+           before.st_mtim.tv_nsec == now.st_mtim.tv_nsec;
+}
+
+constexpr int kReadItself = O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK; // not what a link leads to
+
+constexpr mode_t accessMode(NewFileAccess access)
+{
+    constexpr mode_t kOwner = S_IRUSR | S_IWUSR;
+    constexpr mode_t kEveryone = kOwner | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+    return access == NewFileAccess::Private ? kOwner : kEveryone;
+}
+
+/// Creates and locks `path`. Nothing when a file has that name, or gets it in the meantime: another process may take
+/// the new file for a leftover between its creation and its locking. The creation decides who has the name; where there
+/// are no locks, nobody deletes it.
+FileHandle created(const std::string& path, NewFileAccess access)
+{
+    constexpr int kNewOnly = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    FileHandle handle(systemCall(&SystemCalls::open, path.c_str(), kNewOnly, accessMode(access)));
+    if (handle.get() < 0 && errno != EEXIST)
+        throw errorOf(errno);
+    if (handle.get() < 0 || lock(handle.get()) == Lock::HeldByAnother || !names(path, statusOf(handle.get())))
+        return {};
+    return handle;
+}
+
+/// The same after deleting a file of that name, unless another OutputFile is writing it or it cannot be opened.
+FileHandle createdAnew(const std::string& path, NewFileAccess access)
+{
+    const FileHandle old(systemCall(&SystemCalls::open, path.c_str(), kReadItself, 0));
+    if (old.get() >= 0 && lock(old.get()) != Lock::HeldByAnother && names(path, statusOf(old.get())))
         systemCall(&SystemCalls::unlink, path.c_str());
+    return created(path, access);
+}
+
+/// Gives a file the owner and group of another one, as far as the system allows it. Returns whether it has the group.
+bool takeOwner(int descriptor, const struct stat& other)
+{
+    constexpr auto kSame = static_cast<uid_t>(-1);
+    // Giving a file away is for the administrator; giving it to one's group is for all its members.
+    return systemCall(&SystemCalls::fchown, descriptor, other.st_uid, other.st_gid) == 0 ||
+           systemCall(&SystemCalls::fchown, descriptor, kSame, other.st_gid) == 0 ||
+           statusOf(descriptor).st_gid == other.st_gid;
+}
+
+constexpr mode_t kPermissionBits = S_IRWXU | S_IRWXG | S_IRWXO;
+
+/// The permissions of a file for one that has another group: its members were anyone before.
+mode_t permissionsForOtherGroup(mode_t mode)
+{
+    return mode & (S_IRWXU | (mode & S_IRWXO) << 3 | S_IRWXO);
 }
 
 /// The names in a list of extended attributes, each ended by a zero byte.
@@ -112,7 +169,7 @@ std::vector<const char*> attributeNames(const std::vector<char>& list)
 
 /// Copies what the system allows. Attributes that cannot be set here (another owner's, a file system without them) are
 /// left out, as copying programs do.
-void copyExtendedAttributes(int from, int to)
+void copyExtendedAttributes(int from, int to, bool hasGroup)
 {
     const auto listSize = flistxattr(from, nullptr, 0);
     if (listSize <= 0)
@@ -121,6 +178,8 @@ void copyExtendedAttributes(int from, int to)
     if (flistxattr(from, list.data(), list.size()) != listSize)
         return;
     for (const char* name : attributeNames(list)) {
+        if (!hasGroup && std::string_view(name) == "system.posix_acl_access") // says what the group may do
+            continue;
         const auto size = fgetxattr(from, name, nullptr, 0);
         if (size < 0)
             continue;
@@ -165,7 +224,9 @@ FileHandle::~FileHandle()
 }
 
 // O_NONBLOCK: a pipe that nobody writes to must not keep the program waiting.
-InputFile::InputFile(const std::string& path) : m_handle(openFile(path, O_RDONLY | O_NONBLOCK))
+InputFile::InputFile(const std::string& path) : InputFile(openFile(path, O_RDONLY | O_NONBLOCK)) {}
+
+InputFile::InputFile(FileHandle handle) : m_handle(std::move(handle))
 {
     const std::int64_t now = nanosecondsNow();
     const struct stat status = statusOf(m_handle.get());
@@ -188,21 +249,68 @@ std::size_t InputFile::readAt(std::int64_t offset, std::span<std::uint8_t> into)
     return done;
 }
 
-OutputFile::OutputFile(const std::string& path, NewFileAccess newFileAccess) : m_path(path)
+OutputFile::OutputFile(std::string path, FileHandle handle) : m_path(std::move(path)), m_handle(std::move(handle))
 {
-    deleteLeftover(path);
-    constexpr mode_t kOwner = S_IRUSR | S_IWUSR;
-    constexpr mode_t kEveryone = kOwner | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
-    const mode_t mode = newFileAccess == NewFileAccess::Private ? kOwner : kEveryone;
-    FileHandle handle(
-        systemCall(&SystemCalls::open, path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
-    if (handle.get() < 0)
-        throw errno == EEXIST ? systemError(kPermissionDenied) : errorOf(errno);
-    // Another save may have taken the new file for a leftover between its creation and its locking.
-    if (!lock(handle.get()) || !names(path, statusOf(handle.get())))
+    if (m_handle.get() < 0)
         throw systemError(kPermissionDenied);
-    m_handle = std::move(handle);
     m_buffer.reserve(kBufferSize);
+}
+
+OutputFile::OutputFile(const std::string& path, NewFileAccess newFileAccess)
+    : OutputFile(path, createdAnew(path, newFileAccess))
+{
+}
+
+OutputFile OutputFile::underFreeName(const std::function<std::string(int number)>& nameOf,
+                                     const LeftoverTest& isLeftover, NewFileAccess newFileAccess)
+{
+    constexpr int kTries = 8; // others may take a name that has just become free
+    for (int number = 1; number <= kTemporaryNames; ++number) {
+        const std::string path = nameOf(number);
+        Leftover leftover = Leftover::Gone;
+        for (int i = 0; i < kTries && leftover == Leftover::Gone; ++i) {
+            leftover = deleteLeftover(path, isLeftover);
+            if (leftover == Leftover::BeingWritten)
+                throw systemError(kPermissionDenied);
+            if (FileHandle handle = created(path, newFileAccess); handle.get() >= 0)
+                return {path, std::move(handle)};
+        }
+    }
+    throw systemError(kPermissionDenied);
+}
+
+OutputFile OutputFile::forNewVersionOf(const std::string& path, const LeftoverTest& isLeftover,
+                                       NewFileAccess newFileAccess)
+{
+    return underFreeName([&](int number) { return temporaryName(path, number); }, isLeftover, newFileAccess);
+}
+
+OutputFile::Leftover OutputFile::deleteLeftover(const std::string& path, const LeftoverTest& isLeftover)
+{
+    FileHandle handle(systemCall(&SystemCalls::open, path.c_str(), kReadItself, 0));
+    if (handle.get() < 0)
+        return errno == ENOENT ? Leftover::Gone : Leftover::Stays;
+    Leftover result = Leftover::Stays;
+    ErrorTrap trap; // a file of which not enough is known stays
+    trap.run([&] {
+        const InputFile file(std::move(handle));
+        const struct stat status = statusOf(file.m_handle.get());
+        if (!isLeftover(path, file))
+            return;
+        const Lock locked = lock(file.m_handle.get());
+        if (locked == Lock::HeldByAnother)
+            result = Leftover::BeingWritten;
+        const struct stat now = statusOf(file.m_handle.get());
+        if (locked == Lock::Taken && isUnchanged(status, now) && names(path, now) &&
+            systemCall(&SystemCalls::unlink, path.c_str()) == 0)
+            result = Leftover::Gone;
+    });
+    return result;
+}
+
+bool OutputFile::hasItsName() const
+{
+    return names(m_path, statusOf(m_handle.get()));
 }
 
 void OutputFile::write(std::span<const std::uint8_t> bytes)
@@ -293,13 +401,10 @@ void OutputFile::takeAttributesFrom(const InputFile& old)
 {
     const struct stat status = statusOf(old.m_handle.get());
     const int descriptor = m_handle.get();
-    constexpr auto kSame = static_cast<uid_t>(-1);
-    // Giving a file away is for the administrator; giving it to one's group is for all its members.
-    if (systemCall(&SystemCalls::fchown, descriptor, status.st_uid, status.st_gid) != 0)
-        systemCall(&SystemCalls::fchown, descriptor, kSame, status.st_gid);
-    copyExtendedAttributes(old.m_handle.get(), descriptor);
-    constexpr mode_t kPermissionBits = S_IRWXU | S_IRWXG | S_IRWXO;
-    const mode_t permissions = status.st_mode & kPermissionBits;
+    const bool hasGroup = takeOwner(descriptor, status);
+    copyExtendedAttributes(old.m_handle.get(), descriptor, hasGroup);
+    const mode_t mode = status.st_mode & kPermissionBits;
+    const mode_t permissions = hasGroup ? mode : permissionsForOtherGroup(mode);
     // File systems without permission bits of their own refuse to set them, and show the same ones for every file.
     if (systemCall(&SystemCalls::fchmod, descriptor, permissions) != 0 &&
         (statusOf(descriptor).st_mode & kPermissionBits) != permissions)
@@ -327,21 +432,20 @@ std::string readTextFile(const std::string& path, FileKind kind)
 void writeTextFile(const std::string& path, std::string_view content)
 {
     const std::string target = linkTarget(path);
-    std::string temporaryName = target + ".XXXXXX";
-    const FileHandle reserved(checked(mkstemp(temporaryName.data())));
+    const LeftoverTest isAny = [](const std::string& /*path*/, const InputFile& /*file*/) { return true; };
+    OutputFile file = OutputFile::forNewVersionOf(target + kTextMark, isAny, NewFileAccess::Usual);
     ErrorTrap trap;
     trap.run([&] {
-        OutputFile file(temporaryName, NewFileAccess::Usual);
         file.write({reinterpret_cast<const std::uint8_t*>(content.data()), content.size()});
         if (fileExists(target))
             file.takeAttributesFrom(InputFile(target));
         file.sync();
-        if (const auto failure = replaceFile(temporaryName, target))
+        if (const auto failure = replaceFile(file, target))
             throw Error(failure->error);
-        syncFolder(splitPath(target).folder);
+        syncFolder(folderOf(target));
     });
     if (trap.pending())
-        systemCall(&SystemCalls::unlink, temporaryName.c_str());
+        file.discard();
     trap.raise();
 }
 
@@ -363,13 +467,18 @@ void createFolders(const std::string& folder)
         throw errorOf(status.value());
 }
 
-std::string realPath(const std::string& path)
+std::optional<std::string> resolvedPath(const std::string& path)
 {
     struct Free {
         void operator()(char* text) const { std::free(text); }
     };
     const std::unique_ptr<char, Free> resolved(realpath(path.c_str(), nullptr));
-    return resolved ? resolved.get() : path;
+    return resolved ? std::optional<std::string>(resolved.get()) : std::nullopt;
+}
+
+std::string realPath(const std::string& path)
+{
+    return resolvedPath(path).value_or(path);
 }
 
 } // namespace ovisto

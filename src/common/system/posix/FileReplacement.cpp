@@ -3,7 +3,6 @@
 #include "common/system/File.h"
 #include "common/system/posix/SystemCalls.h"
 #include "common/system/posix/SystemError.h"
-#include "common/text/PathText.h"
 
 #include <cerrno>
 
@@ -23,6 +22,11 @@ bool isMarkedReadOnly(const std::string& path)
            ((status.st_mode & kAnyWriteBit) == 0 || access(path.c_str(), W_OK) != 0);
 }
 
+FileId idOf(const struct stat& status)
+{
+    return {status.st_dev, status.st_ino};
+}
+
 } // namespace
 
 std::optional<ReplaceFailure> replaceObstacle(const std::string& path)
@@ -32,11 +36,18 @@ std::optional<ReplaceFailure> replaceObstacle(const std::string& path)
     return std::nullopt;
 }
 
-std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const std::string& path)
+std::optional<ReplaceFailure> replaceFile(const OutputFile& replacement, const std::string& path)
 {
     if (auto obstacle = replaceObstacle(path))
         return obstacle;
-    if (systemCall(&SystemCalls::rename, replacement.c_str(), path.c_str()) != 0) {
+    ErrorTrap trap;
+    trap.run([&] {
+        if (!replacement.hasItsName())
+            throw Error{kPathAccessError, Message::TemporaryFileGone};
+    });
+    if (trap.pending())
+        return ReplaceFailure{ReplaceStep::Rename, trap.take()};
+    if (systemCall(&SystemCalls::rename, replacement.path().c_str(), path.c_str()) != 0) {
         const int renameError = errno;
         const bool denied = renameError == EACCES || renameError == EPERM;
         return ReplaceFailure{denied ? ReplaceStep::Delete : ReplaceStep::Rename, errorOf(renameError)};
@@ -46,54 +57,73 @@ std::optional<ReplaceFailure> replaceFile(const std::string& replacement, const 
 
 // A second name for the same file costs nothing, and leaves nothing to copy wrongly. File systems without such names
 // get a copy, which takes its name when it is whole.
-bool keepFile(const std::string& path, const std::string& keptPath)
+std::optional<FileId> keepFile(const std::string& path, const std::string& keptPath, const LeftoverTest& isLeftover)
 {
-    if (systemCall(&SystemCalls::link, path.c_str(), keptPath.c_str()) == 0)
-        return true;
-    const int linkError = errno;
     struct stat status = {};
-    if (lstat(keptPath.c_str(), &status) == 0) {
+    checked(systemCall(&SystemCalls::lstat, path.c_str(), &status));
+    if (systemCall(&SystemCalls::link, path.c_str(), keptPath.c_str()) == 0)
+        return idOf(status);
+    const int linkError = errno;
+    if (systemCall(&SystemCalls::lstat, keptPath.c_str(), &status) == 0) {
         if (!S_ISREG(status.st_mode))
             throw systemError(kPathAccessError);
-        return false;
+        return std::nullopt;
     }
     if (linkError != EPERM && linkError != EOPNOTSUPP && linkError != ENOSYS && linkError != EMLINK)
         throw errorOf(linkError);
-    const std::string temporaryName = temporaryNameOf(keptPath);
     const InputFile file(path);
-    OutputFile copy(temporaryName);
+    OutputFile copy = OutputFile::forNewVersionOf(keptPath, isLeftover);
     ErrorTrap trap;
     trap.run([&] {
         if (copy.writeFrom(file, 0, file.size()) != file.size())
             throw systemError(kDeviceError);
         copy.takeAttributesFrom(file);
         copy.sync();
-        if (const auto failure = replaceFile(temporaryName, keptPath))
+        checked(systemCall(&SystemCalls::lstat, copy.path().c_str(), &status));
+        if (const auto failure = replaceFile(copy, keptPath))
             throw Error(failure->error);
     });
     if (trap.pending())
         copy.discard();
     trap.raise();
-    return true;
+    return idOf(status);
 }
 
-void forgetKept(const std::string& keptPath)
+void deleteFile(const std::string& path, const FileId& identity)
 {
-    systemCall(&SystemCalls::unlink, keptPath.c_str());
+    struct stat status = {};
+    if (systemCall(&SystemCalls::lstat, path.c_str(), &status) == 0 && idOf(status) == identity)
+        systemCall(&SystemCalls::unlink, path.c_str());
 }
 
 void syncFolder(const std::string& folder)
 {
     const char* name = folder.empty() ? "." : folder.c_str();
     const FileHandle handle(systemCall(&SystemCalls::open, name, O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0));
-    if (handle.get() >= 0)
-        systemCall(&SystemCalls::fsync, handle.get());
+    if (handle.get() >= 0 && systemCall(&SystemCalls::fsync, handle.get()) == 0)
+        return;
+    const int syncError = errno;
+    // Some file systems sync no folders, and say so.
+    if (handle.get() >= 0 && (syncError == EINVAL || syncError == EBADF || syncError == EOPNOTSUPP))
+        return;
+    const Error reason = errorOf(syncError);
+    throw Error{reason.number, {Message::NotKnownOnDisk, reason.description}};
 }
 
 std::string linkTarget(const std::string& path)
 {
     struct stat status = {};
-    return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode) ? realPath(path) : path;
+    if (systemCall(&SystemCalls::lstat, path.c_str(), &status) != 0) {
+        if (errno == ENOENT)
+            return path;
+        throw errorOf(errno);
+    }
+    if (!S_ISLNK(status.st_mode))
+        return path;
+    const auto target = resolvedPath(path);
+    if (!target)
+        throw errorOf(errno);
+    return *target;
 }
 
 } // namespace ovisto

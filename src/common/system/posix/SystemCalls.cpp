@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -28,6 +29,8 @@ constexpr SystemCalls kOfTheSystem{
     .pread = ::pread,
     .write = ::write,
     .fstat = ::fstat,
+    .lstat = ::lstat,
+    .flock = ::flock,
     .fsync = ::fsync,
     .syncfs = syncFileSystem,
     .fchown = ::fchown,

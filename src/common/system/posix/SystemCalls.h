@@ -16,6 +16,8 @@ struct SystemCalls {
     ssize_t (*pread)(int descriptor, void* into, std::size_t size, off_t offset);
     ssize_t (*write)(int descriptor, const void* from, std::size_t size);
     int (*fstat)(int descriptor, struct stat* status);
+    int (*lstat)(const char* path, struct stat* status);
+    int (*flock)(int descriptor, int operation);
     int (*fsync)(int descriptor);
     int (*syncfs)(int descriptor); ///< fails where the platform has none
     int (*fchown)(int descriptor, uid_t owner, gid_t group);
