@@ -60,9 +60,14 @@ std::optional<ReplaceFailure> replaceFile(const OutputFile& replacement, const s
 std::optional<FileId> keepFile(const std::string& path, const std::string& keptPath, const LeftoverTest& isLeftover)
 {
     struct stat status = {};
-    checked(systemCall(&SystemCalls::lstat, path.c_str(), &status));
-    if (systemCall(&SystemCalls::link, path.c_str(), keptPath.c_str()) == 0)
-        return idOf(status);
+    if (systemCall(&SystemCalls::link, path.c_str(), keptPath.c_str()) == 0) {
+        // Another program may have put another file there just before, so the new name says which file it is.
+        if (systemCall(&SystemCalls::lstat, keptPath.c_str(), &status) == 0)
+            return idOf(status);
+        const int statusError = errno;
+        systemCall(&SystemCalls::unlink, keptPath.c_str());
+        throw errorOf(statusError);
+    }
     const int linkError = errno;
     if (systemCall(&SystemCalls::lstat, keptPath.c_str(), &status) == 0) {
         if (!S_ISREG(status.st_mode))
