@@ -1,4 +1,5 @@
 #include "collection/DocumentLoad.h"
+#include "common/system/File.h"
 #include "common/text/Unicode.h"
 #include "support/CommandRun.h"
 #include "support/JpegBytes.h"
@@ -296,6 +297,14 @@ TEST(CommandLine, ReportsOnManyFilesAtOnce)
     EXPECT_EQ(contentOf(output), before);
     expectOneLine(ovisto({"report", "--style", style, "--output", folder.path("none/out"), good}), "none/out", "");
     EXPECT_EQ(ovisto({"report", good}).status, 2);
+    // Of the program's own temporary files, only those go that nobody holds.
+    const TemporaryFolder temporary;
+    const OutputFile held(temporary.path("ovisto-0123456789abcdef.tmp"));
+    temporary.file("ovisto-fedcba9876543210.tmp", "left by a killed report");
+    temporary.file("ovisto-notes.tmp", "");
+    const std::string folderOption = "TMPDIR=" + temporary.path("");
+    EXPECT_EQ(runCommand({"/usr/bin/env", folderOption, OVISTO_CLI, "report", "--style", style, good}).status, 0);
+    EXPECT_EQ(temporary.names(), (std::vector<std::string>{"ovisto-0123456789abcdef.tmp", "ovisto-notes.tmp"}));
     const std::string piped = "cat '" + style + "' | '" OVISTO_CLI "' report --style /dev/stdin '" + good + "'";
     EXPECT_NE(runCommand({"sh", "-c", piped}).output.find("<t>Héllo</t>"), std::string::npos);
 }
