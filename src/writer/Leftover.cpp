@@ -45,7 +45,7 @@ bool hasEnd(const InputFile& file, std::int64_t start)
     std::vector<std::uint8_t> bytes(kStretch);
     for (std::int64_t done = start; done < file.size(); done += kStretch - 1) { // a marker may stand across stretches
         bytes.resize(file.readAt(done, bytes));
-        if (!std::ranges::search(bytes, kEnd).empty())
+        if (std::search(bytes.begin(), bytes.end(), kEnd.begin(), kEnd.end()) != bytes.end())
             return true;
         bytes.resize(kStretch);
     }

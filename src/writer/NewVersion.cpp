@@ -182,7 +182,7 @@ void NewVersion::raise(const ReplaceFailure& failure)
     const Phrase context = failure.step == ReplaceStep::Delete ? Phrase(Message::DeleteOldFile, m_target)
                                                                : Phrase(Message::RenameFile, m_temporaryName, m_target);
     ErrorReport(m_reporter, context, error);
-    throw error;
+    throw Error(error);
 }
 
 std::string NewVersion::folder() const
