@@ -39,7 +39,7 @@ void rewriteSynced(benchmark::State& state)
     ovisto::XmlDocument document = ovisto::loadDocument(photograph);
     Silent reporter;
     for ([[maybe_unused]] auto _ : state)
-        ovisto::JpegDocument(reporter, ovisto::readDocument).WriteJpeg(document, photograph);
+        ovisto::JpegDocument(reporter, ovisto::documentReader(ovisto::Reading::Basic)).WriteJpeg(document, photograph);
 }
 
 } // namespace

@@ -55,7 +55,7 @@ NodeChange changeOf(const ChangeOptions& options, const TagDictionary& dictionar
     trap.run([&] { change.entry = dictionary.entry(options.nodePath); });
     if (!change.entry)
         throw Error{kInvalidCall, "The tag dictionary has no node " + options.nodePath};
-    if (const Phrase reason = objection(change); !reason.isEmpty())
+    if (const Phrase reason = objection(change, options.writing.reading()); !reason.isEmpty())
         throw Error{kInvalidCall, {Message::InContext, options.nodePath, reason}};
     return change;
 }
@@ -92,8 +92,12 @@ void changeFiles(const std::vector<std::string>& files, const NodeChange& change
                  CommandOutput& output)
 {
     const unsigned jobs = options.files.jobs;
-    const auto onOtherChange = options.writing.force ? OnOtherChange::ChangeAgain : OnOtherChange::Refuse;
-    const BatchAction batch(files, change, options.writing.way(), jobs, onOtherChange);
+    const BatchAction batch(files, change,
+                            {.way = options.writing.way(),
+                             .reading = options.writing.reading(),
+                             .jobs = jobs,
+                             .onOtherChange =
+                                 options.writing.force ? OnOtherChange::ChangeAgain : OnOtherChange::Refuse});
     // A thread takes a whole group at a time, unless others would have nothing to do.
     const std::size_t fair = (files.size() + jobs - 1) / jobs;
     const std::size_t stretch = std::clamp<std::size_t>(fair, 1, batch.groupSize());

@@ -9,12 +9,23 @@ namespace ovisto {
 
 namespace {
 
-int runExport(const FileOptions& options)
+struct ExportOptions {
+    FileOptions files;
+    Reading reading = Reading::Full;
+};
+
+void addExportOptions(CLI::App& parser, ExportOptions& options)
 {
-    const std::vector<std::string> files = fileNames(options);
+    addFiles(parser, options.files);
+    addBasicOption(parser, options.reading);
+}
+
+int runExport(const ExportOptions& options)
+{
+    const std::vector<std::string> files = fileNames(options.files);
     deferInterruption();
-    return runEach(files, options.jobs, [](const std::string& path, FileResult&, ErrorReporter& reporter) {
-        exportDocument(loadDocument(path), path, reporter);
+    return runEach(files, options.files.jobs, [&](const std::string& path, FileResult&, ErrorReporter& reporter) {
+        exportDocument(loadDocument(path, {.reading = options.reading}), path, reporter);
     });
 }
 
@@ -22,7 +33,7 @@ int runExport(const FileOptions& options)
 
 Command exportCommand()
 {
-    return command("export", "Write FILE.XML beside each file", addFiles, runExport);
+    return command("export", "Write FILE.XML beside each file", addExportOptions, runExport);
 }
 
 } // namespace ovisto

@@ -72,6 +72,7 @@ void addWritingOptions(CLI::App& parser, WritingOptions& options)
                     "Write the Exif segment anew instead of changing it where it stands; check says what that loses");
     parser.add_flag("--force", options.force,
                     "Change a file as it is now if another program changes it meanwhile, instead of refusing");
+    addBasicOption(parser, options.asked);
     parser.add_flag("--verbose", options.verbose, "Say how much of each file was changed");
 }
 
@@ -92,6 +93,21 @@ void addKeepOptions(CLI::App& parser, KeepOptions& keep)
     parser.add_flag("!--no-maker-notes", keep.pCodifyMakerNote, "Leave out maker notes");
     parser.add_flag("!--no-thumbnails", keep.pCodifyThumb, "Leave out thumbnails");
     parser.add_flag("!--no-nonstandard-exif", keep.pCodifyExif1, "Leave out APP1 segments that are not Exif");
+}
+
+void addBasicOption(CLI::App& parser, Reading& reading)
+{
+    reading = Reading::Full;
+    parser.add_flag_callback(
+        "--basic", [&reading] { reading = Reading::Basic; },
+        "Read texts through one code page and three directories only, as xml does");
+}
+
+void addFullOption(CLI::App& parser, KeepOptions& keep)
+{
+    parser.add_flag_callback(
+        "--full", [&keep] { keep.reading = Reading::Full; },
+        "Read everything: texts in any language, positions, bytes and numbers exactly");
 }
 
 std::vector<std::string> fileNames(const FileOptions& options)

@@ -36,8 +36,10 @@ struct WritingOptions {
     bool rebuild = false;
     bool verbose = false;
     bool force = false; ///< go on from a file that another program changed meanwhile
+    Reading asked = Reading::Full; ///< without --rebuild
 
     WritingWay way() const { return rebuild ? WritingWay::Rebuild : WritingWay::Keep; }
+    Reading reading() const { return rebuild ? Reading::Basic : asked; }
 };
 
 void addWritingOptions(CLI::App& parser, WritingOptions& options);
@@ -46,6 +48,11 @@ void addWritingOptions(CLI::App& parser, WritingOptions& options);
 std::string savedLines(const WritingOptions& options, const std::string& path, const SaveReceipt& receipt);
 
 void addKeepOptions(CLI::App& parser, KeepOptions& keep);
+
+/// Declares how files are read by a command that reads everything unless told otherwise: --basic.
+void addBasicOption(CLI::App& parser, Reading& reading);
+/// The same for one that reads basic documents: --full.
+void addFullOption(CLI::App& parser, KeepOptions& keep);
 
 /// The files named on the command line, then those of the list. Raises an error that names a list that cannot be read.
 std::vector<std::string> fileNames(const FileOptions& options);

@@ -42,6 +42,7 @@ void addReportOptions(CLI::App& parser, ReportCommandOptions& options)
     parser.add_option("--output", options.output, "The file to write, in UTF-16; else standard output, in UTF-8")
         ->option_text("FILE");
     addKeepOptions(parser, options.keep);
+    addBasicOption(parser, options.keep.reading);
     addFiles(parser, options.files);
 }
 

@@ -14,12 +14,14 @@ namespace {
 struct ShowOptions {
     FileOptions files;
     bool technical = false;
+    Reading reading = Reading::Full;
 };
 
 void addShowOptions(CLI::App& parser, ShowOptions& options)
 {
     addFiles(parser, options.files);
     parser.add_flag("--technical", options.technical, "Show technical properties too");
+    addBasicOption(parser, options.reading);
 }
 
 int runShow(const ShowOptions& options)
@@ -27,7 +29,8 @@ int runShow(const ShowOptions& options)
     const std::vector<std::string> files = fileNames(options.files);
     const TagDictionary dictionary = loadDictionary(options.files);
     return runEach(files, options.files.jobs, [&](const std::string& path, FileResult& result, ErrorReporter&) {
-        result.output = oneLine(path) + "\n" + propertyText(loadDocument(path), dictionary, options.technical);
+        const XmlDocument document = loadDocument(path, {.reading = options.reading});
+        result.output = oneLine(path) + "\n" + propertyText(document, dictionary, options.technical);
     });
 }
 

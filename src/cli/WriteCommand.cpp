@@ -70,6 +70,8 @@ SaveReceipt writeEdited(const WriteOptions& options, const std::string& path, Er
 {
     const FileReading reading = readFile(path);
     XmlDocument document = loadEdited(options.document);
+    if (options.writing.rebuild && readingOf(document.node()) == Reading::Full)
+        throw Error{kInvalidCall, {Message::InContext, options.document, Message::FullNotRebuilt}};
     const bool isOfFile = imageParts(document) == imageParts(documentOf(reading.text));
     const SavingWay way{.writing = options.writing.way(), .isSpared = isSpared};
     if (!isOfFile && !options.writing.force)
@@ -90,7 +92,7 @@ SaveReceipt writeAnew(const WriteOptions& options, const std::string& path, Erro
                       const SparedFile& isSpared)
 {
     const auto write = [&](ErrorReporter& reports) {
-        const FileReading reading = readFile(path);
+        const FileReading reading = readFile(path, options.writing.reading());
         XmlDocument document = documentOf(reading.text);
         return saveDocument(document, reading.identity, path, {options.writing.way(), isSpared}, reports);
     };

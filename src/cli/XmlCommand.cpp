@@ -18,6 +18,7 @@ void addXmlOptions(CLI::App& parser, XmlOptions& options)
 {
     addFiles(parser, options.files);
     addKeepOptions(parser, options.keep);
+    addFullOption(parser, options.keep);
 }
 
 int runXml(const XmlOptions& options)

@@ -28,9 +28,9 @@ constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< on th
 class Group {
 public:
     /// `room` is shared by all groups that run at the same time.
-    Group(const NodeChange& change, const SavingWay& way, OnOtherChange onOtherChange, ErrorReporter& reporter,
+    Group(const NodeChange& change, const BatchOptions& options, const SparedFile& isSpared, ErrorReporter& reporter,
           const SavedFile& saved, std::shared_mutex& room)
-        : m_change(change), m_way(way), m_onOtherChange(onOtherChange), m_reporter(reporter), m_saved(saved),
+        : m_change(change), m_options(options), m_isSpared(isSpared), m_reporter(reporter), m_saved(saved),
           m_room(room), m_share(room, std::defer_lock)
     {
     }
@@ -80,14 +80,14 @@ private:
         member->tries = tries;
         ErrorTrap trap;
         trap.run([&] {
-            const FileReading reading = readFile(path);
+            const FileReading reading = readFile(path, m_options.reading);
             XmlDocument document = documentOf(reading.text);
             if (!applyChange(document, m_change, member->report))
                 return;
             const XmlDocument before = documentOf(reading.text);
             member->version.emplace(member->report, path,
-                                    NewVersionOptions{ReadOnlyFails::AtOnce, m_way.isSpared, reading.identity});
-            member->version->write({m_way.writing, before, document, readDocument});
+                                    NewVersionOptions{ReadOnlyFails::AtOnce, m_isSpared, reading.identity});
+            member->version->write({m_options.way, before, document, documentReader(m_options.reading)});
         });
         if (trap.pending() && trap.error().number == kDiskFull && onDiskFull == DiskFull::TryAgain)
             return false;
@@ -136,7 +136,7 @@ private:
 
     bool isToBeChangedAgain(const Member& member, const Error& error) const
     {
-        return m_onOtherChange == OnOtherChange::ChangeAgain && isFileWasChanged(error) && member.tries < kMostTries;
+        return m_options.onOtherChange == OnOtherChange::ChangeAgain && isFileWasChanged(error) && member.tries < kMostTries;
     }
 
     void bringToDisk(const std::string& folder)
@@ -186,8 +186,8 @@ private:
     }
 
     const NodeChange& m_change;
-    const SavingWay& m_way;
-    OnOtherChange m_onOtherChange;
+    const BatchOptions& m_options;
+    const SparedFile& m_isSpared;
     ErrorReporter& m_reporter;
     const SavedFile& m_saved;
     std::shared_mutex& m_room; ///< on the disk; whichever holds it alone has all of it
@@ -207,10 +207,9 @@ std::size_t groupSizeFor(unsigned jobs)
 
 } // namespace
 
-BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange change, WritingWay way, unsigned jobs,
-                         OnOtherChange onOtherChange)
-    : m_files(files), m_change(std::move(change)), m_way{way, sparing(files)}, m_onOtherChange(onOtherChange),
-      m_groupSize(groupSizeFor(jobs))
+BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange change, const BatchOptions& options)
+    : m_files(files), m_change(std::move(change)), m_options(options), m_isSpared(sparing(files)),
+      m_groupSize(groupSizeFor(options.jobs))
 {
     std::vector<std::string> realPaths;
     realPaths.reserve(files.size());
@@ -225,7 +224,7 @@ BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange chang
 void BatchAction::run(std::size_t first, std::size_t last, Progress& progress, ErrorReporter& reporter,
                       const SavedFile& saved) const
 {
-    Group group(m_change, m_way, m_onOtherChange, reporter, saved, m_room);
+    Group group(m_change, m_options, m_isSpared, reporter, saved, m_room);
     for (std::size_t i = first; i < last; ++i) {
         const std::string& path = m_files[i];
         if (!progress.step(path, i, m_files.size()))

@@ -25,16 +25,22 @@ enum class OnOtherChange {
     ChangeAgain ///< it is read again and changed as it is now
 };
 
+/// How a batch changes its files.
+struct BatchOptions {
+    WritingWay way = WritingWay::Keep;
+    Reading reading = Reading::Basic; ///< rebuilding needs basic documents
+    unsigned jobs = 1;                ///< how many stretches of the files will run at the same time
+    OnOtherChange onOtherChange = OnOtherChange::Refuse;
+};
+
 /// Makes one change to many JPEG files, keeping all parts of each. A file that already has the change is not written.
 /// New versions are written in groups, brought to disk together, then put in place: much less waiting for the disk, and
 /// each file as safe at every moment as if it were saved alone. When the disk is full, the groups are put in place,
 /// which makes room, and the file is tried once more before it fails.
 class BatchAction {
 public:
-    /// `files` must outlive the object. A path may occur in it more than once. `jobs`: how many stretches of them will
-    /// run at the same time.
-    BatchAction(const std::vector<std::string>& files, NodeChange change, WritingWay way = WritingWay::Keep,
-                unsigned jobs = 1, OnOtherChange onOtherChange = OnOtherChange::Refuse);
+    /// `files` must outlive the object. A path may occur in it more than once.
+    BatchAction(const std::vector<std::string>& files, NodeChange change, const BatchOptions& options = {});
 
     /// How many files are written before the first one is put in place.
     std::size_t groupSize() const { return m_groupSize; }
@@ -56,8 +62,8 @@ public:
 private:
     const std::vector<std::string>& m_files;
     NodeChange m_change;
-    SavingWay m_way;
-    OnOtherChange m_onOtherChange;
+    BatchOptions m_options;
+    SparedFile m_isSpared;
     std::size_t m_groupSize;
     mutable std::shared_mutex m_room;           ///< on the disk, shared by the stretches
     std::unordered_set<std::size_t> m_repeated; ///< earlier in the list under this or another name

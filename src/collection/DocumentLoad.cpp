@@ -20,9 +20,9 @@ XmlDocument loadDocument(const std::string& path, const KeepOptions& keep)
     return documentOf(documentText(path, keep));
 }
 
-XmlDocument readDocument(const std::string& path)
+DocumentReader documentReader(Reading reading)
 {
-    return loadDocument(path);
+    return [reading](const std::string& path) { return loadDocument(path, {.reading = reading}); };
 }
 
 std::string documentText(const std::string& path, const KeepOptions& keep)
@@ -30,16 +30,16 @@ std::string documentText(const std::string& path, const KeepOptions& keep)
     return textOf(JpegXml().XMLtranslate(path, keep));
 }
 
-std::string documentText(const InputFile& file, const std::string& path)
+std::string documentText(const InputFile& file, const std::string& path, const KeepOptions& keep)
 {
-    return textOf(JpegXml().XMLtranslate(file, path));
+    return textOf(JpegXml().XMLtranslate(file, path, keep));
 }
 
-FileReading readFile(const std::string& path)
+FileReading readFile(const std::string& path, Reading reading)
 {
     const InputFile file = openJpeg(path);
     const FileIdentity identity = identityOf(file);
-    return {documentText(file, path), identity};
+    return {documentText(file, path, {.reading = reading}), identity};
 }
 
 } // namespace ovisto

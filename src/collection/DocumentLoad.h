@@ -3,6 +3,7 @@
 #include "common/xml/XmlDocument.h"
 #include "jpeg/FileIdentity.h"
 #include "reader/JpegXml.h"
+#include "writer/SaveReceipt.h"
 
 #include <string>
 
@@ -11,8 +12,8 @@ namespace ovisto {
 /// The document of the JPEG file at `path`. Raises the reader's error, and what documentOf() raises.
 XmlDocument loadDocument(const std::string& path, const KeepOptions& keep = {});
 
-/// The same with nothing left out, as writing asks for it.
-XmlDocument readDocument(const std::string& path);
+/// Loads documents with nothing left out, as writing asks for it.
+DocumentReader documentReader(Reading reading);
 
 /// A JPEG file as it was read.
 struct FileReading {
@@ -21,12 +22,12 @@ struct FileReading {
 };
 
 /// Reads the file at `path`. Raises the reader's error.
-FileReading readFile(const std::string& path);
+FileReading readFile(const std::string& path, Reading reading = Reading::Basic);
 
-/// The text of the document with nothing left out. Raises the reader's error.
+/// The text of the document. Raises the reader's error.
 std::string documentText(const std::string& path, const KeepOptions& keep = {});
 
 /// The same for a file that is open.
-std::string documentText(const InputFile& file, const std::string& path);
+std::string documentText(const InputFile& file, const std::string& path, const KeepOptions& keep = {});
 
 } // namespace ovisto

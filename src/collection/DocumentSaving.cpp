@@ -43,7 +43,7 @@ SaveReceipt save(const XmlDocument& before, XmlDocument& after, const FileIdenti
                  const SavingWay& way, ErrorReporter& reporter)
 {
     NewVersion version(reporter, path, {ReadOnlyFails::AtTheEnd, way.isSpared, asRead});
-    version.write({way.writing, before, after, readDocument});
+    version.write({way.writing, before, after, documentReader(readingOf(after.node()))});
     version.bringToDisk();
     version.putInPlace();
     SaveReceipt receipt = version.receipt();
@@ -78,7 +78,7 @@ SaveReceipt saveDocument(XmlDocument& document, const FileIdentity& asRead, cons
         const InputFile file = openJpeg(path);
         if (!isSameFile(asRead, file))
             throw fileWasChanged();
-        before = documentOf(documentText(file, path));
+        before = documentOf(documentText(file, path, {.reading = readingOf(document.node())}));
     });
     return save(before, document, asRead, path, way, reporter);
 }
@@ -89,7 +89,7 @@ SaveReceipt saveOver(XmlDocument& document, const std::string& path, const Savin
         FileReading reading;
         XmlDocument before;
         reported(reports, path, [&] {
-            reading = readFile(path);
+            reading = readFile(path, readingOf(document.node()));
             before = documentOf(reading.text);
             adoptPicture(document, before);
         });
@@ -121,7 +121,8 @@ SaveReceipt tryRebuilding(const std::string& path, ErrorReporter& reporter)
     const InputFile oldFile(path);
     rebuildJpeg(document, oldFile, rebuilt.file(), rebuilt.path(), reporter);
     rebuilt.file().flush();
-    return compareVersions(oldFile, InputFile(rebuilt.path()), rebuilt.path(), before, document, readDocument);
+    return compareVersions(oldFile, InputFile(rebuilt.path()), rebuilt.path(), before, document,
+                           documentReader(Reading::Basic));
 }
 
 } // namespace ovisto

@@ -25,7 +25,7 @@ SparedFile sparing(const std::vector<std::string>& files);
 /// Saves `document` to its file at `path`, which must be the one `asRead` that the document was read from, unchanged.
 /// Raises the error that kept the file from being replaced, which has been reported; the file is then unchanged. That
 /// the saved file is not known to be on disk is reported, and said by the receipt. Rebuilding lays out the Exif
-/// elements of `document`.
+/// elements of `document`, which must be a basic one.
 SaveReceipt saveDocument(XmlDocument& document, const FileIdentity& asRead, const std::string& path,
                          const SavingWay& way, ErrorReporter& reporter);
 

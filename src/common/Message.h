@@ -52,8 +52,10 @@ enum class Message : std::uint8_t {
     NoDataType,
     NodeOfTheImage,
     NodeRequired,
+    NodeOfFullReading,
     CreateNodeFailed,
     // Writing
+    FullNotRebuilt,
     WriteTo,
     WriteFailed,
     ImageTransferFailed,
@@ -65,6 +67,7 @@ enum class Message : std::uint8_t {
     TextHasCdataEnd,
     TextHasControl,
     TextHasElements,
+    UnreadableCharacter,
     MoreThanOneImage,
     FileWasChanged,
     OtherPicture,

@@ -1,8 +1,11 @@
 #include "document/DataType.h"
 
+#include "common/text/Hex.h"
 #include "common/text/NumberText.h"
 #include "common/text/Unicode.h"
 #include "document/NodePath.h"
+#include "document/Reading.h"
+#include "document/TagNumbers.h"
 
 #include <algorithm>
 #include <iterator>
@@ -24,6 +27,14 @@ constexpr DataType kDataTypes[] = {
     {kSignedLong, "Signed Long", ValueForm::Long, 4, 1},
     {kSignedRational, "Signed Rational", ValueForm::Rational, 8, 0},
     {kUnicodeString, "Unicode String", ValueForm::WideText, 1, kValueFieldSize},
+};
+
+// Number 11 means the wide texts of Windows for their tags.
+constexpr DataType kFullDataTypes[] = {
+    {kFloat, "Float", ValueForm::Real, 4, 1},
+    {kDouble, "Double", ValueForm::Real, 8, 0},
+    {kIfd, "Directory Position", ValueForm::Long, 4, 1},
+    {kUtf8String, "UTF-8 String", ValueForm::Text, 1, kValueFieldSize},
 };
 
 std::int64_t characterLength(const std::string& text)
@@ -48,6 +59,21 @@ const DataType* findDataType(int number)
 {
     const auto* row = std::ranges::find(kDataTypes, number, &DataType::number);
     return row != std::end(kDataTypes) ? row : nullptr;
+}
+
+const DataType* findFullDataType(int number, int tag)
+{
+    const auto* row = std::ranges::find(kFullDataTypes, number, &DataType::number);
+    const bool isFullOnly = row != std::end(kFullDataTypes) && !(number == kUnicodeString && isWindowsText(tag));
+    return isFullOnly ? row : findDataType(number);
+}
+
+const DataType* dataTypeOfEntry(const ConstXmlNode& entry)
+{
+    const int number = dataTypeOf(entry);
+    if (readingOf(entry) == Reading::Basic)
+        return findDataType(number);
+    return findFullDataType(number, Hex4ToLong(AttributeGet(entry, "id")));
 }
 
 std::int64_t componentCount(const DataType& type, const std::string& text)

@@ -21,6 +21,12 @@ inline constexpr int kSignedLong = 9;
 inline constexpr int kSignedRational = 10;
 inline constexpr int kUnicodeString = 11; ///< UCS-2 text of the tags 9C9B to 9C9F; TIFF says FLOAT
 
+// Those that only full documents have.
+inline constexpr int kFloat = 11; ///< of all tags that are not texts of Windows
+inline constexpr int kDouble = 12;
+inline constexpr int kIfd = 13;         ///< the offset of a directory (TIFF Technical Note 1)
+inline constexpr int kUtf8String = 129; ///< Exif 3.0
+
 /// The bytes of an IFD entry that hold a value or, if it does not fit, its offset.
 inline constexpr std::int64_t kValueFieldSize = 4;
 
@@ -33,6 +39,7 @@ enum class ValueForm {
     Short,    ///< numbers separated by commas; signed ones are read and written as unsigned
     Long,
     Rational, ///< the same with fractions: two numbers with a slash
+    Real,     ///< the same with decimal fractions
 };
 
 /// A data type.
@@ -46,6 +53,13 @@ struct DataType {
 
 /// The data type with this number; null if there is none.
 const DataType* findDataType(int number);
+
+/// The data type with this number that an entry of `tag` has in a full document; null if there is none.
+const DataType* findFullDataType(int number, int tag);
+
+/// The data type of `entry`, an IFD element, as its document was read; null if there is none. Raises what dataTypeOf()
+/// raises.
+const DataType* dataTypeOfEntry(const ConstXmlNode& entry);
 
 /// How many components the text of a value has in a file, terminators included.
 std::int64_t componentCount(const DataType& type, const std::string& text);

@@ -19,6 +19,12 @@ std::string pathInExif(const ExifPart& part)
     return pathInExif(*parent).append("/").append(part.element);
 }
 
+/// The last step of the path of an entry.
+std::string entryStep(std::uint16_t tag)
+{
+    return "/IFD[@id='" + hexNumber(tag, 4) + "']";
+}
+
 template <class Node> Node partBelow(Node exif, const ExifPart& part)
 {
     const ExifPart* parent = exifPart(part.parent);
@@ -40,6 +46,24 @@ const ExifPart* exifPartAt(std::string_view nodePath)
     nodePath.remove_prefix(std::string_view(kExifPath).size());
     const auto* row = std::ranges::find(kExifParts, nodePath, pathInExif);
     return row != std::end(kExifParts) ? row : nullptr;
+}
+
+const ExifPart* partPointedFrom(std::string_view nodePath)
+{
+    const auto* row = std::ranges::find_if(kExifParts, [nodePath](const ExifPart& part) {
+        return part.pointer.offset != 0 &&
+               nodePath == kExifPath + pathInExif(*exifPart(part.pointedFrom)) + entryStep(part.pointer.offset);
+    });
+    return row != std::end(kExifParts) ? row : nullptr;
+}
+
+Reading readingNeeded(std::string_view nodePath)
+{
+    for (const ExifPart& part : kExifParts) {
+        if (part.reading == Reading::Full && nodePath.starts_with(kExifPath + pathInExif(part)))
+            return Reading::Full;
+    }
+    return Reading::Basic;
 }
 
 const ExifPart* bytesCountedBy(int tag)
@@ -67,7 +91,7 @@ std::string partPath(const ExifPart& part)
 
 std::string entryPath(const ExifPart& directory, std::uint16_t tag)
 {
-    return partPath(directory) + "/IFD[@id='" + hexNumber(tag, 4) + "']";
+    return partPath(directory) + entryStep(tag);
 }
 
 } // namespace ovisto

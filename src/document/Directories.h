@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/xml/XmlNode.h"
+#include "document/Reading.h"
 #include "document/TagNumbers.h"
 
 #include <cstdint>
@@ -17,6 +18,7 @@ inline constexpr std::string_view kFirstDirectory = "Exif"; ///< its own entries
 inline constexpr std::string_view kExifIfd = "IFDE";
 inline constexpr std::string_view kInteroperabilityIfd = "IFDI";
 inline constexpr std::string_view kMakerNoteBytes = "MAKE";
+inline constexpr std::string_view kGpsIfd = "IFDG";
 inline constexpr std::string_view kThumbnailIfd = "IFD1";
 inline constexpr std::string_view kThumbnailBytes = "THUM";
 
@@ -51,6 +53,9 @@ struct ExifPart {
     /// The part that the directory exists for, if any: the two are deleted together. Any other part is deleted together
     /// with the entry of its offset.
     std::string_view purpose = {};
+    EntryText firstEntry = {};        ///< the entry that a new directory begins with, if it has a text
+    bool hasTagZero = false;          ///< whether 0 is a tag in there; in other directories it ends the entries
+    Reading reading = Reading::Basic; ///< Full: only full documents have the part
 };
 
 /// In file order. Parts of the same parent are also in document order.
@@ -66,6 +71,13 @@ inline constexpr ExifPart kExifParts[] = {
      .kind = PartKind::Bytes,
      .pointedFrom = kExifIfd,
      .pointer = {kMakerNote}},
+    {.element = kGpsIfd,
+     .parent = kFirstDirectory,
+     .pointedFrom = kFirstDirectory,
+     .pointer = {kGpsDirectory},
+     .firstEntry = {kGpsVersion, "02030000"},
+     .hasTagZero = true,
+     .reading = Reading::Full},
     {.element = kThumbnailIfd, .parent = kFirstDirectory, .pointedFrom = kFirstDirectory, .purpose = kThumbnailBytes},
     {.element = kThumbnailBytes,
      .parent = kThumbnailIfd,
@@ -82,12 +94,18 @@ const ExifPart* exifPart(std::string_view element);
 /// The row for a node path as NodeXPath() writes it; null if it is not the path of a part.
 const ExifPart* exifPartAt(std::string_view nodePath);
 
+/// The row of the part that the entry at a node path, written as NodeXPath() does, leads to; null if it leads to none.
+const ExifPart* partPointedFrom(std::string_view nodePath);
+
 /// The row of the byte block whose size is the component count of the entries with this tag; null if there is none.
 const ExifPart* bytesCountedBy(int tag);
 
 /// The node of a part below `exif`, an Exif element, or no node.
 XmlNode partNode(XmlNode exif, const ExifPart& part);
 ConstXmlNode partNode(ConstXmlNode exif, const ExifPart& part);
+
+/// The reading that a document must have for a node at `nodePath`, written as NodeXPath() does.
+Reading readingNeeded(std::string_view nodePath);
 
 /// A path that selects the part in the first Exif element, whatever its id.
 std::string partPath(const ExifPart& part);

@@ -28,7 +28,10 @@ std::string companionPath(const ExifPart& part)
 XmlNode removeCompanion(XmlDocument& document, const std::string& path)
 {
     const ExifPart* part = exifPartAt(path);
-    const std::string companionsPath = part != nullptr ? companionPath(*part) : std::string();
+    const ExifPart* pointedPart = partPointedFrom(path);
+    const std::string companionsPath = part != nullptr          ? companionPath(*part)
+                                       : pointedPart != nullptr ? partPath(*pointedPart)
+                                                                : std::string();
     if (companionsPath.empty())
         return {};
     XmlNode companion = document.selectSingleNode(companionsPath);
@@ -54,8 +57,10 @@ bool isPartOfImage(const DictionaryEntry& entry)
 
 } // namespace
 
-Phrase objection(const NodeChange& change)
+Phrase objection(const NodeChange& change, Reading reading)
 {
+    if (reading == Reading::Basic && readingNeeded(change.entry.path()) == Reading::Full)
+        return Message::NodeOfFullReading;
     if (change.action == NodeAction::Set && !change.entry.hasDataType())
         return Message::NoDataType;
     if (isPartOfImage(change.entry))

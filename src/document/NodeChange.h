@@ -2,6 +2,7 @@
 
 #include "common/ErrorReport.h"
 #include "common/xml/XmlDocument.h"
+#include "document/Reading.h"
 #include "document/TagDictionary.h"
 
 #include <string>
@@ -26,12 +27,12 @@ struct ChangeResult {
     explicit operator bool() const { return changed; }
 };
 
-/// Why the change cannot be made to any file; empty when it can.
-Phrase objection(const NodeChange& change);
+/// Why the change cannot be made to any file that is read in this way; empty when it can.
+Phrase objection(const NodeChange& change, Reading reading);
 
 /// Makes the change to a document, creating the node where Set or Add misses it. Deleting a node removes the entry that
-/// pointed to it too, or the directory that was there for it. A node that cannot be created is reported, and the error
-/// raised; the document is then of no more use.
+/// pointed to it too, what it pointed to, or the directory that was there for it. A node that cannot be created is
+/// reported, and the error raised; the document is then of no more use.
 ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter);
 
 } // namespace ovisto

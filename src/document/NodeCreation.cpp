@@ -93,6 +93,9 @@ XmlNode CreateNode(XmlDocument& document, const DictionaryEntry& entry, ErrorRep
             element = createElement(document, templateNode);
             insert(parent, element, nextSibling(parent, templateNode));
         });
+        const ExifPart* part = exifPartAt(path);
+        if (part != nullptr && !part->firstEntry.text.empty())
+            trap.run([&] { createCompanion(document, templateNode.document(), *part, part->firstEntry, reporter); });
     }
     reportPending(
         reporter, [&] { return Phrase(Message::CreateNodeFailed, path); }, trap);

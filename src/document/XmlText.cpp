@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace ovisto {
 
@@ -29,31 +30,49 @@ bool isPlain(char character)
     return kPlain[static_cast<std::uint8_t>(character)];
 }
 
+/// A markup character and the entity that stands for it.
+struct Entity {
+    char32_t character;
+    std::string_view text;
+};
+
+constexpr Entity kEntities[] = {{'"', "&quot;"}, {'\'', "&apos;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'&', "&amp;"}};
+
+bool appendEntity(std::string& text, char32_t character)
+{
+    const auto* entity = std::ranges::find(kEntities, character, &Entity::character);
+    if (entity == std::end(kEntities))
+        return false;
+    text += entity->text;
+    return true;
+}
+
+void appendReference(std::string& text, char32_t character)
+{
+    text.append("&#").append(std::to_string(static_cast<std::uint32_t>(character))).append(";");
+}
+
 void appendSanitized(std::string& text, char32_t character)
 {
     const std::uint8_t code = codePageByte(character);
-    switch (code) {
-    case '"':
-        text += "&quot;";
-        break;
-    case '\'':
-        text += "&apos;";
-        break;
-    case '<':
-        text += "&lt;";
-        break;
-    case '>':
-        text += "&gt;";
-        break;
-    case '&':
-        text += "&amp;";
-        break;
-    default:
-        if (code >= kFirstKept && code < kFirstReferenced)
-            appendCharacter(text, codePageCharacter(code));
-        else
-            text += "&#" + std::to_string(code) + ";";
-    }
+    if (appendEntity(text, code))
+        return;
+    if (code >= kFirstKept && code < kFirstReferenced)
+        appendCharacter(text, codePageCharacter(code));
+    else
+        appendReference(text, code);
+}
+
+void appendEscaped(std::string& text, char32_t character)
+{
+    if (appendEntity(text, character))
+        return;
+    constexpr char32_t kLastC1Control = 159;
+    const char32_t shown = xmlCharacter(character);
+    if (shown < kFirstKept || (shown >= kFirstReferenced && shown <= kLastC1Control))
+        appendReference(text, shown);
+    else
+        appendCharacter(text, shown);
 }
 
 } // namespace
@@ -80,6 +99,44 @@ std::string XMLSanitize(std::string_view Value)
     std::string text;
     forEachCharacter(Value, [&](char32_t character) { appendSanitized(text, character); });
     return text;
+}
+
+std::string escapedText(std::string_view text)
+{
+    if (std::ranges::all_of(text, isPlain))
+        return std::string(text);
+    std::string escaped;
+    forEachCharacter(text, [&](char32_t character) { appendEscaped(escaped, character); });
+    return escaped;
+}
+
+std::string attributeText(std::string_view name, std::string_view value)
+{
+    std::string attribute(" ");
+    return attribute.append(name).append("=\"").append(escapedText(value)).append("\"");
+}
+
+std::string cdataText(std::string_view text)
+{
+    struct Divider {
+        std::string_view text;
+        std::string_view written;
+    };
+    constexpr Divider kDividers[] = {{"]]>", "]]]]><![CDATA[>"}, {"\r", "]]>&#13;<![CDATA["}};
+    std::string sections = "<![CDATA[";
+    while (!text.empty()) {
+        const auto* divider =
+            std::ranges::find_if(kDividers, [&](const Divider& row) { return text.starts_with(row.text); });
+        if (divider != std::end(kDividers)) {
+            sections += divider->written;
+            text.remove_prefix(divider->text.size());
+            continue;
+        }
+        const std::size_t end = std::min(text.find_first_of("]\r", 1), text.size());
+        sections += text.substr(0, end);
+        text.remove_prefix(end);
+    }
+    return sections += "]]>";
 }
 
 bool StringHasControlChars(std::string_view Value)

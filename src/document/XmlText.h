@@ -15,6 +15,16 @@ std::string xmlAtt(std::string_view attName, std::int64_t attVal);
 /// 32 or above 128 becomes a reference with that code; one without a code becomes "?".
 std::string XMLSanitize(std::string_view Value);
 
+/// The same for full documents, which hold any character: markup, tab, LF and CR become references, what XML cannot
+/// hold becomes U+FFFD, and all others stand for themselves.
+std::string escapedText(std::string_view text);
+/// ` name="value"`, with the value escaped by escapedText().
+std::string attributeText(std::string_view name, std::string_view value);
+
+/// A text as the content of an element, in CDATA sections. A section cannot hold its own end or CR, so these stand
+/// between two of them.
+std::string cdataText(std::string_view text);
+
 /// Whether the text contains a character with a code below 32.
 bool StringHasControlChars(std::string_view Value);
 

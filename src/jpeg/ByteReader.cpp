@@ -99,6 +99,24 @@ std::string ByteReader::ReadHexString(FilePos pointer, std::int64_t length)
     return text;
 }
 
+std::vector<std::uint8_t> ByteReader::readBytes(FilePos pointer, std::int64_t length)
+{
+    std::vector<std::uint8_t> bytes;
+    if (length <= 0)
+        return bytes;
+    checkLength(length);
+    charge(length);
+    while (length > 0) {
+        const auto found = stretch(pointer.value - 1, length);
+        if (found.empty())
+            break;
+        bytes.insert(bytes.end(), found.begin(), found.end());
+        pointer = pointer + static_cast<std::int64_t>(found.size());
+        length -= static_cast<std::int64_t>(found.size());
+    }
+    return bytes;
+}
+
 void ByteReader::checkLength(std::int64_t length) const
 {
     constexpr std::int64_t kAlwaysAllowed = 65536;

@@ -10,6 +10,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace ovisto {
 
@@ -45,6 +46,8 @@ public:
     std::string ReadUnicode(FilePos pointer, std::int64_t length);
     /// `length` bytes, two hexadecimal digits each.
     std::string ReadHexString(FilePos pointer, std::int64_t length);
+    /// The same as they are, as far as the file has them.
+    std::vector<std::uint8_t> readBytes(FilePos pointer, std::int64_t length);
 
     /// Raises kInvalidCall for an array of `length` bytes that is longer than both the file and 65,536 bytes.
     void checkLength(std::int64_t length) const;

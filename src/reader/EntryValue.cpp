@@ -126,6 +126,7 @@ void readEntryValue(ByteReader& reader, const IfdEntry& entry, EntryValue& value
         value.text = joined(reader, entry, type->size, rationalText);
         break;
     case ValueForm::WideText:
+    case ValueForm::Real:
         break; // of the document only: a file that has this number means another type, which is not read
     }
 }

@@ -5,8 +5,14 @@
 #include "common/text/Splitting.h"
 #include "common/text/Unicode.h"
 #include "document/DataType.h"
+#include "document/StoredText.h"
 #include "document/TagNumbers.h"
 #include "document/XmlText.h"
+#include "reader/FullValue.h"
+
+#include <algorithm>
+#include <span>
+#include <utility>
 
 namespace ovisto {
 
@@ -47,10 +53,12 @@ void ExifDecoding::ExifScan(std::uint16_t markLen, FilePos pointer)
         appendContainer(
             "<Exif" + xmlAtt("id", "FFE1") + xmlAtt("byteSeq", byteOrder) + xmlAtt("d", "7") + ">\r\n",
             [&] { scanFirstDirectory(base); }, "</Exif>\r\n");
-    } else if (m_keep.pCodifyExif1) {
-        scanOtherApp1(markLen, pointer, identifier);
-    } else {
+    } else if (!m_keep.pCodifyExif1) {
         m_changesMade = true;
+    } else if (m_keep.reading == Reading::Full) {
+        appendFullApp1(markLen, pointer);
+    } else {
+        scanOtherApp1(markLen, pointer, identifier);
     }
 }
 
@@ -71,7 +79,7 @@ void ExifDecoding::scanDirectory(const ExifPart& directory, FilePos base)
         if (isLinkedFrom(part, directory))
             placeOf(part).offset.value = m_reader.ReadLong(ifdEntryPosition(position, m_reader.ReadInteger(position)));
     }
-    IFDScan(base, offset);
+    IFDScan(directory, base, offset);
     for (const ExifPart& part : kExifParts) {
         if (part.parent == directory.element && isThere(part))
             appendPart(part, base);
@@ -81,6 +89,8 @@ void ExifDecoding::scanDirectory(const ExifPart& directory, FilePos base)
 /// Whether the segment says that it has the part.
 bool ExifDecoding::isThere(const ExifPart& part)
 {
+    if (part.reading == Reading::Full && m_keep.reading == Reading::Basic)
+        return false;
     return hasLengthEntry(part) ? placeOf(part).length > 0 : placeOf(part).offset.value > 0;
 }
 
@@ -89,6 +99,8 @@ void ExifDecoding::appendPart(const ExifPart& part, FilePos base)
 {
     if (part.kind == PartKind::Bytes)
         return appendBytes(part, base);
+    if (part.reading == Reading::Full)
+        return appendFullDirectory(part, base);
     if (m_errors.pending())
         return;
     if (part.purpose == kThumbnailBytes && !m_keep.pCodifyThumb) {
@@ -98,6 +110,16 @@ void ExifDecoding::appendPart(const ExifPart& part, FilePos base)
     const std::string name(part.element);
     appendContainer(
         "<" + name + xmlAtt("d", "2") + ">", [&] { scanDirectory(part, base); }, "</" + name + ">");
+}
+
+/// Appends a directory that only full documents have. What it holds, readable or not, changes nothing of the others.
+void ExifDecoding::appendFullDirectory(const ExifPart& part, FilePos base)
+{
+    const ErrorTrap errors = std::exchange(m_errors, {});
+    const std::string name(part.element);
+    appendContainer(
+        "<" + name + xmlAtt("d", "2") + ">", [&] { scanDirectory(part, base); }, "</" + name + ">\r\n");
+    m_errors = errors;
 }
 
 /// Appends an element of plain bytes; it is empty where they cannot be read.
@@ -121,35 +143,52 @@ void ExifDecoding::scanOtherApp1(std::uint16_t markLen, FilePos pointer, const s
                          payload, "]]></Exif1>\r\n");
 }
 
-/// Reads one directory.
-void ExifDecoding::IFDScan(FilePos base, TiffOffset ifdOffset)
+/// The same with all of the payload. A parser would turn CR into LF within a section, so it stands beside them.
+void ExifDecoding::appendFullApp1(std::uint16_t markLen, FilePos pointer)
 {
-    const FilePos directory = filePos(base, ifdOffset);
-    const int entries = m_reader.ReadInteger(directory);
+    constexpr std::int64_t kLengthField = 2;
+    const auto bytes = m_reader.readBytes(pointer + 4, markLen - kLengthField);
+    const auto identifierEnd = std::ranges::find(bytes, 0);
+    const std::span<const std::uint8_t> identifier(bytes.begin(), identifierEnd);
+    const std::span<const std::uint8_t> payload(identifierEnd == bytes.end() ? identifierEnd : identifierEnd + 1,
+                                                bytes.end());
+    m_text.appendElement("<Exif1" + xmlAtt("id", "FFE1") +
+                             attributeText("ns", shownText(storedPayload(identifier), identifier)) + xmlAtt("d", "2") +
+                             ">\r\n",
+                         cdataText(shownText(storedPayload(payload), payload)), "</Exif1>\r\n");
+}
+
+/// Reads one directory.
+void ExifDecoding::IFDScan(const ExifPart& directory, FilePos base, TiffOffset ifdOffset)
+{
+    const FilePos position = filePos(base, ifdOffset);
+    const int entries = m_reader.ReadInteger(position);
     if (entries > kMostEntries) {
         constexpr std::int64_t kShownBytes = 100;
         m_text.append("IFD directory seems corrupted: more than 200 entries! " +
-                      m_reader.ReadHexString(directory, kShownBytes));
+                      m_reader.ReadHexString(position, kShownBytes));
         return;
     }
     for (int i = 0; i < entries; ++i) {
-        const IfdEntry entry = readIfdEntry(m_reader, base, ifdEntryPosition(directory, i));
+        const IfdEntry entry = readIfdEntry(m_reader, base, ifdEntryPosition(position, i));
         if (entry.tag == kMakerNote && !m_keep.pCodifyMakerNote) {
             m_changesMade = true;
             continue;
         }
-        if (entry.tag == 0)
+        if (entry.tag == 0 && !directory.hasTagZero)
             return;
-        appendEntry(entry);
+        appendEntry(directory, entry);
     }
 }
 
 /// A value that cannot be read is empty; the entry stays.
-void ExifDecoding::appendEntry(const IfdEntry& entry)
+void ExifDecoding::appendEntry(const ExifPart& directory, const IfdEntry& entry)
 {
     EntryValue value;
-    m_errors.run([&] { readEntryValue(m_reader, entry, value); });
-    m_errors.run([&] { recordPointer(entry, value); });
+    const auto read = m_keep.reading == Reading::Full ? readFullEntryValue : readEntryValue;
+    m_errors.run([&] { read(m_reader, entry, value); });
+    if (directory.reading == Reading::Basic)
+        m_errors.run([&] { recordPointer(entry, value); });
     std::string openingTag = "<IFD";
     openingTag.append(xmlAtt("id", hexNumber(entry.tag, 4)))
         .append(xmlAtt("d", std::int64_t{value.dataType}))

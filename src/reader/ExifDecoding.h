@@ -44,10 +44,12 @@ private:
     void scanFirstDirectory(FilePos base);
     void scanDirectory(const ExifPart& directory, FilePos base);
     void scanOtherApp1(std::uint16_t markLen, FilePos pointer, const std::string& identifier);
-    void IFDScan(FilePos base, TiffOffset ifdOffset);
-    void appendEntry(const IfdEntry& entry);
+    void IFDScan(const ExifPart& directory, FilePos base, TiffOffset ifdOffset);
+    void appendEntry(const ExifPart& directory, const IfdEntry& entry);
     void appendPart(const ExifPart& part, FilePos base);
     void appendBytes(const ExifPart& part, FilePos base);
+    void appendFullDirectory(const ExifPart& part, FilePos base);
+    void appendFullApp1(std::uint16_t markLen, FilePos pointer);
     template <class Content>
     void appendContainer(const std::string& openingTag, Content content, std::string_view closingTag);
     void recordPointer(const IfdEntry& entry, const EntryValue& value);

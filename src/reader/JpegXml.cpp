@@ -1,6 +1,7 @@
 #include "reader/JpegXml.h"
 
 #include "common/system/File.h"
+#include "common/text/CodePage.h"
 #include "common/text/Hex.h"
 #include "common/text/PathText.h"
 #include "document/XmlText.h"
@@ -51,7 +52,11 @@ Translation FileTranslation::run()
         return {.text = {}, .error = trap.take()};
 
     const auto [folder, name] = splitPath(m_fileName);
-    m_text.appendTag("<JPEG" + xmlAtt("d", "1") + xmlAtt("folder", folder) + xmlAtt("fileName", name) + ">\r\n");
+    if (m_keep.reading == Reading::Full)
+        m_text.appendTag("<JPEG" + xmlAtt("d", "1") + attributeText("folder", decodedText(folder)) +
+                         attributeText("fileName", decodedText(name)) + xmlAtt("reading", "full") + ">\r\n");
+    else
+        m_text.appendTag("<JPEG" + xmlAtt("d", "1") + xmlAtt("folder", folder) + xmlAtt("fileName", name) + ">\r\n");
     trap.run([&] { scanSegments(); });
     m_text.appendTag("</JPEG>");
     Translation result{.text = m_text.take(), .ChangesMade = m_changesMade, .error = {}};

@@ -250,6 +250,8 @@ std::optional<EntryPlace> followedEntry(const std::vector<PartChange>& parts, co
     if (part.pointer.offset == 0)
         return followed;
     for (std::size_t p = 0; p < parts.size(); ++p) {
+        if (parts[p].part->reading == Reading::Full)
+            continue; // a reader follows no entries from there
         for (std::size_t e = 0; e < parts[p].entriesBefore.size(); ++e) {
             if (leadsTo(parts[p].entriesBefore[e], part))
                 followed = EntryPlace{p, e};

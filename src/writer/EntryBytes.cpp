@@ -8,9 +8,14 @@
 #include "common/text/Unicode.h"
 #include "document/DataType.h"
 #include "document/NodePath.h"
+#include "document/Reading.h"
+#include "document/StoredText.h"
 #include "document/TagNumbers.h"
+#include "writer/TextBytes.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <charconv>
 #include <limits>
 #include <optional>
@@ -36,9 +41,10 @@ struct OldValue {
 struct Task {
     const TiffBlock& block;
     int tag = 0;
-    std::uint16_t type = 0;        ///< TIFF field type that it gets
-    std::string text;              ///< what it has to say
-    std::optional<OldValue> old{}; ///< of the same data type
+    Reading reading = Reading::Basic; ///< of the document
+    std::uint16_t type = 0;           ///< TIFF field type that it gets
+    std::string text;                 ///< what it has to say
+    std::optional<OldValue> old{};    ///< of the same data type
 };
 
 Error refusal(Message reason)
@@ -69,7 +75,7 @@ NumberRange numberRange(std::uint16_t type)
     }
 }
 
-void appendNumber(Bytes& bytes, const Task& task, std::string_view text, std::size_t size)
+template <std::size_t kSize> void appendNumber(Bytes& bytes, const Task& task, std::string_view text)
 {
     std::int64_t number = 0;
     const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -78,12 +84,14 @@ void appendNumber(Bytes& bytes, const Task& task, std::string_view text, std::si
     const NumberRange range = numberRange(task.type);
     if (number < range.least || number > range.most)
         throw systemError(kOverflow);
-    task.block.appendNumber(bytes, static_cast<std::uint32_t>(number), size);
+    task.block.appendNumber(bytes, static_cast<std::uint32_t>(number), kSize);
 }
 
-/// The numbers of a list, `size` bytes each: those whose text stayed keep their bytes.
-Bytes numberBytes(const Task& task, char separator, std::string_view text, std::string_view oldText,
-                  std::span<const std::uint8_t> oldBytes, std::size_t size)
+using AppendItem = void (*)(Bytes& bytes, const Task& task, std::string_view text);
+
+/// The items of a list, `size` bytes each, which `append` makes: those whose text stayed keep their bytes.
+Bytes listBytes(const Task& task, char separator, std::string_view text, std::string_view oldText,
+                std::span<const std::uint8_t> oldBytes, std::size_t size, AppendItem append)
 {
     Bytes bytes;
     const auto items = split(text, separator);
@@ -91,7 +99,7 @@ Bytes numberBytes(const Task& task, char separator, std::string_view text, std::
     for (std::size_t i = 0; i < items.size(); ++i) {
         const bool isKept = i < oldItems.size() && oldItems[i] == items[i] && (i + 1) * size <= oldBytes.size();
         if (!isKept) {
-            appendNumber(bytes, task, items[i], size);
+            append(bytes, task, items[i]);
             continue;
         }
         const auto kept = oldBytes.subspan(i * size, size);
@@ -100,11 +108,16 @@ Bytes numberBytes(const Task& task, char separator, std::string_view text, std::
     return bytes;
 }
 
-Bytes integerBytes(const Task& task, std::size_t size)
+Bytes listBytes(const Task& task, std::size_t size, AppendItem append)
 {
     if (!task.old)
-        return numberBytes(task, ',', task.text, "-", {}, size);
-    return numberBytes(task, ',', task.text, task.old->text, task.old->bytes, size);
+        return listBytes(task, ',', task.text, "-", {}, size, append);
+    return listBytes(task, ',', task.text, task.old->text, task.old->bytes, size, append);
+}
+
+Bytes integerBytes(const Task& task, std::size_t size)
+{
+    return listBytes(task, size, size == 2 ? appendNumber<2> : appendNumber<4>);
 }
 
 Bytes fractionBytes(const Task& task)
@@ -121,11 +134,11 @@ Bytes fractionBytes(const Task& task)
         const std::size_t index = place++;
         const bool wasThere =
             task.old && index < oldItems.size() && (index + 1) * kFractionSize <= task.old->bytes.size();
-        const Bytes fraction =
-            wasThere
-                ? numberBytes(task, '/', item, oldItems[index],
-                              std::span(task.old->bytes).subspan(index * kFractionSize, kFractionSize), kNumberSize)
-                : numberBytes(task, '/', item, "-", {}, kNumberSize);
+        const Bytes fraction = wasThere
+                                   ? listBytes(task, '/', item, oldItems[index],
+                                               std::span(task.old->bytes).subspan(index * kFractionSize, kFractionSize),
+                                               kNumberSize, appendNumber<kNumberSize>)
+                                   : listBytes(task, '/', item, "-", {}, kNumberSize, appendNumber<kNumberSize>);
         bytes.insert(bytes.end(), fraction.begin(), fraction.end());
     }
     return bytes;
@@ -182,10 +195,62 @@ TiffValue fourBytes(const Task& task)
     return {task.type, count, std::move(bytes)};
 }
 
+template <class Number> void appendReal(Bytes& bytes, const Task& task, std::string_view text)
+{
+    Number number = 0;
+    const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (status == std::errc::result_out_of_range)
+        throw systemError(kOverflow);
+    if (status != std::errc() || end != text.data() + text.size())
+        throw systemError(kTypeMismatch);
+    std::array<std::uint8_t, sizeof(Number)> stored = std::bit_cast<std::array<std::uint8_t, sizeof(Number)>>(number);
+    if ((std::endian::native == std::endian::little) != task.block.littleEndian())
+        std::ranges::reverse(stored);
+    bytes.insert(bytes.end(), stored.begin(), stored.end());
+}
+
+Bytes realBytes(const Task& task, std::size_t size)
+{
+    return listBytes(task, size, size == sizeof(float) ? appendReal<float> : appendReal<double>);
+}
+
+/// A value of a full document, which shows all of it: what is written is just what it says.
+TiffValue fullValueOf(const Task& task, const DataType& dataType)
+{
+    Bytes bytes;
+    const TextPlace place{.tag = task.tag, .fieldType = task.type, .littleEndian = task.block.littleEndian()};
+    const bool isNamedBytes = dataType.number == kUndefined && isFourByteTag(task.tag);
+    switch (isNamedBytes ? ValueForm::Hexadecimal : dataType.form) {
+    case ValueForm::Hexadecimal:
+        bytes = digitBytes(task.text);
+        break;
+    case ValueForm::Text:
+    case ValueForm::RawText:
+    case ValueForm::WideText:
+        bytes = task.old ? changedTextBytes(place, task.old->bytes, task.text) : newTextBytes(place, task.text);
+        break;
+    case ValueForm::Short:
+    case ValueForm::Long:
+        bytes = integerBytes(task, static_cast<std::size_t>(dataType.size));
+        break;
+    case ValueForm::Rational:
+        bytes = fractionBytes(task);
+        break;
+    case ValueForm::Real:
+        bytes = realBytes(task, static_cast<std::size_t>(dataType.size));
+        break;
+    }
+    const auto count = static_cast<std::uint32_t>(bytes.size() / static_cast<std::size_t>(tiffTypeSize(task.type)));
+    return {task.type, count, std::move(bytes)};
+}
+
 TiffValue valueOf(const Task& task, const DataType* dataType)
 {
-    if (dataType == nullptr || (dataType->number == kUnicodeString && !isWindowsText(task.tag)))
+    if (dataType == nullptr ||
+        (dataType->number == kUnicodeString && dataType->form == ValueForm::WideText && !isWindowsText(task.tag)))
         throw refusal(Message::TypeNotChangeable);
+    if (task.reading == Reading::Full)
+        return fullValueOf(task, *dataType);
     if (dataType->number == kUndefined && isFourByteTag(task.tag))
         return fourBytes(task);
     Bytes bytes;
@@ -211,27 +276,30 @@ TiffValue valueOf(const Task& task, const DataType* dataType)
     case ValueForm::Rational:
         bytes = fractionBytes(task);
         break;
+    case ValueForm::Real:
+        throw refusal(Message::TypeNotChangeable);
     }
     const auto count = static_cast<std::uint32_t>(bytes.size() / static_cast<std::size_t>(tiffTypeSize(task.type)));
     return {task.type, count, std::move(bytes)};
 }
 
 /// The field type of a data type.
-std::uint16_t fieldType(int dataType)
+std::uint16_t fieldType(int dataType, int tag)
 {
-    return static_cast<std::uint16_t>(dataType == kUnicodeString ? kByte : dataType);
+    return static_cast<std::uint16_t>(dataType == kUnicodeString && isWindowsText(tag) ? kByte : dataType);
 }
 
 } // namespace
 
 TiffValue newValue(const TiffBlock& block, const ConstXmlNode& entry)
 {
-    const int dataType = dataTypeOf(entry);
+    const int tag = Hex4ToLong(AttributeGet(entry, "id"));
     return valueOf({.block = block,
-                    .tag = Hex4ToLong(AttributeGet(entry, "id")),
-                    .type = fieldType(dataType),
+                    .tag = tag,
+                    .reading = readingOf(entry),
+                    .type = fieldType(dataTypeOf(entry), tag),
                     .text = entry.text()},
-                   findDataType(dataType));
+                   dataTypeOfEntry(entry));
 }
 
 TiffValue changedValue(const TiffBlock& block, const ConstXmlNode& before, const ConstXmlNode& after,
@@ -243,15 +311,16 @@ TiffValue changedValue(const TiffBlock& block, const ConstXmlNode& before, const
     auto bytes = block.value(old);
     if (!bytes)
         throw refusal(Message::OldValueNotInSegment);
-    // A run of four bytes is shown whatever the count says.
-    if (isFourByteTag(old.tag) && bytes->size() < old.field.size())
+    // A basic document shows a run of four bytes whatever the count says.
+    if (readingOf(after) == Reading::Basic && isFourByteTag(old.tag) && bytes->size() < old.field.size())
         bytes->assign(old.field.begin(), old.field.end());
     return valueOf({.block = block,
                     .tag = old.tag,
+                    .reading = readingOf(after),
                     .type = old.type,
                     .text = after.text(),
                     .old = OldValue{dataType, old.type, old.count, std::move(*bytes), before.text()}},
-                   findDataType(dataType));
+                   dataTypeOfEntry(after));
 }
 
 std::vector<std::uint8_t> digitBytes(const std::string& text)
@@ -264,11 +333,18 @@ std::vector<std::uint8_t> digitBytes(const std::string& text)
 
 bool mayReadDifferently(const ConstXmlNode& entry)
 {
-    const DataType* dataType = findDataType(dataTypeOf(entry));
+    const DataType* dataType = dataTypeOfEntry(entry);
     if (dataType == nullptr)
         return false;
-    return dataType->form == ValueForm::WideText || dataType->form == ValueForm::Short ||
-           dataType->form == ValueForm::Long || dataType->form == ValueForm::Rational;
+    const bool isFull = readingOf(entry) == Reading::Full;
+    if (isFull && (dataType->form == ValueForm::Hexadecimal || dataType->form == ValueForm::Real))
+        return true;
+    if (dataType->form == ValueForm::WideText)
+        return !isFull;
+    if (isFull && dataType->form == ValueForm::RawText)
+        return hasCharacterCode(Hex4ToLong(AttributeGet(entry, "id")));
+    return dataType->form == ValueForm::Short || dataType->form == ValueForm::Long ||
+           dataType->form == ValueForm::Rational;
 }
 
 } // namespace ovisto

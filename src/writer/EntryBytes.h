@@ -31,7 +31,8 @@ TiffValue changedValue(const TiffBlock& block, const ConstXmlNode& before, const
 std::vector<std::uint8_t> digitBytes(const std::string& text);
 
 /// Whether a value of this node may read differently from how it was typed although its bytes say just that: numbers
-/// ("-1", "1e3"), and wide texts with more characters than a document shows.
+/// ("-1", "1e3"), digits in lower case, blanks that pad a comment, and wide texts with more characters than a basic
+/// document shows.
 bool mayReadDifferently(const ConstXmlNode& entry);
 
 } // namespace ovisto

@@ -10,6 +10,7 @@
 #include "writer/FileSegments.h"
 #include "writer/PlainSegment.h"
 #include "writer/SegmentWriter.h"
+#include "writer/TextBytes.h"
 
 #include <algorithm>
 #include <array>
@@ -85,6 +86,8 @@ private:
             copySegment(*segment);
         else if (isExif(after))
             writeExif(segment, segment != nullptr ? m_before[*pair.before] : ConstXmlNode(), after);
+        else if (after.name() == "Exif1" && readingOf(after) == Reading::Full)
+            writeFullApp1(segment, after);
         else if (segment != nullptr && after.name() == "Exif1")
             writeOtherApp1(*segment, after);
         else
@@ -119,7 +122,22 @@ private:
         writeWithLength(std::move(bytes));
     }
 
-    /// What follows the first zero byte of the text is not in the document, and stays.
+    void writeFullApp1(const Segment* segment, const ConstXmlNode& after)
+    {
+        constexpr std::ptrdiff_t kHeadSize = 4; // marker and length
+        const Bytes old = segment != nullptr ? segmentBytes(m_oldFile, *segment) : Bytes{0xFF, 0xE1, 0, 0};
+        const auto identifierEnd = std::find(old.begin() + kHeadSize, old.end(), 0);
+        const auto payload = identifierEnd == old.end() ? old.end() : identifierEnd + 1;
+        const Bytes identifier = changedPayload({old.begin() + kHeadSize, identifierEnd}, AttributeGet(after, "ns"));
+        const Bytes characters = changedPayload({payload, old.end()}, app1Text(after));
+        Bytes bytes(old.begin(), old.begin() + kHeadSize);
+        bytes.insert(bytes.end(), identifier.begin(), identifier.end());
+        bytes.push_back(0);
+        bytes.insert(bytes.end(), characters.begin(), characters.end());
+        writeWithLength(std::move(bytes));
+    }
+
+    /// What follows the first zero byte of the text is not in a basic document, and stays.
     void writeOtherApp1(const Segment& segment, const ConstXmlNode& after)
     {
         constexpr std::ptrdiff_t kHeadSize = 4; // marker and length

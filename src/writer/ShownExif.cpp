@@ -24,7 +24,7 @@ void ShownExif::locate(const PartChange& change)
     const auto offset = isFirst && m_block.size() >= 8 ? TiffOffset{m_block.longAt(4)} : offsetOf(*change.part);
     const auto found = std::ranges::find(
         m_directories, offset, [](const TiffDirectory& directory) { return std::optional(directory.offset); });
-    if (offset && found != m_directories.end() && hasEntries(*found, change.entriesBefore))
+    if (offset && found != m_directories.end() && hasEntries(*found, change))
         m_located.push_back({change.part, static_cast<std::size_t>(found - m_directories.begin())});
 }
 
@@ -41,10 +41,12 @@ std::optional<TiffOffset> ShownExif::offsetOf(const ExifPart& part) const
     return directory ? std::optional(m_directories[*directory].next) : std::nullopt;
 }
 
-/// Entries from one of tag 0 on are not shown.
-bool ShownExif::hasEntries(const TiffDirectory& directory, const std::vector<ConstXmlNode>& entries) const
+/// Entries from one of tag 0 on are not shown, except where 0 is a tag.
+bool ShownExif::hasEntries(const TiffDirectory& directory, const PartChange& change) const
 {
-    const auto end = std::ranges::find(directory.entries, 0, &TiffEntry::tag);
+    const std::vector<ConstXmlNode>& entries = change.entriesBefore;
+    const auto end =
+        change.part->hasTagZero ? directory.entries.end() : std::ranges::find(directory.entries, 0, &TiffEntry::tag);
     return std::ranges::equal(directory.entries.begin(), end, entries.begin(), entries.end(),
                               [](const TiffEntry& entry, const ConstXmlNode& node) {
                                   return AttributeGet(node, "id") == hexNumber(entry.tag, 4);

@@ -39,7 +39,7 @@ public:
 private:
     void locate(const PartChange& change);
     std::optional<TiffOffset> offsetOf(const ExifPart& part) const;
-    bool hasEntries(const TiffDirectory& directory, const std::vector<ConstXmlNode>& entries) const;
+    bool hasEntries(const TiffDirectory& directory, const PartChange& change) const;
 
     struct Located {
         const ExifPart* part;

@@ -97,14 +97,16 @@ TEST(NodeChange, DoesNotWriteWhatCouldNotBeMadeInFull)
 
 TEST(NodeChange, ObjectsToValuesWithoutATypeAndToSpoilingTheImage)
 {
-    EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE")), Phrase(Message::NoDataType));
-    EXPECT_EQ(objection(changeOf(NodeAction::Delete, kExif + "/IFDE")), "");
-    EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE/IFD[@id='A001']")), "") << "required, but metadata";
+    EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE"), Reading::Basic), Phrase(Message::NoDataType));
+    EXPECT_EQ(objection(changeOf(NodeAction::Delete, kExif + "/IFDE"), Reading::Basic), "");
+    EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE/IFD[@id='A001']"), Reading::Basic), "")
+        << "required, but metadata";
     for (const char* path : {"/JPEG", "/JPEG/SOS", "/JPEG/IMG", "/JPEG/APP1[@id='FFDB']"})
-        EXPECT_NE(objection(changeOf(NodeAction::Delete, path)), "") << path;
-    EXPECT_EQ(objection(changeOf(NodeAction::Delete, "/JPEG/APP1[@id='FFFE']")), "");
-    EXPECT_NE(objection(changeOf(NodeAction::Add, "/JPEG/APP1[@id='FFC1']")), "");
-    EXPECT_NE(objection(changeOf(NodeAction::Delete, kExif + "/IFD[@id='8769']")), "") << "it would take IFDE along";
+        EXPECT_NE(objection(changeOf(NodeAction::Delete, path), Reading::Basic), "") << path;
+    EXPECT_EQ(objection(changeOf(NodeAction::Delete, "/JPEG/APP1[@id='FFFE']"), Reading::Basic), "");
+    EXPECT_NE(objection(changeOf(NodeAction::Add, "/JPEG/APP1[@id='FFC1']"), Reading::Basic), "");
+    EXPECT_NE(objection(changeOf(NodeAction::Delete, kExif + "/IFD[@id='8769']"), Reading::Basic), "")
+        << "it would take IFDE along";
 }
 
 TEST(XmlExport, WritesTheDocumentWithoutBookkeeping)

@@ -26,7 +26,8 @@ TEST(TagDictionary, IsCompleteForEveryEntry)
         EXPECT_EQ(AttributeGet(node, "vis").find_first_not_of("012"), std::string::npos) << path;
         EXPECT_EQ(AttributeGet(node, "prot").find_first_not_of("012"), std::string::npos) << path;
         const std::string name = node.name();
-        const bool isContainer = name == "JPEG" || name == "Exif" || name == "IFDE" || name == "IFDI" || name == "IFD1";
+        const bool isContainer =
+            name == "JPEG" || name == "Exif" || name == "IFDE" || name == "IFDI" || name == "IFDG" || name == "IFD1";
         EXPECT_EQ(isContainer, !entry.hasDataType()) << path;
         if (!isContainer) {
             EXPECT_NE(dataTypeName(entry.dataType()), "") << path;
@@ -47,7 +48,8 @@ TEST(TagDictionary, HoldsWhatTheProgramLooksUp)
         const DictionaryEntry entry = dictionary().entry(partPath(part));
         EXPECT_EQ(exifPartAt(entry.path()), &part) << part.element;
         for (const std::uint16_t tag : {part.pointer.offset, part.pointer.length}) {
-            if (tag != 0)
+            // Basic documents have the position of the GPS directory, but not the directory: there it can be deleted.
+            if (tag != 0 && part.reading == Reading::Basic)
                 isRequired(entryPath(*exifPart(part.pointedFrom), tag));
         }
         if (part.property.tag != 0) {

@@ -618,7 +618,7 @@ TEST(Saving, GoesOnFromWhatAnotherProgramMadeOfAFileWhereThatIsWanted)
         const NodeChange change{NodeAction::Set, dictionary().entry(kTitle), "New"};
         const Names paths = {folder.path(way.files[0]), folder.path(way.files[1])};
         CountingProgress progress;
-        BatchAction(paths, change, WritingWay::Keep, 1, OnOtherChange::ChangeAgain).run(progress, reporter);
+        BatchAction(paths, change, {.onOtherChange = OnOtherChange::ChangeAgain}).run(progress, reporter);
     };
     const struct {
         int time; ///< 0: again and again

@@ -12,7 +12,7 @@ namespace ovisto::test {
 inline void rewrite(const std::string& path, ErrorReporter& reporter)
 {
     XmlDocument document = loadDocument(path);
-    JpegDocument(reporter, readDocument).WriteJpeg(document, path);
+    JpegDocument(reporter, documentReader(Reading::Basic)).WriteJpeg(document, path);
 }
 
 /// Saves `document` to the file at `path` as if it had just been read from it.

@@ -198,7 +198,7 @@ void setInFile(const std::string& path, const std::string& nodePath, const std::
     XmlDocument document = loadDocument(path);
     document.selectSingleNode(nodePath).setText(text);
     RecordingReporter reporter;
-    JpegDocument(reporter, readDocument).WriteJpeg(document, path);
+    JpegDocument(reporter, documentReader(Reading::Basic)).WriteJpeg(document, path);
 }
 
 OutputFile blockSaving(const std::string& path)

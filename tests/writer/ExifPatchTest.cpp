@@ -122,7 +122,7 @@ public:
         trap.run([&] {
             NewVersion version(reporter, m_path, {ReadOnlyFails::AtOnce});
             const XmlDocument old = loadDocument(m_path);
-            version.write({WritingWay::Keep, old, after, readDocument});
+            version.write({WritingWay::Keep, old, after, documentReader(Reading::Basic)});
             receipt = version.receipt();
             version.bringToDisk();
             version.putInPlace();

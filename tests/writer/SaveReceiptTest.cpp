@@ -29,7 +29,8 @@ struct Versions {
 
     SaveReceipt receipt() const
     {
-        return compareVersions(InputFile(oldPath), InputFile(newPath), newPath, before, after, readDocument);
+        return compareVersions(InputFile(oldPath), InputFile(newPath), newPath, before, after,
+                               documentReader(Reading::Basic));
     }
 
     TemporaryFolder folder;

@@ -14,6 +14,15 @@ bool isUtf8(std::string_view text);
 /// Appends `character` to the UTF-8 text.
 void appendCharacter(std::string& text, char32_t character);
 
+/// `character` if XML 1.0 can hold it (its production Char), else U+FFFD, the replacement character.
+constexpr char32_t xmlCharacter(char32_t character)
+{
+    const bool isControl = character < 32 && character != '\t' && character != '\n' && character != '\r';
+    const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
+    const bool isNoCharacter = character == 0xFFFE || character == 0xFFFF || character > 0x10FFFF;
+    return isControl || isSurrogate || isNoCharacter ? 0xFFFD : character;
+}
+
 /// The characters of a UTF-8 text. Bytes that are not UTF-8 (a file name may hold any) count as "?".
 std::u32string characters(std::string_view text);
 
