@@ -88,8 +88,12 @@ XmlNode CreateNode(XmlDocument& document, const DictionaryEntry& entry, ErrorRep
         trap.run([&] {
             const DictionaryEntry parentEntry(templateNode.parent());
             XmlNode parent = document.selectSingleNode(parentEntry.path());
-            if (!parent)
+            if (!parent) {
                 parent = CreateNode(document, parentEntry, reporter);
+                element = document.selectSingleNode(path); // which a directory may have been created with
+            }
+            if (element)
+                return;
             element = createElement(document, templateNode);
             insert(parent, element, nextSibling(parent, templateNode));
         });

@@ -52,26 +52,33 @@ Error refusal(Message reason)
     return {kInvalidCall, reason};
 }
 
-/// The whole numbers that a component of a field type may be: for signed ones the unsigned reading as well.
+/// The whole numbers that a component of a field type may be.
 struct NumberRange {
     std::int64_t least;
     std::int64_t most;
 };
 
-NumberRange numberRange(std::uint16_t type)
+template <class Number> constexpr NumberRange rangeOf()
 {
-    constexpr std::int64_t kMostShort = std::numeric_limits<std::uint16_t>::max();
-    constexpr std::int64_t kMostLong = std::numeric_limits<std::uint32_t>::max();
+    return {std::numeric_limits<Number>::min(), std::numeric_limits<Number>::max()};
+}
+
+/// Basic documents show signed numbers as unsigned ones, and either may be typed.
+NumberRange numberRange(std::uint16_t type, Reading reading)
+{
+    constexpr auto kShortRange = rangeOf<std::uint16_t>();
+    constexpr auto kLongRange = rangeOf<std::uint32_t>();
+    const bool isFull = reading == Reading::Full;
     switch (type) {
     case kShort:
-        return {0, kMostShort};
+        return kShortRange;
     case kSignedShort:
-        return {std::numeric_limits<std::int16_t>::min(), kMostShort};
+        return {rangeOf<std::int16_t>().least, isFull ? rangeOf<std::int16_t>().most : kShortRange.most};
     case kSignedLong:
     case kSignedRational:
-        return {std::numeric_limits<std::int32_t>::min(), kMostLong};
+        return {rangeOf<std::int32_t>().least, isFull ? rangeOf<std::int32_t>().most : kLongRange.most};
     default:
-        return {0, kMostLong};
+        return kLongRange;
     }
 }
 
@@ -81,7 +88,7 @@ template <std::size_t kSize> void appendNumber(Bytes& bytes, const Task& task, s
     const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (status != std::errc() || end != text.data() + text.size())
         number = toLong(text);
-    const NumberRange range = numberRange(task.type);
+    const NumberRange range = numberRange(task.type, task.reading);
     if (number < range.least || number > range.most)
         throw systemError(kOverflow);
     task.block.appendNumber(bytes, static_cast<std::uint32_t>(number), kSize);
