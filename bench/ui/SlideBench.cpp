@@ -83,7 +83,7 @@ void measure(const FoundFiles& files, Settings& settings, bool resize)
     SystemDialogs dialogs;
     QItemSelectionModel selection(const_cast<FoundFiles*>(&files));
     selection.setCurrentIndex(files.index(0), QItemSelectionModel::ClearAndSelect);
-    auto* form = new SlideForm({files, selection, dialogs, settings}, clockTimers(), nullptr);
+    auto* form = new SlideForm({files, selection, dialogs, settings, Reading::Full}, clockTimers(), nullptr);
     PaintWatch watch(*form->findChild<SlidePicture*>(QStringLiteral("Image1")));
     QElapsedTimer timer;
     timer.start();

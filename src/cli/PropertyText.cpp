@@ -29,7 +29,7 @@ std::string propertyText(const XmlDocument& document, const TagDictionary& dicti
         lines += std::string(2 * static_cast<std::size_t>(item.depth), ' ') + label;
         if (item.node.childElements().empty()) {
             const int dataType = shownDataType(item.node);
-            const std::string type(dataTypeName(dataType));
+            const std::string type(shownDataTypeName(item.node));
             lines += ": " + valueText(item.node, dataType) + (type.empty() ? "" : " (" + type + ")");
         }
         lines += '\n';

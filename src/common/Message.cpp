@@ -70,6 +70,9 @@ constexpr MessageText kTexts[] = {
     {Message::NodeOfFullReading,
      QT_TRANSLATE_NOOP("Message",
                        "Only a document that reads everything has this node; rebuilding reads a basic one.")},
+    {Message::CharacterLost,
+     QT_TRANSLATE_NOOP("Message", "\"%1\" would be written as \"?\": in a basic document, %2 holds Western European "
+                                  "texts only.")},
     {Message::CreateNodeFailed, QT_TRANSLATE_NOOP("Message", "Create node failed %1")},
 
     {Message::FullNotRebuilt,

@@ -53,6 +53,7 @@ enum class Message : std::uint8_t {
     NodeOfTheImage,
     NodeRequired,
     NodeOfFullReading,
+    CharacterLost,
     CreateNodeFailed,
     // Writing
     FullNotRebuilt,

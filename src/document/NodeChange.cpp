@@ -1,6 +1,9 @@
 #include "document/NodeChange.h"
 
 #include "common/FirstReport.h"
+#include "common/text/CodePage.h"
+#include "common/text/Unicode.h"
+#include "document/DataType.h"
 #include "document/Directories.h"
 #include "document/NodeCreation.h"
 #include "document/NodePath.h"
@@ -57,8 +60,29 @@ bool isPartOfImage(const DictionaryEntry& entry)
 
 } // namespace
 
+std::optional<char32_t> characterLost(int dataType, std::string_view value)
+{
+    const DataType* type = findDataType(dataType);
+    if (type == nullptr || (type->form != ValueForm::Text && type->form != ValueForm::RawText))
+        return std::nullopt;
+    const std::u32string decoded = characters(value);
+    const auto lost = std::ranges::find_if(
+        decoded, [](char32_t character) { return character != U'?' && codePageByte(character) == '?'; });
+    return lost != decoded.end() ? std::optional(*lost) : std::nullopt;
+}
+
+Phrase lossOf(char32_t character, const std::string& label)
+{
+    std::string text;
+    appendCharacter(text, character);
+    return {Message::CharacterLost, text, label};
+}
+
 Phrase objection(const NodeChange& change, Reading reading)
 {
+    const bool isBasicText = reading == Reading::Basic && change.action == NodeAction::Set;
+    if (const auto lost = isBasicText ? characterLost(change.entry.dataType(), change.value) : std::nullopt)
+        return lossOf(*lost, change.entry.label());
     if (reading == Reading::Basic && readingNeeded(change.entry.path()) == Reading::Full)
         return Message::NodeOfFullReading;
     if (change.action == NodeAction::Set && !change.entry.hasDataType())

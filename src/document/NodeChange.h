@@ -5,7 +5,9 @@
 #include "document/Reading.h"
 #include "document/TagDictionary.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace ovisto {
 
@@ -26,6 +28,13 @@ struct ChangeResult {
 
     explicit operator bool() const { return changed; }
 };
+
+/// The first character of `value`, a text for a node of the data type, that a basic document cannot have: it would be
+/// written as "?". None for types that hold any character, and for none.
+std::optional<char32_t> characterLost(int dataType, std::string_view value);
+
+/// Says so of a node with this label.
+Phrase lossOf(char32_t character, const std::string& label);
 
 /// Why the change cannot be made to any file that is read in this way; empty when it can.
 Phrase objection(const NodeChange& change, Reading reading);

@@ -1,6 +1,7 @@
 #include "document/PropertyTree.h"
 
 #include "common/Error.h"
+#include "common/text/Hex.h"
 #include "document/DataType.h"
 #include "document/NodePath.h"
 
@@ -48,6 +49,15 @@ int shownDataType(const ConstXmlNode& node)
     ErrorTrap trap;
     trap.run([&] { dataType = dataTypeOf(node); });
     return dataType == 0 ? kUndefined : dataType;
+}
+
+std::string_view shownDataTypeName(const ConstXmlNode& node)
+{
+    const int number = shownDataType(node);
+    const DataType* type = readingOf(node) == Reading::Full
+                               ? findFullDataType(number, Hex4ToLong(AttributeGet(node, "id")))
+                               : findDataType(number);
+    return type != nullptr ? type->name : std::string_view();
 }
 
 } // namespace ovisto

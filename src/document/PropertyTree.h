@@ -4,6 +4,7 @@
 #include "document/TagDictionary.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ovisto {
@@ -25,5 +26,7 @@ std::vector<PropertyItem> propertyTree(const XmlDocument& document, const TagDic
 
 /// The data type of a node; a missing or invalid one counts as Undefined.
 int shownDataType(const ConstXmlNode& node);
+/// Its name for people; empty for an unknown one.
+std::string_view shownDataTypeName(const ConstXmlNode& node);
 
 } // namespace ovisto

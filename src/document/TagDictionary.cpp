@@ -2,6 +2,7 @@
 
 #include "common/xml/XmlLoad.h"
 #include "document/DataType.h"
+#include "document/Directories.h"
 #include "document/NodePath.h"
 
 #include <utility>
@@ -65,11 +66,14 @@ DictionaryEntry TagDictionary::entry(const std::string& nodePath) const
     return selected.isElement() ? DictionaryEntry(selected) : DictionaryEntry();
 }
 
-std::vector<DictionaryEntry> TagDictionary::entries(bool technical) const
+std::vector<DictionaryEntry> TagDictionary::entries(bool technical, Reading reading) const
 {
     std::vector<DictionaryEntry> entries;
-    for (const ConstXmlNode& node : m_document.selectNodes(technical ? "//*[not(@vis='2')]" : "//*[not(@vis>'0')]"))
-        entries.emplace_back(node);
+    for (const ConstXmlNode& node : m_document.selectNodes(technical ? "//*[not(@vis='2')]" : "//*[not(@vis>'0')]")) {
+        const DictionaryEntry entry(node);
+        if (reading == Reading::Full || readingNeeded(entry.path()) == Reading::Basic)
+            entries.push_back(entry);
+    }
     return entries;
 }
 

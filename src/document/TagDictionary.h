@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/xml/XmlDocument.h"
+#include "document/Reading.h"
 
 #include <string>
 #include <unordered_map>
@@ -57,8 +58,9 @@ public:
     /// no element. Raises kInvalidCall for what is no path.
     DictionaryEntry entry(const std::string& nodePath) const;
 
-    /// The entries in the order of the dictionary: with `technical` all but the hidden ones, else the shown ones.
-    std::vector<DictionaryEntry> entries(bool technical) const;
+    /// The entries of nodes that a document read in this way may have, in the order of the dictionary: with `technical`
+    /// all but the hidden ones, else the shown ones.
+    std::vector<DictionaryEntry> entries(bool technical, Reading reading) const;
 
     const XmlDocument& document() const { return m_document; }
 

@@ -548,23 +548,25 @@ private Q_SLOTS:
         Window window{"night.jpg"};
         const auto options = [&] {
             QString checked;
-            for (const char* option :
-                 {"menuDecodeMaker", "menuDecodeThumb", "menuDecodeExif1", "menuKeepUntouched", "menuShowTechnical"})
+            for (const char* option : {"menuDecodeMaker", "menuDecodeThumb", "menuDecodeExif1", "menuKeepUntouched",
+                                       "menuReadEverything", "menuShowTechnical"})
                 checked += window.control<QAction>(option).isChecked() ? u'1' : u'0';
             return checked;
         };
-        QCOMPARE(options(), u"11110"_s);
+        QCOMPARE(options(), u"111110"_s);
         QCOMPARE(window.form().size(), QSize(777, 567));
         window.trigger("menuShowTechnical");
         window.trigger("menuDecodeThumb");
+        window.trigger("menuReadEverything");
         window.trigger("menuKeepUntouched");
+        QVERIFY(!window.control<QAction>("menuReadEverything").isEnabled());
         window.form().resize(780, 590);
         window.control<QSplitter>("ControlFormColumns").setSizes({300, 240, 226});
         const QList<int> sizes = window.control<QSplitter>("ControlFormColumns").sizes();
         window.form().close();
 
         window.open({window.path("night.jpg")});
-        QCOMPARE(options(), u"10101"_s);
+        QCOMPARE(options(), u"101001"_s);
         QVERIFY(window.item("/JPEG/SOS") && window.form().size() == QSize(780, 590));
         QCOMPARE(window.control<QSplitter>("ControlFormColumns").sizes(), sizes);
     }

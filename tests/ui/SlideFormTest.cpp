@@ -51,7 +51,7 @@ public:
         auto timers = std::pair(std::make_unique<TestTimer>(), std::make_unique<TestTimer>());
         timer = timers.first.get();
         pointerTimer = timers.second.get();
-        m_form = new SlideForm({m_files, m_selection, dialogs, settings()},
+        m_form = new SlideForm({m_files, m_selection, dialogs, settings(), Reading::Full},
                                {std::move(timers.first), std::move(timers.second)}, nullptr);
         m_selection.setCurrentIndex(m_files.index(start.row), QItemSelectionModel::ClearAndSelect);
         m_form->SlideShow(start.fullscreen, start.resize, start.details, 5);

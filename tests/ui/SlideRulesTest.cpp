@@ -254,7 +254,7 @@ private Q_SLOTS:
         const std::atomic<bool> wanted = false;
         const std::atomic<bool> abandoned = true;
         const auto decoded = [&](const std::string& path, std::int64_t mostBytes, const std::atomic<bool>& flag) {
-            return decodeSlide(slideRequest(path, {90, 60}), QLocale::c(), {mostBytes, flag});
+            return decodeSlide(slideRequest(path, {90, 60}), QLocale::c(), Reading::Full, {mostBytes, flag});
         };
         constexpr auto kAny = std::numeric_limits<std::int64_t>::max();
         const auto lying = decoded(samples + "little-endian.jpg", kAny, wanted);

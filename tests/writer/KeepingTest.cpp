@@ -211,11 +211,11 @@ private:
     void addEntry(XmlDocument& document)
     {
         const Reading reading = readingOf(document.node());
-        const std::vector<DictionaryEntry> entries = m_dictionary.entries(true);
+        const std::vector<DictionaryEntry> entries = m_dictionary.entries(true, reading);
         for (;;) {
             const DictionaryEntry& entry = entries[below(entries.size())];
             const bool isEntry = entry.node().name() == "IFD" && canChange(entry.node(), reading);
-            if (!isEntry || (reading == Reading::Basic && readingNeeded(entry.path()) == Reading::Full))
+            if (!isEntry)
                 continue;
             if (document.selectSingleNode(entry.path()))
                 return;

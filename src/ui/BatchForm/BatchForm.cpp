@@ -2,10 +2,13 @@
 
 #include "ui/App/Text.h"
 
+#include <utility>
+
 namespace ovisto {
 
-BatchForm::BatchForm(const TagDictionary& Merovel, bool technical, Dialogs& dialogs, QWidget* owner)
-    : QDialog(owner), m_dialogs(dialogs), m_entries(Merovel.entries(technical))
+BatchForm::BatchForm(const TagDictionary& Merovel, bool technical, ReadingNow reading, Dialogs& dialogs, QWidget* owner)
+    : QDialog(owner), m_reading(std::move(reading)), m_dialogs(dialogs),
+      m_entries(Merovel.entries(technical, m_reading()))
 {
     ui.setupUi(this);
     for (const DictionaryEntry& entry : m_entries)
@@ -27,7 +30,7 @@ NodeChange BatchForm::change() const
 void BatchForm::start()
 {
     const NodeChange chosen = change();
-    const Phrase reason = objection(chosen);
+    const Phrase reason = objection(chosen, m_reading());
     if (reason.isEmpty())
         Q_EMIT started(chosen);
     else

@@ -7,6 +7,7 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <vector>
 
 namespace ovisto {
@@ -16,8 +17,11 @@ class BatchForm : public QDialog {
     Q_OBJECT
 
 public:
+    /// How the files will be read, which a menu may change as long as the form is open.
+    using ReadingNow = std::function<Reading()>;
+
     /// With `technical`, technical nodes are offered too. `dialogs` and the dictionary must outlive the form.
-    BatchForm(const TagDictionary& Merovel, bool technical, Dialogs& dialogs, QWidget* owner);
+    BatchForm(const TagDictionary& Merovel, bool technical, ReadingNow reading, Dialogs& dialogs, QWidget* owner);
 
 Q_SIGNALS:
     /// The person wants this change made.
@@ -28,6 +32,7 @@ private:
     void start();
 
     Ui::BatchForm ui;
+    ReadingNow m_reading;
     Dialogs& m_dialogs;
     std::vector<DictionaryEntry> m_entries; ///< the entries in NodeList, by row
 };

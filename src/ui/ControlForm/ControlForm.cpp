@@ -33,6 +33,7 @@ constexpr OptionSetting kOptionSettings[] = {
     {"DecodeMaker", &Ui::ControlForm::menuDecodeMaker, true},
     {"DecodeThumb", &Ui::ControlForm::menuDecodeThumb, true},
     {"KeepUntouched", &Ui::ControlForm::menuKeepUntouched, true},
+    {"ReadEverything", &Ui::ControlForm::menuReadEverything, true},
     {"ShowTechnical", &Ui::ControlForm::menuShowTechnical, false},
 };
 
@@ -85,8 +86,20 @@ void ControlForm::connectButtons()
     connect(ui.BatchShower, &QPushButton::clicked, &m_actions, &ListActions::showBatch);
 }
 
+/// What is rebuilt is read basic, so the choice is there only for what is kept.
+void ControlForm::offerReading(bool keeps)
+{
+    ui.menuReadEverything->setEnabled(keeps);
+    ui.menuReadEverything->setToolTip(
+        keeps ? ui.menuReadEverything->statusTip()
+              : tr("Goes with \"Keep Untouched Data?\": what is written anew is read in the basic way."));
+}
+
 void ControlForm::connectMenus()
 {
+    ui.menuOptions->setToolTipsVisible(true);
+    connect(ui.menuKeepUntouched, &QAction::toggled, this, &ControlForm::offerReading);
+    offerReading(ui.menuKeepUntouched->isChecked());
     connect(ui.menuFileSave, &QAction::triggered, this, [this] {
         m_boxes.moveFocusTo(*ui.FileSaver);
         m_editor.saveAndReopen();

@@ -43,6 +43,7 @@ private:
 
     void connectButtons();
     void connectMenus();
+    void offerReading(bool keeps);
     void loadSettings();
     void saveSettings();
 

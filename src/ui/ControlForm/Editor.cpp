@@ -30,7 +30,14 @@ KeepOptions Editor::keepOptions() const
 {
     return {.pCodifyMakerNote = ui.menuDecodeMaker->isChecked(),
             .pCodifyThumb = ui.menuDecodeThumb->isChecked(),
-            .pCodifyExif1 = ui.menuDecodeExif1->isChecked()};
+            .pCodifyExif1 = ui.menuDecodeExif1->isChecked(),
+            .reading = reading()};
+}
+
+Reading Editor::reading() const
+{
+    const bool readsEverything = ui.menuReadEverything->isChecked() && writingWay() == WritingWay::Keep;
+    return readsEverything ? Reading::Full : Reading::Basic;
 }
 
 WritingWay Editor::writingWay() const

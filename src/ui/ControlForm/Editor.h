@@ -26,6 +26,8 @@ public:
     OsPane& osPane() { return m_osPane; }
     SavedLine& savedLine() { return m_savedLine; }
     KeepOptions keepOptions() const;
+    /// How files are read from now on: what is rebuilt is read basic.
+    Reading reading() const;
     /// The way in which the next file opened will be saved.
     WritingWay writingWay() const;
 

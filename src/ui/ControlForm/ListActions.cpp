@@ -17,8 +17,9 @@ void ListActions::showBatch()
     if (!m_editor.leaveShownFile())
         return;
     if (m_batch == nullptr || !m_batch->isVisible()) { // one that was closed may not be gone yet
-        m_batch = new BatchForm(m_parts.Merovel, m_parts.ui.menuShowTechnical->isChecked(),
-                                m_parts.surroundings.dialogs, &m_parts.window);
+        m_batch = new BatchForm(
+            m_parts.Merovel, m_parts.ui.menuShowTechnical->isChecked(), [this] { return m_editor.reading(); },
+            m_parts.surroundings.dialogs, &m_parts.window);
         m_batch->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_batch, &BatchForm::started, this, &ListActions::runBatch);
     }
@@ -43,7 +44,8 @@ void ListActions::runBatch(const NodeChange& change)
     runWatched(m_parts.window, [&](ProgressForm& progress) {
         progress.show();
         BatchWatch watch(progress, m_parts.reporter);
-        BatchAction(m_editor.list().files().paths(), change, m_editor.writingWay()).run(watch, watch, count);
+        BatchAction(m_editor.list().files().paths(), change, m_editor.writingWay(), m_editor.reading())
+            .run(watch, watch, count);
         notChanged = watch.failedToo();
     });
     if (!notChanged.empty())
@@ -83,9 +85,10 @@ void ListActions::showSlideShowOptions()
 {
     auto* form = m_parts.window.findChild<SlideShowOptionForm*>();
     if (form == nullptr)
-        form = new SlideShowOptionForm({m_editor.list().files(), *m_parts.ui.FilesFoundList->selectionModel(),
-                                        m_parts.surroundings.dialogs, m_parts.surroundings.settings},
-                                       &m_parts.window);
+        form =
+            new SlideShowOptionForm({m_editor.list().files(), *m_parts.ui.FilesFoundList->selectionModel(),
+                                     m_parts.surroundings.dialogs, m_parts.surroundings.settings, m_editor.reading()},
+                                    &m_parts.window);
     form->show();
     form->activateWindow();
 }

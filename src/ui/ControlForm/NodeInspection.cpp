@@ -16,9 +16,9 @@
 
 namespace ovisto {
 
-std::optional<QString> dataTypeCaption(int dataType, Protection protection)
+std::optional<QString> dataTypeCaption(std::string_view typeName, Protection protection)
 {
-    const std::string name(dataTypeName(dataType));
+    const std::string name(typeName);
     if (name.empty())
         return std::nullopt;
     const QString caption = QCoreApplication::translate("DataType", name.c_str());

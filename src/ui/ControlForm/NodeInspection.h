@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ovisto {
@@ -21,8 +22,8 @@ constexpr bool isDeletable(Protection protection)
     return protection != Protection::Required;
 }
 
-/// The user-visible name of the data type and how the value is protected. Nothing for a type without a name.
-std::optional<QString> dataTypeCaption(int dataType, Protection protection);
+/// The translated name of a data type, which may be empty, and how the value is protected. Nothing without a name.
+std::optional<QString> dataTypeCaption(std::string_view typeName, Protection protection);
 
 /// The value of a node as the box first shows it; lines of text end with CR LF.
 std::string valueText(const ConstXmlNode& node, int dataType);

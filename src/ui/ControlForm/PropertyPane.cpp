@@ -164,7 +164,7 @@ void PropertyPane::nodeClicked(const QTreeWidgetItem* item)
     const int dataType = shownDataType(CurrentNode);
     ui.ViewHexOpt->setChecked(dataType == kByte);
     ui.NodeText->putText(toQString(valueText(CurrentNode, dataType)));
-    if (const auto caption = dataTypeCaption(dataType, CurrentProt))
+    if (const auto caption = dataTypeCaption(shownDataTypeName(CurrentNode), CurrentProt))
         ui.NodeDataType->setText(*caption);
 }
 
@@ -231,8 +231,19 @@ bool PropertyPane::canEdit() const
 
 void PropertyPane::nodeTextChanged()
 {
+    showWarning();
     if (canEdit() && !CurrentNode)
         m_parts.surroundings.dialogs.show(tr("Click on a node in the property NodeTree to select a value first."));
+}
+
+/// Says below the box what the value would lose when it is written.
+void PropertyPane::showWarning()
+{
+    const bool isBasic = CurrentNode && readingOf(CurrentNode) == Reading::Basic && !ui.NodeText->isReadOnly();
+    const auto lost =
+        isBasic ? characterLost(shownDataType(CurrentNode), ui.NodeText->exactText().toStdString()) : std::nullopt;
+    ui.NodeWarning->setVisible(lost.has_value());
+    ui.NodeWarning->setText(lost ? toQString(lossOf(*lost, m_parts.Merovel.entry(CurrentXPath).label())) : QString());
 }
 
 /// A text of several lines is shown with other line breaks than the node has, so leaving it changes the node even when
@@ -247,7 +258,7 @@ void PropertyPane::addNode()
 {
     m_parts.boxes.leaveFocused();
     NodeAddForm form(
-        m_parts.Merovel, ui.menuShowTechnical->isChecked(),
+        m_parts.Merovel, ui.menuShowTechnical->isChecked(), readingOf(m_file.document().node()),
         [this](const DictionaryEntry& entry) { return m_file.addNode(entry); }, &m_parts.window);
     form.exec();
     if (!form.NodeAddedXpath.empty())

@@ -43,6 +43,7 @@ private:
     bool canEdit() const;
     void nodeTextChanged();
     void leaveNodeText();
+    void showWarning();
     void addNode();
     void deleteNode();
 

@@ -6,8 +6,8 @@
 
 namespace ovisto {
 
-NodeAddForm::NodeAddForm(const TagDictionary& Merovel, bool technical, Add add, QWidget* owner)
-    : QDialog(owner), m_add(std::move(add)), m_entries(Merovel.entries(technical))
+NodeAddForm::NodeAddForm(const TagDictionary& Merovel, bool technical, Reading reading, Add add, QWidget* owner)
+    : QDialog(owner), m_add(std::move(add)), m_entries(Merovel.entries(technical, reading))
 {
     ui.setupUi(this);
     for (const DictionaryEntry& entry : m_entries)

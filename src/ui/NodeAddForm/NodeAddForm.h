@@ -19,8 +19,9 @@ public:
     /// Adds the node of an entry to the document. Returns its path; empty if it already exists.
     using Add = std::function<std::string(const DictionaryEntry& entry)>;
 
-    /// With `technical`, also offers technical nodes. The dictionary must outlive the form.
-    NodeAddForm(const TagDictionary& Merovel, bool technical, Add add, QWidget* owner);
+    /// Offers what a document read in this way may have; with `technical`, technical nodes too. The dictionary must
+    /// outlive the form.
+    NodeAddForm(const TagDictionary& Merovel, bool technical, Reading reading, Add add, QWidget* owner);
 
     /// The path of the added node; empty if none was added.
     std::string NodeAddedXpath;

@@ -23,12 +23,12 @@ std::int64_t bytesInMemory(QSize size)
     return kBytesPerPixel * size.width() * size.height();
 }
 
-QString readDetails(const std::string& path, const QLocale& locale)
+QString readDetails(const std::string& path, const QLocale& locale, Reading reading)
 {
     if (!fileExists(path))
         return {};
     // The size of the thumbnail stands in the directory that is kept for its sake.
-    const KeepOptions keep{.pCodifyMakerNote = false, .pCodifyThumb = true, .pCodifyExif1 = false};
+    const KeepOptions keep{.pCodifyMakerNote = false, .pCodifyThumb = true, .pCodifyExif1 = false, .reading = reading};
     XmlDocument JpegDoc;
     JpegDoc.loadText(JpegXml().XMLtranslate(path, keep).text);
     return detailsLine(JpegDoc, locale);
@@ -60,11 +60,12 @@ Slide failedSlide(const SlideRequest& request, const Error& error)
     return slide;
 }
 
-std::optional<Slide> decodeSlide(const SlideRequest& request, const QLocale& locale, const DecodeLimits& limits)
+std::optional<Slide> decodeSlide(const SlideRequest& request, const QLocale& locale, Reading reading,
+                                 const DecodeLimits& limits)
 {
     Slide slide;
     ErrorTrap trap;
-    trap.run([&] { slide.details = readDetails(request.path, locale); });
+    trap.run([&] { slide.details = readDetails(request.path, locale, reading); });
     trap.clear(); // then there are none to show
     trap.run([&] { slide.picture = readPicture(request, limits); });
     const bool isTooLarge = slide.picture.isNull() && !trap.pending();

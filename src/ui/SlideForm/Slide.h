@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/Error.h"
+#include "document/Reading.h"
 
 #include <QImage>
 #include <QLocale>
@@ -42,7 +43,9 @@ struct DecodeLimits {
 /// What is shown instead of a slide that could not be made.
 Slide failedSlide(const SlideRequest& request, const Error& error);
 
-/// Makes a slide. Nothing if it is abandoned in the meantime or its picture would take more memory than allowed.
-std::optional<Slide> decodeSlide(const SlideRequest& request, const QLocale& locale, const DecodeLimits& limits);
+/// Makes a slide, its details read in this way. Nothing if it is abandoned in the meantime or its picture would take
+/// more memory than allowed.
+std::optional<Slide> decodeSlide(const SlideRequest& request, const QLocale& locale, Reading reading,
+                                 const DecodeLimits& limits);
 
 } // namespace ovisto

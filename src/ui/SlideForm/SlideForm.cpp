@@ -46,10 +46,10 @@ void allowLargePictures()
     QImageReader::setAllocationLimit(kMegabytes);
 }
 
-SlideCache::Decoder decoder()
+SlideCache::Decoder decoder(Reading reading)
 {
-    return [locale = QLocale::system()](const SlideRequest& request, const DecodeLimits& limits) {
-        return decodeSlide(request, locale, limits);
+    return [locale = QLocale::system(), reading](const SlideRequest& request, const DecodeLimits& limits) {
+        return decodeSlide(request, locale, reading, limits);
     };
 }
 
@@ -57,7 +57,7 @@ SlideCache::Decoder decoder()
 
 SlideForm::SlideForm(const SlideSurroundings& surroundings, SlideTimers timers, QWidget* owner)
     : QWidget(owner, Qt::Window), m_surroundings(surroundings), m_timers(std::move(timers)),
-      m_clockwork(*m_timers.slide), m_cache(decoder())
+      m_clockwork(*m_timers.slide), m_cache(decoder(surroundings.reading))
 {
     constexpr int kSettled = 150; // milliseconds after which a size is taken for the final one
     ui.setupUi(this);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/Reading.h"
 #include "ui/App/Dialogs.h"
 #include "ui/App/FoundFiles.h"
 #include "ui/App/Settings.h"
@@ -26,6 +27,7 @@ struct SlideSurroundings {
     QItemSelectionModel& selection; ///< in that list
     Dialogs& dialogs;
     Settings& settings;
+    Reading reading; ///< of the details
 };
 
 /// The window of a slide show. It is deleted when it closes.
