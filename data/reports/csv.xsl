@@ -6,7 +6,7 @@
   <xsl:output method="text"/>
 
   <xsl:template match="/JPEGs">
-    <xsl:text>Folder,File,Title,Date,Camera,Lens,Exposure time,Aperture,ISO,Focal length,Keywords&#13;&#10;</xsl:text>
+    <xsl:text>Folder,File,Title,Date,Camera,Lens,Exposure time,Aperture,ISO,Focal length,Keywords,Latitude,Longitude&#13;&#10;</xsl:text>
     <xsl:apply-templates select="JPEG"/>
   </xsl:template>
 
@@ -28,7 +28,10 @@
     <xsl:call-template name="field"><xsl:with-param name="text" select="substring-after($aperture, '/')"/></xsl:call-template>
     <xsl:call-template name="field"><xsl:with-param name="text" select="Exif/IFDE/IFD[@id='8827']"/></xsl:call-template>
     <xsl:call-template name="field"><xsl:with-param name="text" select="substring-before($focal, ' ')"/></xsl:call-template>
-    <xsl:call-template name="quoted"><xsl:with-param name="text" select="Exif/IFD[@id='9C9E']"/></xsl:call-template>
+    <xsl:call-template name="field"><xsl:with-param name="text" select="Exif/IFD[@id='9C9E']"/></xsl:call-template>
+    <xsl:apply-templates select="." mode="latitude"/>
+    <xsl:text>,</xsl:text>
+    <xsl:apply-templates select="." mode="longitude"/>
     <xsl:text>&#13;&#10;</xsl:text>
   </xsl:template>
 

@@ -20,7 +20,8 @@
           tr:hover td { background: #f4efe8; }
           td.number { text-align: right; white-space: nowrap; }
           th.number { text-align: right; }
-          td.date { white-space: nowrap; }
+          td.date, td.place { white-space: nowrap; }
+          a { color: #a64a14; }
           small { display: block; color: #6b7176; font-size: 12px; }
           @media print { body { margin: 0; max-width: none; background: none; } tr { page-break-inside: avoid; } }
         </style>
@@ -32,7 +33,7 @@
           <thead>
             <tr>
               <th>Photograph</th><th>Date</th><th>Camera</th><th>Lens</th>
-              <th class="number">Time</th><th class="number">Aperture</th><th class="number">ISO</th><th class="number">Focal length</th>
+              <th class="number">Time</th><th class="number">Aperture</th><th class="number">ISO</th><th class="number">Focal length</th><th>Place</th>
             </tr>
           </thead>
           <tbody><xsl:apply-templates select="JPEG"/></tbody>
@@ -51,7 +52,19 @@
       <td class="number"><xsl:apply-templates select="." mode="aperture"/></td>
       <td class="number"><xsl:value-of select="Exif/IFDE/IFD[@id='8827']"/></td>
       <td class="number"><xsl:apply-templates select="." mode="focal"/></td>
+      <td class="place"><xsl:apply-templates select="." mode="place"/></td>
     </tr>
+  </xsl:template>
+
+  <!-- The coordinates, with a link to a map of the place. -->
+  <xsl:template match="JPEG" mode="place">
+    <xsl:variable name="latitude"><xsl:apply-templates select="." mode="latitude"/></xsl:variable>
+    <xsl:variable name="longitude"><xsl:apply-templates select="." mode="longitude"/></xsl:variable>
+    <xsl:if test="string($latitude) and string($longitude)">
+      <a href="https://www.openstreetmap.org/?mlat={$latitude}&amp;mlon={$longitude}#map=15/{$latitude}/{$longitude}">
+        <xsl:value-of select="concat($latitude, ', ', $longitude)"/>
+      </a>
+    </xsl:if>
   </xsl:template>
 
 </xsl:stylesheet>

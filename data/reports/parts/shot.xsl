@@ -2,7 +2,8 @@
 <!-- How a photograph was taken, in readable form. For style sheets to import; apply each template but the first to a
      JPEG element. -->
 <xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform"
-                xmlns:math="http://exslt.org/math" exclude-result-prefixes="math">
+                xmlns:math="http://exslt.org/math" xmlns:str="http://exslt.org/strings"
+                exclude-result-prefixes="math str">
 
   <xsl:variable name="smallLetters" select="'abcdefghijklmnopqrstuvwxyz'"/>
   <xsl:variable name="capitals" select="'ABCDEFGHIJKLMNOPQRSTUVWXYZ'"/>
@@ -44,6 +45,33 @@
     <xsl:variable name="shot" select="normalize-space(Exif/IFDE/IFD[@id='9003'])"/>
     <xsl:if test="translate(substring($shot, 1, 4), '0 ', '')">
       <xsl:value-of select="concat(translate(substring($shot, 1, 10), ':', '-'), substring($shot, 11, 6))"/>
+    </xsl:if>
+  </xsl:template>
+
+  <!-- Degrees with six decimals, north and east positive: 48/1,51/1,2952/100 N as 48.858200. -->
+  <xsl:template match="JPEG" mode="latitude">
+    <xsl:apply-templates select="Exif/IFDG/IFD[@id='0002']" mode="degrees">
+      <xsl:with-param name="isNegative" select="starts-with(Exif/IFDG/IFD[@id='0001'], 'S')"/>
+    </xsl:apply-templates>
+  </xsl:template>
+
+  <xsl:template match="JPEG" mode="longitude">
+    <xsl:apply-templates select="Exif/IFDG/IFD[@id='0004']" mode="degrees">
+      <xsl:with-param name="isNegative" select="starts-with(Exif/IFDG/IFD[@id='0003'], 'W')"/>
+    </xsl:apply-templates>
+  </xsl:template>
+
+  <xsl:template match="IFD" mode="degrees">
+    <xsl:param name="isNegative"/>
+    <xsl:variable name="parts" select="str:tokenize(., ',')"/>
+    <xsl:variable name="degrees" select="substring-before($parts[1], '/') div substring-after($parts[1], '/')"/>
+    <xsl:variable name="minutes" select="substring-before($parts[2], '/') div substring-after($parts[2], '/')"/>
+    <!-- Cameras that note fractions of minutes write 0/0 here, or 0/1. -->
+    <xsl:variable name="given" select="substring-before($parts[3], '/') div substring-after($parts[3], '/')"/>
+    <xsl:variable name="seconds" select="sum(str:tokenize($given, ' ')[number(.) = number(.)])"/>
+    <xsl:variable name="all" select="$degrees + $minutes div 60 + $seconds div 3600"/>
+    <xsl:if test="$all &gt;= 0 and $all &lt;= 180">
+      <xsl:value-of select="format-number((1 - 2 * boolean($isNegative)) * $all, '0.000000')"/>
     </xsl:if>
   </xsl:template>
 
