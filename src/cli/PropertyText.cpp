@@ -12,11 +12,11 @@ namespace {
 std::string valueText(const ConstXmlNode& node, int dataType)
 {
     constexpr std::size_t kMostDigits = 64;
-    constexpr std::size_t kMostCharacters = 1000;
+    constexpr std::size_t kMostColumns = 1000;
     const std::string text = node.text();
     if (dataType == kByte && text.size() > kMostDigits)
         return text.substr(0, kMostDigits) + "... " + std::to_string(text.size() / 2) + " bytes";
-    return oneLine(text, kMostCharacters);
+    return oneLine(text, kMostColumns);
 }
 
 } // namespace

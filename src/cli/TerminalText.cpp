@@ -1,12 +1,13 @@
 #include "cli/TerminalText.h"
 
+#include "common/text/Columns.h"
 #include "common/text/Unicode.h"
 
 namespace ovisto {
 
 namespace {
 
-constexpr std::size_t kMostMessage = 400;
+constexpr std::size_t kMostColumns = 400;
 
 constexpr bool isControl(char32_t character)
 {
@@ -22,23 +23,26 @@ std::string errorLine(const Phrase& context, const Phrase& message)
     const bool named =
         path.empty() || reason.ends_with("=" + path) || reason.ends_with(" " + path) || reason.starts_with(path + ": ");
     const std::string start = named ? "" : oneLine(path) + ": ";
-    return "ovisto-cli: " + start + oneLine(reason, kMostMessage + path.size()) + "\n";
+    return "ovisto-cli: " + start + oneLine(reason, kMostColumns + path.size()) + "\n";
 }
 
-std::string oneLine(const std::string& text, std::size_t mostCharacters)
+std::string oneLine(const std::string& text, std::size_t mostColumns)
 {
     std::string line;
-    std::size_t count = 0;
+    std::size_t columns = 0;
     bool blank = false;
     for (const char32_t character : characters(text)) {
         if (isControl(character)) {
             blank = true;
             continue;
         }
-        if (blank && !line.empty())
+        if (blank && !line.empty()) {
             line += ' ';
+            ++columns;
+        }
         blank = false;
-        if (++count > mostCharacters)
+        columns += static_cast<std::size_t>(columnsOf(character));
+        if (columns > mostColumns)
             return line + "...";
         appendCharacter(line, character);
     }

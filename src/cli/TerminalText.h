@@ -12,7 +12,7 @@ namespace ovisto {
 std::string errorLine(const Phrase& context, const Phrase& message);
 
 /// `text` on one line and harmless to a terminal: a run of line breaks or control characters becomes a blank, and text
-/// beyond `mostCharacters` is cut.
-std::string oneLine(const std::string& text, std::size_t mostCharacters = std::string::npos);
+/// beyond `mostColumns` is cut.
+std::string oneLine(const std::string& text, std::size_t mostColumns = std::string::npos);
 
 } // namespace ovisto
