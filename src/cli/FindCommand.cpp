@@ -36,6 +36,7 @@ void addFindOptions(CLI::App& parser, FindOptions& options)
     parser.add_flag("--all-words", scan.content.allWords, "All of the words");
     parser.add_flag("--whole-words", scan.content.wholeWords, "Not as parts of longer words");
     parser.add_flag("--regexp", scan.content.regExp, "W is a regular expression, not a list of words");
+    addBasicOption(parser, scan.content.reading);
     parser.add_flag("!--no-subfolders", scan.subFolders, "Only in FOLDER itself");
     addFileList(parser, options.files);
     parser.final_callback([&options] {

@@ -1,11 +1,14 @@
 #include "collection/ContentFilter.h"
 
 #include "collection/DocumentPattern.h"
+#include "collection/VisibleText.h"
 #include "common/Error.h"
+#include "common/text/CaseFolding.h"
 #include "common/text/Splitting.h"
 #include "reader/JpegXml.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ovisto {
 
@@ -30,9 +33,11 @@ std::string anyWordPattern(const ContentSearch& search)
     return pattern;
 }
 
-RegularExpression wordExpression(const std::string& pattern)
+RegularExpression wordExpression(const std::string& pattern, Reading reading)
 {
     RegularExpression typed(pattern); // an error is to speak of what was typed
+    if (reading == Reading::Full)
+        return RegularExpression(foldedPattern(pattern), Letters::Unicode);
     const std::string inDocument = documentPattern(pattern);
     return inDocument == pattern ? std::move(typed) : RegularExpression(inDocument);
 }
@@ -46,33 +51,46 @@ std::vector<RegularExpression> expressionsFor(const ContentSearch& search)
         expressions.emplace_back(search.words);
     } else if (search.allWords) {
         for (const std::string_view word : split(search.words, ','))
-            expressions.push_back(wordExpression(wordPattern(word, search.wholeWords)));
+            expressions.push_back(wordExpression(wordPattern(word, search.wholeWords), search.reading));
     } else {
-        expressions.push_back(wordExpression(anyWordPattern(search)));
+        expressions.push_back(wordExpression(anyWordPattern(search), search.reading));
     }
     return expressions;
 }
 
 } // namespace
 
-ContentFilter::ContentFilter(const ContentSearch& search) : m_expressions(expressionsFor(search)) {}
+ContentFilter::ContentFilter(const ContentSearch& search)
+    : m_reading(search.reading), m_foldsText(search.reading == Reading::Full && !search.regExp),
+      m_expressions(expressionsFor(search))
+{
+}
 
 bool ContentFilter::keeps(const std::string& path) const
 {
     if (m_expressions.empty())
         return true;
-    const Translation translation = JpegXml().XMLtranslate(path);
+    Translation translation = JpegXml().XMLtranslate(path, {.reading = m_reading});
     if (translation.error)
         return false;
+    const std::string text = searchedText(std::move(translation.text));
     ErrorTrap trap;
     bool matches = false;
     trap.run([&] {
-        matches = std::ranges::all_of(
-            m_expressions, [&](const RegularExpression& expression) { return expression.matches(translation.text); });
+        matches = std::ranges::all_of(m_expressions,
+                                      [&](const RegularExpression& expression) { return expression.matches(text); });
     });
     if (trap.pending())
         throw Error{trap.error().number, {Message::InContext, path, trap.error().description}};
     return matches;
+}
+
+std::string ContentFilter::searchedText(std::string documentText) const
+{
+    if (m_reading == Reading::Basic)
+        return documentText;
+    std::string text = visibleText(std::move(documentText));
+    return m_foldsText ? foldedText(std::move(text)) : text;
 }
 
 } // namespace ovisto

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/text/RegularExpression.h"
+#include "document/Reading.h"
 
 #include <string>
 #include <vector>
@@ -13,6 +14,7 @@ struct ContentSearch {
     bool allWords = false;   ///< all of the words, not just any
     bool wholeWords = false; ///< only whole words; ignored for a regular expression
     bool regExp = false;     ///< `words` is a regular expression
+    Reading reading = Reading::Full;
 };
 
 /// Decides whether the metadata of a file contains what is searched for. Several threads may use it at once.
@@ -22,13 +24,22 @@ public:
     /// characters, with their special meaning.
     explicit ContentFilter(const ContentSearch& search);
 
-    /// True if the document text of the JPEG file at `path`, markup included, matches. Most characters beyond ASCII are
-    /// references in it ("&#233;"): words find them (see documentPattern()), a regular expression must ask for the
-    /// reference. False for a file that the reader cannot translate. With nothing to search for, true without opening
-    /// the file. Raises the errors of RegularExpression::matches(), with the file's name.
+    /// True if the document text of the JPEG file at `path`, markup included, matches. False for a file that the reader
+    /// cannot translate. With nothing to search for, true without opening the file. Raises the errors of
+    /// RegularExpression::matches(), with the file's name.
+    ///
+    /// In a full document everything is searched as people see it: no character is a reference. Words match in any
+    /// case and spelling of their letters (see foldedText()), and whole words by the letters of all scripts.
+    ///
+    /// In a basic one most characters beyond ASCII are references ("&#233;"): words find them (see documentPattern()),
+    /// a regular expression must ask for the reference.
     bool keeps(const std::string& path) const;
 
 private:
+    std::string searchedText(std::string documentText) const;
+
+    Reading m_reading;
+    bool m_foldsText;                             // as words in full documents need it
     std::vector<RegularExpression> m_expressions; // all of them must match
 };
 

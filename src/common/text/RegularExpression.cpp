@@ -45,10 +45,25 @@ std::string messageOf(int error)
     return reinterpret_cast<const char*>(message.data());
 }
 
+constexpr std::string_view kWordLetter = R"([\p{L}\p{M}\p{N}\p{Pc}\u200C\u200D])"; ///< with what is invisible in words
+constexpr std::string_view kUnspacedLetter = R"([\p{scx:Han}\p{scx:Hiragana}\p{scx:Katakana}\p{scx:Bopomofo}\p{scx:Yi})"
+                                             R"(\p{scx:Thai}\p{scx:Lao}\p{scx:Khmer}\p{scx:Myanmar}])";
+constexpr std::string_view kKatakana = "[\\p{sc:Katakana}ーｰﾞﾟ]";
+
+/// What matches between two characters of the same word. A mark belongs to the letter in front of it.
+std::string withinWord()
+{
+    const auto after = [](std::string_view letter) { return "(?<=" + std::string(letter) + ")"; };
+    const auto before = [](std::string_view letter) { return "(?=" + std::string(letter) + ")"; };
+    const std::string unspaced(kUnspacedLetter);
+    return after(kWordLetter) + "(?:" + before(kWordLetter) + "(?!" + unspaced + ")(?<!" + unspaced + ")|" +
+           before("\\p{M}") + "|" + after(kKatakana) + before(kKatakana) + ")";
+}
+
 /// `pattern` as the engine writes the same thing: it gives a meaning to more than ECMAScript does. An escaped letter
 /// that means nothing there is that letter; a bracket in a class is one; and what begins with "(*" is an error, not a
 /// command to the engine.
-std::string engineSpelling(std::string_view pattern)
+std::string engineSpelling(std::string_view pattern, Letters letters)
 {
     constexpr std::string_view kLetterEscapes = "bBdDsSwWfnrtvcxu";
     std::string spelling;
@@ -57,6 +72,11 @@ std::string engineSpelling(std::string_view pattern)
         const char character = pattern[i];
         if (character == '\\' && i + 1 < pattern.size()) {
             const char escaped = pattern[++i];
+            if (letters == Letters::Unicode && !inClass && (escaped == 'b' || escaped == 'B')) {
+                static const std::string within = withinWord();
+                spelling += (escaped == 'b' ? "(?!" : "(?:") + within + ")";
+                continue;
+            }
             const bool isLetter = (escaped >= 'a' && escaped <= 'z') || (escaped >= 'A' && escaped <= 'Z');
             if (!isLetter || kLetterEscapes.find(escaped) != std::string_view::npos)
                 spelling += '\\';
@@ -84,15 +104,17 @@ struct RegularExpression::Compiled {
     PatternPtr<pcre2_match_context> interpreted;
 };
 
-RegularExpression::RegularExpression(const std::string& pattern) : m_compiled(std::make_unique<Compiled>())
+RegularExpression::RegularExpression(const std::string& pattern, Letters letters)
+    : m_compiled(std::make_unique<Compiled>())
 {
     const PatternPtr<pcre2_compile_context> context(pcre2_compile_context_create(nullptr));
     pcre2_set_newline(context.get(), PCRE2_NEWLINE_ANYCRLF);
-    const std::string spelling = engineSpelling(pattern);
+    const std::string spelling = engineSpelling(pattern, letters);
+    const std::uint32_t options = kCompileOptions | (letters == Letters::Unicode ? PCRE2_UCP : 0U);
     int error = 0;
     std::size_t place = 0;
-    m_compiled->code.reset(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(spelling.data()), spelling.size(),
-                                         kCompileOptions, &error, &place, context.get()));
+    m_compiled->code.reset(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(spelling.data()), spelling.size(), options,
+                                         &error, &place, context.get()));
     if (!m_compiled->code) {
         const std::size_t character = characterCount(std::string_view(spelling).substr(0, place));
         throw Error{kInvalidCall,

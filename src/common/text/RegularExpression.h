@@ -6,13 +6,21 @@
 
 namespace ovisto {
 
-/// A regular expression in ECMAScript syntax. It ignores case; "^" and "$" also match at line breaks; "\w", "\d" and
-/// "\b" know only ASCII. Several threads may use it at once.
+/// Which characters are letters and digits in a regular expression.
+enum class Letters {
+    Ascii, ///< as in ECMAScript
+    /// Those of all scripts. "\b" is then every place that is not within a word. Characters of scripts without spaces
+    /// between words, such as Han, Hiragana and Thai, are words of their own; a run of Katakana is one word.
+    Unicode,
+};
+
+/// A regular expression in ECMAScript syntax. It ignores case; "^" and "$" also match at line breaks. Several threads
+/// may use it at once.
 class RegularExpression {
 public:
     /// Compiles `pattern` (UTF-8). Raises kInvalidCall, with the reason and the position, if it is not a regular
     /// expression.
-    explicit RegularExpression(const std::string& pattern);
+    explicit RegularExpression(const std::string& pattern, Letters letters = Letters::Ascii);
     RegularExpression(RegularExpression&& other) noexcept;
     RegularExpression& operator=(RegularExpression&& other) noexcept;
     ~RegularExpression();

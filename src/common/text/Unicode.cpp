@@ -10,21 +10,6 @@ namespace ovisto {
 
 namespace {
 
-/// How many bytes in front are ASCII, as nearly all are: each of them is a character, and much is simple then.
-std::size_t asciiPrefix(std::string_view text)
-{
-    constexpr std::uint64_t kUpperBits = 0x8080808080808080;
-    std::size_t size = 0;
-    for (std::uint64_t eight = 0; size + sizeof(eight) <= text.size(); size += sizeof(eight)) {
-        std::memcpy(&eight, text.data() + size, sizeof(eight));
-        if ((eight & kUpperBits) != 0)
-            break;
-    }
-    while (size < text.size() && (text[size] & 0x80) == 0)
-        ++size;
-    return size;
-}
-
 /// Hands over the text in its stretches of ASCII and of other characters, none of them empty. No character is divided,
 /// as all bytes of those that are no ASCII are none either.
 template <class Ascii, class Other> void forEachStretch(std::string_view text, Ascii ascii, Other other)
@@ -58,6 +43,20 @@ void appendCharacter(std::string& text, char32_t character)
         text.push_back(static_cast<char>(character));
     else
         utf8::unchecked::append(character, std::back_inserter(text));
+}
+
+std::size_t asciiPrefix(std::string_view text)
+{
+    constexpr std::uint64_t kUpperBits = 0x8080808080808080;
+    std::size_t size = 0;
+    for (std::uint64_t eight = 0; size + sizeof(eight) <= text.size(); size += sizeof(eight)) {
+        std::memcpy(&eight, text.data() + size, sizeof(eight));
+        if ((eight & kUpperBits) != 0)
+            break;
+    }
+    while (size < text.size() && (text[size] & 0x80) == 0)
+        ++size;
+    return size;
 }
 
 bool isUtf8(std::string_view text)

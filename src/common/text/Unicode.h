@@ -11,6 +11,9 @@ namespace ovisto {
 
 bool isUtf8(std::string_view text);
 
+/// How many bytes in front are ASCII, as nearly all are: each of them is a character, and much is simple then.
+std::size_t asciiPrefix(std::string_view text);
+
 /// Appends `character` to the UTF-8 text.
 void appendCharacter(std::string& text, char32_t character);
 

@@ -2,6 +2,7 @@
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
 #include "common/text/PathText.h"
+#include "common/text/RegularExpression.h"
 #include "common/text/Unicode.h"
 #include "support/RecordingReporter.h"
 
@@ -48,6 +49,41 @@ TEST(CodePage, CountsCharactersAndUnits)
                          "b"),
               U"a?b")
         << "a file name may hold any bytes";
+}
+
+TEST(RegularExpression, KnowsWhereWordsEndInAllScripts)
+{
+    const struct {
+        const char* word;
+        const char* text;
+        bool asWord;
+    } cases[] = {
+        {"Ωμέγα", "Άλφα Ωμέγα.", true},
+        {"Ωμέγα", "Ωμέγας", false},
+        {"łąka", "(łąka)", true},
+        {"łąka", "połąka", false},
+        {"2019", "x2019", false},
+        {"fé", "ca\"fé", true},
+        {"title", "<dc:title>", true},
+        {"été", "l'été", true},
+        {"C\\+\\+", "C++ on", true},
+        {"写真", "これは写真です", true}, // no spaces between words: any edge of a character
+        {"2019", "2019年", true},
+        {"เชียงใหม่", "ไปเชียงใหม่แล้ว", true},
+        {"カメラ", "デジタルカメラ", false}, // runs of Katakana are words
+        {"カメラ", "カメラと写真", true},
+        {"デジタルカメラ", "デジタルカメラ", true},
+        {"사진", "사진을", false},
+        {"हिन्द", "हिन्दी", false}, // a vowel sign belongs to its letter
+        {"کتاب", "کتاب\u200Cها", false},
+        {"🌋", "Etna🌋", true},
+        {"a\\Bb", "ab", true},
+        {"写\\B真", "写真", false},
+    };
+    for (const auto& c : cases) {
+        const RegularExpression word("\\b" + std::string(c.word) + "\\b", Letters::Unicode);
+        EXPECT_EQ(word.matches(c.text), c.asWord) << c.word << " in " << c.text;
+    }
 }
 
 TEST(NumberText, WritesSevenDigitsAndThenAnExponent)
