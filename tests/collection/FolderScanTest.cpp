@@ -1,4 +1,5 @@
 #include "collection/FolderScan.h"
+#include "common/text/Unicode.h"
 #include "support/CountingProgress.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
@@ -206,6 +207,52 @@ TEST(ContentFilter, ReadsWordsAndExpressionsAsPeopleTypeThem)
     }
     EXPECT_FALSE(ContentFilter({"JPEG"}).keeps(folder.file("broken.jpg", "text")));
     EXPECT_TRUE(ContentFilter({}).keeps(folder.path("none.jpg"))) << "not even opened";
+}
+
+TEST(ContentFilter, FindsInFullDocumentsWhatPeopleSee)
+{
+    const TemporaryFolder folder;
+    ExifBytes exif;
+    exif.ifd0({ExifBytes::raw(0x9C9B, 1, bytes(utf16Bytes("Żółw na Straße, ΟΔΟΣ, 富士山の写真 😀"))),
+               exif.ascii(0x010E, "Marks & Co <\"x\"> it's \x93"
+                                  "caf\xE9\x94\nnext"),
+               exif.ascii(0x013B, "Jose\u0301")});
+    const std::string payload = "<dc>A &amp; B&#x3A9;]]>\r\nend</dc>";
+    const std::string path =
+        folder.file("a.jpg", JpegBytes()
+                                 .exif(exif)
+                                 .segment(0xFFE1, bytes("http://ns.adobe.com/xap/1.0/") + Bytes{0} + bytes(payload))
+                                 .end());
+    const struct {
+        ContentSearch search;
+        bool keeps;
+    } cases[] = {
+        {{"żÓŁW"}, true},
+        {{"zolw"}, false},
+        {{"STRASSE"}, true},
+        {{"strasse", false, true}, true},
+        {{"οδος"}, true},
+        {{"οδοσ, ŻÓŁW, 写真, 富士山", true, true}, true}, // whole words
+        {{"δος", false, true}, false},
+        {{"😀", false, true}, true},
+        {{"marks & co <\"X\"> IT'S “CAFÉ”"}, true},
+        {{"&(amp|lt|quot|apos|#10);"}, false},
+        {{"A & BΩ"}, true}, // in the XML of a segment too
+        {{"JOS\u00C9"}, true},
+        {{"jose\u0301", false, true}, true},
+        {{"jose", false, true}, false},
+        {{"stra\u00DF{2}e"}, false},
+        {{"x\u00DF?y|Stra(\u00DF)+e"}, true},
+        {{"[e\u0301]”"}, true},
+        {{"^next", false, false, true}, true},
+        {{"CO <\"x\".*“CAFÉ”", false, false, true}, true},
+        {{"\\bcaf\\b", false, false, true}, true}, // of an expression the letters are ASCII
+        {{"^\\W+ółw", false, false, true}, false},
+        {{"STRASSE|jos\u00E9", false, false, true}, false}, // and it is exact but for the case of single letters
+        {{"Ω\\]\\]>\\r\\nend", false, false, true}, true},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(ContentFilter(c.search).keeps(path), c.keeps) << c.search.words << c.search.wholeWords;
 }
 
 TEST(ContentFilter, FindsWordsBeyondAsciiInEveryFormThatABasicDocumentHasThemIn)
