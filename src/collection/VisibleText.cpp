@@ -36,12 +36,12 @@ std::optional<char32_t> referredCharacter(std::string_view name)
     return char32_t{number};
 }
 
-std::string withoutReferences(std::string text)
+void resolveReferences(std::string& text)
 {
     constexpr std::size_t kLongestReference = 10; // "&#x10FFFF;"
     std::size_t next = text.find('&');
     if (next == std::string::npos)
-        return text;
+        return;
     std::string resolved;
     resolved.reserve(text.size());
     std::size_t copied = 0;
@@ -56,7 +56,8 @@ std::string withoutReferences(std::string text)
         appendCharacter(resolved, *character);
         copied = next + end + 1;
     }
-    return resolved.append(text, copied);
+    resolved.append(text, copied);
+    text = std::move(resolved);
 }
 
 /// Where the next section of the same payload goes on, if one ended before `place`: the writer of a document divides
@@ -68,7 +69,7 @@ std::size_t sectionGoesOn(std::string_view text, std::size_t place)
     return text.substr(start).starts_with(kStart) ? start + kStart.size() : std::string_view::npos;
 }
 
-std::string joinedSections(std::string text)
+void joinSections(std::string& text)
 {
     constexpr std::string_view kEnd = "]]>";
     std::string joined;
@@ -82,14 +83,17 @@ std::string joinedSections(std::string text)
             joined += '\r';
         copied = goesOn;
     }
-    return copied == 0 ? text : joined.append(text, copied);
+    if (copied > 0)
+        text = std::move(joined.append(text, copied));
 }
 
 } // namespace
 
 std::string visibleText(std::string documentText)
 {
-    return joinedSections(withoutReferences(std::move(documentText)));
+    resolveReferences(documentText);
+    joinSections(documentText);
+    return documentText;
 }
 
 std::string foldedPattern(std::string_view pattern)
