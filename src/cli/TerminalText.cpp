@@ -36,10 +36,8 @@ std::string oneLine(const std::string& text, std::size_t mostColumns)
             blank = true;
             continue;
         }
-        if (blank && !line.empty()) {
+        if (blank && !line.empty())
             line += ' ';
-            ++columns;
-        }
         blank = false;
         columns += static_cast<std::size_t>(columnsOf(character));
         if (columns > mostColumns)
