@@ -92,12 +92,12 @@ void changeFiles(const std::vector<std::string>& files, const NodeChange& change
                  CommandOutput& output)
 {
     const unsigned jobs = options.files.jobs;
-    const BatchAction batch(files, change,
-                            {.way = options.writing.way(),
-                             .reading = options.writing.reading(),
-                             .jobs = jobs,
-                             .onOtherChange =
-                                 options.writing.force ? OnOtherChange::ChangeAgain : OnOtherChange::Refuse});
+    const BatchAction batch(
+        files, change,
+        {.way = options.writing.way(),
+         .reading = options.writing.reading(),
+         .jobs = jobs,
+         .onOtherChange = options.writing.force ? OnOtherChange::ChangeAgain : OnOtherChange::Refuse});
     // A thread takes a whole group at a time, unless others would have nothing to do.
     const std::size_t fair = (files.size() + jobs - 1) / jobs;
     const std::size_t stretch = std::clamp<std::size_t>(fair, 1, batch.groupSize());

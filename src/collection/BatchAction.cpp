@@ -136,7 +136,8 @@ private:
 
     bool isToBeChangedAgain(const Member& member, const Error& error) const
     {
-        return m_options.onOtherChange == OnOtherChange::ChangeAgain && isFileWasChanged(error) && member.tries < kMostTries;
+        return m_options.onOtherChange == OnOtherChange::ChangeAgain && isFileWasChanged(error) &&
+               member.tries < kMostTries;
     }
 
     void bringToDisk(const std::string& folder)

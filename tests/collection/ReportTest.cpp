@@ -325,8 +325,8 @@ TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
         {"csv.xsl",
          "Report.txt",
          {"little-endian.jpg,Mountain lake,2023-05-14 06:42,Castelmar Lumetra 35,Castelmar Zoom 24-70mm "
-          "F2.8-4,1/125,8,100,24,lake;mountains;morning;reflection\r\n",
-          "no-exif.jpg,,,,,,,,,\r\n", "old.jpg,,,Norvane P2,,1/362,2.8,,,\r\n",
+          "F2.8-4,1/125,8,100,24,lake;mountains;morning;reflection,,\r\n",
+          "no-exif.jpg,,,,,,,,,,,\r\n", "old.jpg,,,Norvane P2,,1/362,2.8,,,,,\r\n",
           "\"Le quai éclairé, huit secondes de pose\""}},
         {"list.xsl", "Report.txt", {"\r\n  1/125 s f/8 ISO 100 24 mm\r\n"}},
         {"statistics.xsl",

@@ -392,7 +392,8 @@ private Q_SLOTS:
         const TagDictionary Merovel(OVISTO_SOURCE_FOLDER "/data/Merovel.xml");
         Window window{"night.jpg"};
         const BrowserCapForm chooser(jpegsIn(QDir::homePath()), nullptr);
-        const BatchForm batch(Merovel, true, window.dialogs, nullptr);
+        const BatchForm batch(
+            Merovel, true, [] { return Reading::Full; }, window.dialogs, nullptr);
         const ProgressForm progress(nullptr);
         for (const QWidget* form : std::initializer_list<const QWidget*>{&window.form(), &chooser, &batch, &progress}) {
             QVERIFY(!form->windowTitle().isEmpty());

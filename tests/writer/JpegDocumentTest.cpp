@@ -43,7 +43,8 @@ Written writing(const std::string& text)
     RecordingReporter reporter;
     XmlDocument document = documentOf(text);
     Written written;
-    written.error = errorNumberOf([&] { JpegDocument(reporter, documentReader(Reading::Basic)).WriteJpeg(document, path); });
+    written.error =
+        errorNumberOf([&] { JpegDocument(reporter, documentReader(Reading::Basic)).WriteJpeg(document, path); });
     for (std::string context : reporter.contexts) {
         for (auto at = context.find(folder.path("")); at != std::string::npos; at = context.find(folder.path("")))
             context.erase(at, folder.path("").size());
@@ -288,7 +289,8 @@ TEST(WriteJpeg, EitherRefusesAValueOrWritesAFileThatCanBeRead)
                 entry.setAttribute("d", std::to_string(random() % 14));
         }
         RecordingReporter reporter;
-        if (errorNumberOf([&] { JpegDocument(reporter, documentReader(Reading::Basic)).WriteJpeg(document, path); }) != 0) {
+        if (errorNumberOf([&] { JpegDocument(reporter, documentReader(Reading::Basic)).WriteJpeg(document, path); }) !=
+            0) {
             EXPECT_EQ(contentOf(path), before);
             EXPECT_FALSE(reporter.contexts.empty());
             continue;
@@ -319,7 +321,9 @@ TEST(WriteJpeg, RefusesATextWithWhichTheFileCouldNotBeOpenedAgain)
         XmlDocument document = loadDocument(path);
         document.selectSingleNode(c.path).setText(c.text);
         RecordingReporter reporter;
-        EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter, documentReader(Reading::Basic)).WriteJpeg(document, path); }), c.error)
+        EXPECT_EQ(
+            errorNumberOf([&] { JpegDocument(reporter, documentReader(Reading::Basic)).WriteJpeg(document, path); }),
+            c.error)
             << c.text;
         EXPECT_EQ(errorNumberOf([&] { loadDocument(path); }), 0) << c.text;
     }
@@ -333,7 +337,9 @@ TEST(WriteJpeg, RefusesAFileThatWasChangedAfterItWasRead)
     const auto isRefused = [&](const Bytes& file, int error) {
         folder.file("a.jpg", file);
         RecordingReporter reporter;
-        EXPECT_EQ(errorNumberOf([&] { JpegDocument(reporter, documentReader(Reading::Basic)).WriteJpeg(document, path); }), error);
+        EXPECT_EQ(
+            errorNumberOf([&] { JpegDocument(reporter, documentReader(Reading::Basic)).WriteJpeg(document, path); }),
+            error);
         EXPECT_EQ(contentOf(path), file);
     };
     isRefused(JpegBytes().app0().end(), kInvalidCall);

@@ -130,7 +130,7 @@ private:
             return hexNumber(static_cast<std::uint32_t>(below(0xFFFFFF)), 8);
         switch (type->form) {
         case ValueForm::Hexadecimal:
-            return digits(20);
+            return digits(20) + "01"; // no text, which it would be shown as
         case ValueForm::Short:
         case ValueForm::Long:
             return numbers(false);

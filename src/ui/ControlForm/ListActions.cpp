@@ -44,7 +44,8 @@ void ListActions::runBatch(const NodeChange& change)
     runWatched(m_parts.window, [&](ProgressForm& progress) {
         progress.show();
         BatchWatch watch(progress, m_parts.reporter);
-        BatchAction(m_editor.list().files().paths(), change, m_editor.writingWay(), m_editor.reading())
+        BatchAction(m_editor.list().files().paths(), change,
+                    {.way = m_editor.writingWay(), .reading = m_editor.reading()})
             .run(watch, watch, count);
         notChanged = watch.failedToo();
     });

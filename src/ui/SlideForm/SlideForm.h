@@ -27,7 +27,7 @@ struct SlideSurroundings {
     QItemSelectionModel& selection; ///< in that list
     Dialogs& dialogs;
     Settings& settings;
-    Reading reading; ///< of the details
+    Reading reading = Reading::Full; ///< of the details
 };
 
 /// The window of a slide show. It is deleted when it closes.
