@@ -201,7 +201,11 @@ void ExifDecoding::appendEntry(const ExifPart& directory, const IfdEntry& entry)
 void ExifDecoding::recordPointer(const IfdEntry& entry, const EntryValue& value)
 {
     for (const ExifPart& part : kExifParts) {
-        if (entry.tag == part.pointer.offset || entry.tag == part.strips.offset) {
+        if (part.reading == Reading::Full) {
+            ErrorTrap trap; // a place that cannot be read changes nothing of the other parts
+            if (entry.tag == part.pointer.offset)
+                trap.run([&] { recordOffset(part, entry, value); });
+        } else if (entry.tag == part.pointer.offset || entry.tag == part.strips.offset) {
             recordOffset(part, entry, value);
         } else if (entry.tag == part.pointer.length) {
             placeOf(part).length = toLong(value.text);

@@ -140,8 +140,10 @@ std::int64_t layOutExif(XmlNode exif, ErrorReporter& reporter)
     reported(reporter, Message::ExifLengthFailed, [&] { countComponents(exif); });
 
     std::int64_t pos = kTiffHeaderSize;
-    for (const ExifPart& part : kExifParts)
-        layOutPart(pos, exif, part, reporter);
+    for (const ExifPart& part : kExifParts) {
+        if (part.reading == Reading::Basic) // only such documents are laid out
+            layOutPart(pos, exif, part, reporter);
+    }
     return pos;
 }
 
