@@ -63,16 +63,15 @@ StoredText wideText(Bytes value, std::size_t first, CharacterEncoding (*order)(B
 /// Windows puts the least significant byte first, whatever the order of the block; not all programs know.
 CharacterEncoding windowsOrder(Bytes units, bool /*littleEndian*/)
 {
-    return zeroHighBytes(units, kBig) > zeroHighBytes(units, kLittle) ? kBig : kLittle;
+    return unitsInOrder(units, kBig) > unitsInOrder(units, kLittle) ? kBig : kLittle;
 }
 
-/// A comment has the order of the block, unless most of its units are Latin letters in the other one, and fewer in
-/// this.
+/// A comment has the order of the block, unless most of its units look right in the other one, and fewer in this.
 CharacterEncoding commentOrder(Bytes units, bool littleEndian)
 {
     const CharacterEncoding order = littleEndian ? kLittle : kBig;
-    const std::size_t inOther = zeroHighBytes(units, otherOrder(order));
-    const bool isWrong = inOther > zeroHighBytes(units, order) && inOther * kUnitSize * 2 >= units.size();
+    const std::size_t inOther = unitsInOrder(units, otherOrder(order));
+    const bool isWrong = inOther > unitsInOrder(units, order) && inOther * kUnitSize * 2 >= units.size();
     return isWrong ? otherOrder(order) : order;
 }
 

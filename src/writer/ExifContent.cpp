@@ -313,6 +313,8 @@ private:
         content.isPlace = isPlaceOfAdded(tag) || isImageOffset(tag);
         if (!content.isPlace)
             content.bytes = leastSignificantFirst(value.bytes, numberSize(value.type), m_old.littleEndian());
+        if (isFourByteTag(tag) && content.bytes.size() < static_cast<std::size_t>(kValueFieldSize))
+            content.bytes.resize(static_cast<std::size_t>(kValueFieldSize)); // of which the whole field counts
         return content;
     }
 

@@ -221,12 +221,13 @@ CharacterEncoding narrowEncoding(std::span<const std::uint8_t> bytes)
     return !isAscii && isUtf8(text) ? CharacterEncoding::Utf8 : CharacterEncoding::CodePage;
 }
 
-std::size_t zeroHighBytes(std::span<const std::uint8_t> units, CharacterEncoding order)
+std::size_t unitsInOrder(std::span<const std::uint8_t> units, CharacterEncoding order)
 {
+    constexpr char32_t kFirstWithHighByte = 256;
     std::size_t count = 0;
-    for (std::size_t i = 0; i + kUnitSize <= units.size(); i += kUnitSize) {
-        if (unitAt(units, i, order) < 256)
-            ++count;
+    for (const StoredCharacter& stored : storedCharacters(units, order)) {
+        if (stored.character < kFirstWithHighByte || stored.size > kUnitSize)
+            count += stored.size / kUnitSize;
     }
     return count;
 }

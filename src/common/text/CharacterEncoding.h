@@ -39,8 +39,8 @@ std::optional<std::vector<std::uint8_t>> encodedText(std::u32string_view text, C
 /// chance.
 CharacterEncoding narrowEncoding(std::span<const std::uint8_t> bytes);
 
-/// How many of the units of two bytes have a zero high byte in the given order. Most of them do in the right order
-/// where a text has Latin letters, and none in the wrong one.
-std::size_t zeroHighBytes(std::span<const std::uint8_t> units, CharacterEncoding order);
+/// How many of the units of two bytes look right in the given order: those with a zero high byte, as Latin letters
+/// have, and those that are pairs of surrogates.
+std::size_t unitsInOrder(std::span<const std::uint8_t> units, CharacterEncoding order);
 
 } // namespace ovisto
