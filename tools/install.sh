@@ -1,7 +1,7 @@
 # Sourced by the scripts that build and test: the Debian 12 packages that the project needs, and how to install them.
 
-BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libxml2-dev libxslt1-dev libpcre2-dev libunistring-dev libcli11-dev
-    libutfcpp-dev libmimalloc-dev qt6-base-dev)
+BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libxml2-dev libxslt1-dev libpcre2-dev libunistring-dev libjpeg62-turbo-dev
+    libcli11-dev libutfcpp-dev libmimalloc-dev qt6-base-dev)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libxml2-utils libimage-exiftool-perl)
 LINT_PACKAGES=(clang-format clang-tidy)
 FUZZ_PACKAGES=(clang libclang-rt-dev)

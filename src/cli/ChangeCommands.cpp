@@ -1,8 +1,7 @@
+#include "cli/BatchRun.h"
 #include "cli/CommandOutput.h"
 #include "cli/Commands.h"
-#include "cli/FileLoop.h"
 #include "cli/Options.h"
-#include "collection/BatchAction.h"
 #include "common/system/Interruption.h"
 #include "common/text/CodePage.h"
 
@@ -60,66 +59,6 @@ NodeChange changeOf(const ChangeOptions& options, const TagDictionary& dictionar
     return change;
 }
 
-/// Progress over files where the loop counts stretches of them.
-class StretchProgress : public Progress {
-public:
-    StretchProgress(Progress& files, std::size_t stretch, std::size_t total)
-        : m_files(files), m_stretch(stretch), m_total(total)
-    {
-    }
-
-    bool step(const std::string& path, std::size_t done, std::size_t /*total*/) override
-    {
-        return m_files.step(path, done * m_stretch, m_total);
-    }
-
-private:
-    Progress& m_files;
-    std::size_t m_stretch;
-    std::size_t m_total;
-};
-
-/// Progress within a stretch, which is not shown.
-class UnwatchedProgress : public Progress {
-public:
-    bool step(const std::string& /*path*/, std::size_t /*done*/, std::size_t /*total*/) override
-    {
-        return !interrupted();
-    }
-};
-
-void changeFiles(const std::vector<std::string>& files, const NodeChange& change, const ChangeOptions& options,
-                 CommandOutput& output)
-{
-    const unsigned jobs = options.files.jobs;
-    const BatchAction batch(
-        files, change,
-        {.way = options.writing.way(),
-         .reading = options.writing.reading(),
-         .jobs = jobs,
-         .onOtherChange = options.writing.force ? OnOtherChange::ChangeAgain : OnOtherChange::Refuse});
-    // A thread takes a whole group at a time, unless others would have nothing to do.
-    const std::size_t fair = (files.size() + jobs - 1) / jobs;
-    const std::size_t stretch = std::clamp<std::size_t>(fair, 1, batch.groupSize());
-    std::vector<std::string> firstFiles;
-    for (std::size_t i = 0; i < files.size(); i += stretch)
-        firstFiles.push_back(files[i]);
-    const auto work = [&](std::size_t index) {
-        FileResult result;
-        LineReporter reporter(result.errors);
-        UnwatchedProgress unwatched;
-        const std::size_t first = index * stretch;
-        const SavedFile saved = [&](const std::string& path, const SaveReceipt& receipt) {
-            result.notes += savedLines(options.writing, path, receipt);
-        };
-        batch.run(first, std::min(first + stretch, files.size()), unwatched, reporter, saved);
-        return result;
-    };
-    StretchProgress progress(output.progress(), stretch, files.size());
-    forEachFile(
-        firstFiles, jobs, work, [&](const FileResult& result) { output.write(result); }, progress);
-}
-
 int runChange(const ChangeOptions& options)
 {
     std::vector<std::string> files = fileNames(options.files);
@@ -131,7 +70,8 @@ int runChange(const ChangeOptions& options)
     ErrorTrap trap;
     trap.run([&] { nodeChange = changeOf(options, dictionary); });
     if (!trap.pending())
-        changeFiles(files, nodeChange, options, output);
+        runBatch(BatchAction(files, std::move(nodeChange), batchOptions(options.writing, options.files.jobs)), files,
+                 options.files.jobs, options.writing, output);
     else
         std::ranges::for_each(files, [&](const auto& path) { ErrorReport(output, path, trap.error()); });
     return output.finish();

@@ -14,8 +14,9 @@ namespace ovisto {
 namespace {
 
 /// In the order of the help.
-constexpr Command (*kCommands[])() = {showCommand,   xmlCommand, exportCommand, writeCommand, setCommand,
-                                      deleteCommand, addCommand, checkCommand,  findCommand,  reportCommand};
+constexpr Command (*kCommands[])() = {showCommand,  xmlCommand,    exportCommand, writeCommand,
+                                      setCommand,   deleteCommand, addCommand,    checkCommand,
+                                      cleanCommand, findCommand,   reportCommand};
 
 } // namespace
 

@@ -15,6 +15,7 @@ Command setCommand();
 Command deleteCommand();
 Command addCommand();
 Command checkCommand();
+Command cleanCommand();
 Command findCommand();
 Command reportCommand();
 

@@ -4,6 +4,7 @@
 #include "cli/PropertyText.h"
 #include "cli/TerminalText.h"
 #include "collection/DocumentLoad.h"
+#include "collection/PrivateData.h"
 
 #include <CLI/CLI.hpp>
 
@@ -14,6 +15,7 @@ namespace {
 struct ShowOptions {
     FileOptions files;
     bool technical = false;
+    bool onlyPrivate = false;
     Reading reading = Reading::Full;
 };
 
@@ -21,7 +23,20 @@ void addShowOptions(CLI::App& parser, ShowOptions& options)
 {
     addFiles(parser, options.files);
     parser.add_flag("--technical", options.technical, "Show technical properties too");
+    parser.add_flag("--private", options.onlyPrivate,
+                    "Show what tells of people and places instead: its kind, size and place; see clean");
     addBasicOption(parser, options.reading);
+}
+
+/// What clean would take away, one a line, after the name that --keep has for it.
+std::string privateText(const std::string& path, const TagDictionary& dictionary)
+{
+    XmlDocument document = loadDocument(path, {.reading = Reading::Full});
+    std::string lines;
+    for (const PrivateFinding& finding : privateFindings(document, path, dictionary))
+        lines += "  " + std::string(privateKindRow(finding.kind).name) + ": " +
+                 oneLine(inEnglish(findingText(finding))) + "\n";
+    return lines.empty() ? "  " + inEnglish(Message::TellsNothing) + "\n" : lines;
 }
 
 int runShow(const ShowOptions& options)
@@ -29,8 +44,13 @@ int runShow(const ShowOptions& options)
     const std::vector<std::string> files = fileNames(options.files);
     const TagDictionary dictionary = loadDictionary(options.files);
     return runEach(files, options.files.jobs, [&](const std::string& path, FileResult& result, ErrorReporter&) {
+        result.output = oneLine(path) + "\n";
+        if (options.onlyPrivate) {
+            result.output += privateText(path, dictionary);
+            return;
+        }
         const XmlDocument document = loadDocument(path, {.reading = options.reading});
-        result.output = oneLine(path) + "\n" + propertyText(document, dictionary, options.technical);
+        result.output += propertyText(document, dictionary, options.technical);
     });
 }
 

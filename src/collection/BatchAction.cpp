@@ -28,10 +28,10 @@ constexpr std::int64_t kGroupBytes = std::int64_t{128} * 1024 * 1024; ///< on th
 class Group {
 public:
     /// `room` is shared by all groups that run at the same time.
-    Group(const NodeChange& change, const BatchOptions& options, const SparedFile& isSpared, ErrorReporter& reporter,
+    Group(const DocumentEdit& edit, const BatchOptions& options, const SparedFile& isSpared, ErrorReporter& reporter,
           const SavedFile& saved, std::shared_mutex& room)
-        : m_change(change), m_options(options), m_isSpared(isSpared), m_reporter(reporter), m_saved(saved),
-          m_room(room), m_share(room, std::defer_lock)
+        : m_edit(edit), m_options(options), m_isSpared(isSpared), m_reporter(reporter), m_saved(saved), m_room(room),
+          m_share(room, std::defer_lock)
     {
     }
 
@@ -82,12 +82,14 @@ private:
         trap.run([&] {
             const FileReading reading = readFile(path, m_options.reading);
             XmlDocument document = documentOf(reading.text);
-            if (!applyChange(document, m_change, member->report))
+            const EditResult result = m_edit(document, path, member->report);
+            if (!result.changed && !result.clearance)
                 return;
             const XmlDocument before = documentOf(reading.text);
             member->version.emplace(member->report, path,
                                     NewVersionOptions{ReadOnlyFails::AtOnce, m_isSpared, reading.identity});
-            member->version->write({m_options.way, before, document, documentReader(m_options.reading)});
+            member->version->write(
+                {m_options.way, before, document, documentReader(m_options.reading), result.clearance});
         });
         if (trap.pending() && trap.error().number == kDiskFull && onDiskFull == DiskFull::TryAgain)
             return false;
@@ -186,7 +188,7 @@ private:
         ErrorReport(m_reporter, member.path, member.report.orElse(error));
     }
 
-    const NodeChange& m_change;
+    const DocumentEdit& m_edit;
     const BatchOptions& m_options;
     const SparedFile& m_isSpared;
     ErrorReporter& m_reporter;
@@ -209,7 +211,17 @@ std::size_t groupSizeFor(unsigned jobs)
 } // namespace
 
 BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange change, const BatchOptions& options)
-    : m_files(files), m_change(std::move(change)), m_options(options), m_isSpared(sparing(files)),
+    : BatchAction(
+          files,
+          [change = std::move(change)](XmlDocument& document, const std::string& /*path*/, ErrorReporter& reporter) {
+              return EditResult{.changed = applyChange(document, change, reporter).changed};
+          },
+          options)
+{
+}
+
+BatchAction::BatchAction(const std::vector<std::string>& files, DocumentEdit edit, const BatchOptions& options)
+    : m_files(files), m_edit(std::move(edit)), m_options(options), m_isSpared(sparing(files)),
       m_groupSize(groupSizeFor(options.jobs))
 {
     std::vector<std::string> realPaths;
@@ -225,7 +237,7 @@ BatchAction::BatchAction(const std::vector<std::string>& files, NodeChange chang
 void BatchAction::run(std::size_t first, std::size_t last, Progress& progress, ErrorReporter& reporter,
                       const SavedFile& saved) const
 {
-    Group group(m_change, m_options, m_isSpared, reporter, saved, m_room);
+    Group group(m_edit, m_options, m_isSpared, reporter, saved, m_room);
     for (std::size_t i = first; i < last; ++i) {
         const std::string& path = m_files[i];
         if (!progress.step(path, i, m_files.size()))

@@ -33,6 +33,16 @@ struct BatchOptions {
     OnOtherChange onOtherChange = OnOtherChange::Refuse;
 };
 
+/// What an edit did to a document.
+struct EditResult {
+    bool changed = false;     ///< whether the document says something else now
+    Clearance clearance = {}; ///< what else the save has to take away
+};
+
+/// Edits the document of the file at `path`. Called from several threads at the same time. What goes wrong is reported
+/// to `reporter`, and raised.
+using DocumentEdit = std::function<EditResult(XmlDocument& document, const std::string& path, ErrorReporter& reporter)>;
+
 /// Makes one change to many JPEG files, keeping all parts of each. A file that already has the change is not written.
 /// New versions are written in groups, brought to disk together, then put in place: much less waiting for the disk, and
 /// each file as safe at every moment as if it were saved alone. When the disk is full, the groups are put in place,
@@ -41,6 +51,8 @@ class BatchAction {
 public:
     /// `files` must outlive the object. A path may occur in it more than once.
     BatchAction(const std::vector<std::string>& files, NodeChange change, const BatchOptions& options = {});
+    /// The same with any edit of their documents.
+    BatchAction(const std::vector<std::string>& files, DocumentEdit edit, const BatchOptions& options);
 
     /// How many files are written before the first one is put in place.
     std::size_t groupSize() const { return m_groupSize; }
@@ -61,7 +73,7 @@ public:
 
 private:
     const std::vector<std::string>& m_files;
-    NodeChange m_change;
+    DocumentEdit m_edit;
     BatchOptions m_options;
     SparedFile m_isSpared;
     std::size_t m_groupSize;

@@ -43,7 +43,7 @@ SaveReceipt save(const XmlDocument& before, XmlDocument& after, const FileIdenti
                  const SavingWay& way, ErrorReporter& reporter)
 {
     NewVersion version(reporter, path, {ReadOnlyFails::AtTheEnd, way.isSpared, asRead});
-    version.write({way.writing, before, after, documentReader(readingOf(after.node()))});
+    version.write({way.writing, before, after, documentReader(readingOf(after.node())), way.clearance});
     version.bringToDisk();
     version.putInPlace();
     SaveReceipt receipt = version.receipt();

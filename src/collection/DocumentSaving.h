@@ -16,6 +16,7 @@ namespace ovisto {
 struct SavingWay {
     WritingWay writing = WritingWay::Keep;
     SparedFile isSpared{}; ///< see NewVersionOptions
+    Clearance clearance{}; ///< what else it takes away; Keep only
 };
 
 /// Spares those of `files` that have a name such as temporary files have, so that all of them can be saved. It may

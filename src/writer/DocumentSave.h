@@ -11,12 +11,21 @@ enum class WritingWay {
     Rebuild ///< all segments are written anew (see rebuildJpeg())
 };
 
+/// What a save that keeps takes away beside what was edited, as no document shows it.
+struct Clearance {
+    bool afterPicture = false; ///< whatever follows the end-of-image marker of the picture
+    bool leftovers = false;    ///< bytes of an Exif segment that nothing leads to; they stay where a maker note does
+
+    explicit operator bool() const { return afterPicture || leftovers; }
+};
+
 /// A document to be saved.
 struct DocumentSave {
     WritingWay way = WritingWay::Keep;
     const XmlDocument& before; ///< the document of the file as it is, nothing left out
     XmlDocument& after;        ///< the one to be saved; Rebuild lays out its Exif elements
     DocumentReader read;       ///< for the new file
+    Clearance clearance = {};  ///< Keep only
 };
 
 } // namespace ovisto

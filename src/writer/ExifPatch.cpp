@@ -115,8 +115,9 @@ enum class Padding { Keep, Use };
 /// released; then what is new gets its places; then it is written.
 class Patch {
 public:
-    Patch(const TiffBlock& old, const std::vector<PartChange>& parts)
-        : m_old(old), m_parts(parts), m_shown(old, parts), m_claims(old.size()), m_bytes(old.bytes())
+    Patch(const TiffBlock& old, const std::vector<PartChange>& parts, Leftovers leftovers)
+        : m_old(old), m_parts(parts), m_leftovers(leftovers), m_shown(old, parts), m_claims(old.size()),
+          m_bytes(old.bytes())
     {
         for (const TiffDirectory& directory : m_shown.directories())
             m_directories.push_back(unchanged(directory));
@@ -130,7 +131,7 @@ public:
         giveBackImages();
         giveBackDirectories();
         m_claims.settle();
-        releaseWhatTheMakerNoteLedTo();
+        releaseLeftovers();
         if (padding == Padding::Use)
             releasePadding();
         clearReleased();
@@ -453,13 +454,15 @@ private:
         });
     }
 
-    /// Nothing but a maker note leads to bytes that nothing claims, so they go with the last one.
-    void releaseWhatTheMakerNoteLedTo()
+    /// Nothing but a maker note leads to bytes that nothing claims, so they go with the last one, and where
+    /// that is asked for.
+    void releaseLeftovers()
     {
         const bool hadMakerNote = std::ranges::any_of(m_shown.directories(), [](const TiffDirectory& directory) {
             return std::ranges::find(directory.entries, kMakerNote, &TiffEntry::tag) != directory.entries.end();
         });
-        if (hadMakerNote && !hasMakerNote() && m_shown.isComplete())
+        const bool isWanted = hadMakerNote || m_leftovers == Leftovers::Clear;
+        if (isWanted && !hasMakerNote() && m_shown.isComplete())
             m_claims.releaseUnclaimed({0, m_claims.size()});
     }
 
@@ -691,6 +694,7 @@ private:
 
     const TiffBlock& m_old;
     const std::vector<PartChange>& m_parts;
+    Leftovers m_leftovers;
     ShownExif m_shown;
     ByteClaims m_claims;
     Bytes m_bytes;
@@ -701,11 +705,11 @@ private:
 
 } // namespace
 
-std::vector<std::uint8_t> patchedExif(const TiffBlock& old, const std::vector<PartChange>& parts)
+std::vector<std::uint8_t> patchedExif(const TiffBlock& old, const std::vector<PartChange>& parts, Leftovers leftovers)
 {
-    Bytes bytes = Patch(old, parts).patched(Padding::Keep);
+    Bytes bytes = Patch(old, parts, leftovers).patched(Padding::Keep);
     if (static_cast<std::int64_t>(bytes.size()) > kMostExifBytes)
-        bytes = Patch(old, parts).patched(Padding::Use);
+        bytes = Patch(old, parts, leftovers).patched(Padding::Use);
     const auto size = static_cast<std::int64_t>(bytes.size());
     if (size > kMostExifBytes)
         throw Error{kOverflow, {Message::ExifTooLong, std::to_string(size - kMostExifBytes)}};

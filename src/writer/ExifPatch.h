@@ -16,8 +16,13 @@ namespace ovisto {
 /// identifier stands before it.
 inline constexpr std::int64_t kMostExifBytes = 65535 - 2 - 6;
 
+/// What becomes of bytes that nothing leads to where there is no maker note: of all tags, only that may lead to bytes
+/// that its entry does not name.
+enum class Leftovers { Keep, Clear };
+
 /// The TIFF structure that `old` becomes by the changes of `parts`. Raises an error that names the node and the reason
 /// when one of them cannot be made; whatever was not changed is never a reason.
-std::vector<std::uint8_t> patchedExif(const TiffBlock& old, const std::vector<PartChange>& parts);
+std::vector<std::uint8_t> patchedExif(const TiffBlock& old, const std::vector<PartChange>& parts,
+                                      Leftovers leftovers = Leftovers::Keep);
 
 } // namespace ovisto

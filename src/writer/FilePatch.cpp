@@ -5,6 +5,7 @@
 #include "document/NodePath.h"
 #include "jpeg/FileIdentity.h"
 #include "jpeg/Markers.h"
+#include "jpeg/ScanData.h"
 #include "writer/DocumentChanges.h"
 #include "writer/ExifPatch.h"
 #include "writer/FileSegments.h"
@@ -52,10 +53,10 @@ bool isExif(const ConstXmlNode& element)
 /// Copies and writes segments one after the other.
 class Patching {
 public:
-    Patching(const ConstXmlNode& before, const ConstXmlNode& after, const InputFile& oldFile, OutputFile& newFile,
-             ErrorReporter& reporter)
-        : m_before(segmentElements(before)), m_after(segmentElements(after)), m_oldFile(oldFile), m_newFile(newFile),
-          m_writer(newFile, reporter), m_segments(segmentsOf(oldFile))
+    Patching(const DocumentSave& save, const InputFile& oldFile, OutputFile& newFile, ErrorReporter& reporter)
+        : m_before(segmentElements(save.before.documentElement())),
+          m_after(segmentElements(save.after.documentElement())), m_clearance(save.clearance), m_oldFile(oldFile),
+          m_newFile(newFile), m_writer(newFile, reporter), m_segments(segmentsOf(oldFile))
     {
         if (m_segments.size() != m_before.size())
             throw fileWasChanged();
@@ -74,15 +75,26 @@ public:
                 writeSegment(pair);
         }
         const std::int64_t image = m_segments.back().end().value - 1;
-        copy(image, m_oldFile.size() - image);
+        copy(image, endOfKept() - image);
     }
 
 private:
+    std::int64_t endOfKept() const
+    {
+        if (!m_clearance.afterPicture)
+            return m_oldFile.size();
+        const auto end = scanData(m_oldFile, m_segments.back().end()).end;
+        if (!end)
+            throw Error{kInvalidCall, Message::PictureWithoutEnd};
+        return *end;
+    }
+
     void writeSegment(const DocumentPair& pair)
     {
         const ConstXmlNode& after = m_after[*pair.after];
         const Segment* segment = pair.before ? &m_segments[*pair.before] : nullptr;
-        if (segment != nullptr && pair.isSame)
+        const bool isCleared = m_clearance.leftovers && isExif(after);
+        if (segment != nullptr && pair.isSame && !isCleared)
             copySegment(*segment);
         else if (isExif(after))
             writeExif(segment, segment != nullptr ? m_before[*pair.before] : ConstXmlNode(), after);
@@ -108,13 +120,14 @@ private:
     void writeExif(const Segment* segment, const ConstXmlNode& before, const ConstXmlNode& after)
     {
         const std::vector<PartChange> parts = partChanges(before, after);
-        if (segment != nullptr && !differs(parts)) {
+        if (segment != nullptr && !differs(parts) && !m_clearance.leftovers) {
             copySegment(*segment);
             return;
         }
         constexpr std::array<std::uint8_t, kExifPrefixSize> kNewPrefix = {0xFF, 0xE1, 0, 0, 'E', 'x', 'i', 'f', 0, 0};
         const Bytes old = segment != nullptr ? segmentBytes(m_oldFile, *segment) : Bytes();
-        const Bytes block = patchedExif(segment != nullptr ? exifBlock(old) : TiffBlock::empty(), parts);
+        const Bytes block = patchedExif(segment != nullptr ? exifBlock(old) : TiffBlock::empty(), parts,
+                                        m_clearance.leftovers ? Leftovers::Clear : Leftovers::Keep);
         Bytes bytes(kNewPrefix.begin(), kNewPrefix.end());
         if (segment != nullptr)
             std::copy_n(old.begin(), bytes.size(), bytes.begin());
@@ -171,6 +184,7 @@ private:
 
     std::vector<ConstXmlNode> m_before;
     std::vector<ConstXmlNode> m_after;
+    Clearance m_clearance;
     const InputFile& m_oldFile;
     OutputFile& m_newFile;
     SegmentWriter m_writer;
@@ -179,13 +193,10 @@ private:
 
 } // namespace
 
-void patchJpeg(const XmlDocument& before, const XmlDocument& after, const InputFile& oldFile, OutputFile& newFile,
-               ErrorReporter& reporter)
+void patchJpeg(const DocumentSave& save, const InputFile& oldFile, OutputFile& newFile, ErrorReporter& reporter)
 {
-    const ConstXmlNode rootBefore = before.documentElement();
-    const ConstXmlNode rootAfter = after.documentElement();
-    checkImage(rootBefore, rootAfter);
-    Patching(rootBefore, rootAfter, oldFile, newFile, reporter).write();
+    checkImage(save.before.documentElement(), save.after.documentElement());
+    Patching(save, oldFile, newFile, reporter).write();
 }
 
 } // namespace ovisto

@@ -91,7 +91,7 @@ void NewVersion::rebuild(XmlDocument& document)
 void NewVersion::patch(const DocumentSave& save)
 {
     ErrorTrap trap;
-    trap.run([&] { patchJpeg(save.before, save.after, m_oldFile, m_newFile, m_reporter); });
+    trap.run([&] { patchJpeg(save, m_oldFile, m_newFile, m_reporter); });
     const bool isOfDisk = trap.pending() && isOfSystem(trap.error());
     reportPending(m_reporter, isOfDisk ? Phrase(Message::WriteFailed, m_temporaryName) : Phrase(m_target), trap);
     trap.raise();
@@ -100,7 +100,8 @@ void NewVersion::patch(const DocumentSave& save)
 void NewVersion::compare(const DocumentSave& save)
 {
     const InputFile newFile(m_temporaryName);
-    m_receipt = compareVersions(m_oldFile, newFile, m_temporaryName, save.before, save.after, save.read);
+    m_receipt = compareVersions(m_oldFile, newFile, m_temporaryName, save.before, save.after, save.read,
+                                save.clearance.afterPicture ? ImageEnd::Marker : ImageEnd::File);
     if (save.way == WritingWay::Keep && !m_receipt.losses.empty())
         throw Error{kInvalidCall, m_receipt.losses.front()};
 }

@@ -5,6 +5,7 @@
 #include "document/NodePath.h"
 #include "document/Reading.h"
 #include "jpeg/Markers.h"
+#include "jpeg/ScanData.h"
 #include "writer/DocumentChanges.h"
 #include "writer/ExifContent.h"
 #include "writer/FileSegments.h"
@@ -15,6 +16,7 @@
 #include <array>
 #include <cstdint>
 #include <iterator>
+#include <span>
 #include <string_view>
 
 namespace ovisto {
@@ -39,8 +41,9 @@ struct ExpectedEntry {
 
 class Receipt {
 public:
-    Receipt(const InputFile& oldFile, const InputFile& newFile, const XmlDocument& before, const XmlDocument& after)
-        : m_oldFile(oldFile), m_newFile(newFile), m_before(segmentElements(before.documentElement())),
+    Receipt(const InputFile& oldFile, const InputFile& newFile, const XmlDocument& before, const XmlDocument& after,
+            ImageEnd end)
+        : m_oldFile(oldFile), m_newFile(newFile), m_end(end), m_before(segmentElements(before.documentElement())),
           m_after(segmentElements(after.documentElement())), m_oldSegments(segmentsOf(oldFile)),
           m_newSegments(segmentsOf(newFile))
     {
@@ -239,18 +242,30 @@ private:
         return !isEmpty && std::equal(first, end, newBlock.bytes().begin() + range->first);
     }
 
+    /// Where in the old file ends what had to be kept.
+    std::int64_t endOfKept()
+    {
+        if (m_end == ImageEnd::File)
+            return m_oldFile.size();
+        const auto end = scanData(m_oldFile, m_oldSegments.back().end()).end;
+        m_receipt.changed += end && *end < m_oldFile.size() ? 1 : 0;
+        return end.value_or(m_oldFile.size());
+    }
+
     /// From the end of the scan header on.
     void compareImage()
     {
         const std::int64_t oldStart = m_oldSegments.back().end().value - 1;
         const std::int64_t newStart = m_newSegments.back().end().value - 1;
-        const std::int64_t size = m_oldFile.size() - oldStart;
+        const std::int64_t size = endOfKept() - oldStart;
         bool isSame = size == m_newFile.size() - newStart;
         constexpr std::int64_t kStretch = std::int64_t{64} * 1024;
         Bytes oldBytes(kStretch);
         Bytes newBytes(kStretch);
         for (std::int64_t done = 0; isSame && done < size; done += kStretch) {
-            const std::size_t oldCount = m_oldFile.readAt(oldStart + done, oldBytes);
+            const std::span oldStretch =
+                std::span(oldBytes).first(static_cast<std::size_t>(std::min(kStretch, size - done)));
+            const std::size_t oldCount = m_oldFile.readAt(oldStart + done, oldStretch);
             const std::size_t newCount = m_newFile.readAt(newStart + done, newBytes);
             isSame = oldCount == newCount &&
                      std::equal(oldBytes.begin(), oldBytes.begin() + static_cast<std::ptrdiff_t>(oldCount),
@@ -266,12 +281,14 @@ private:
         constexpr std::int64_t kTrailerSize = 12;
         std::array<std::uint8_t, 3> mark{};
         m_oldFile.readAt(m_oldFile.size() - kTrailerSize, mark);
-        if (mark == std::array<std::uint8_t, 3>{'A', 'X', 'S'} && m_oldFile.size() != m_newFile.size())
+        const bool isThere = m_end == ImageEnd::File;
+        if (isThere && mark == std::array<std::uint8_t, 3>{'A', 'X', 'S'} && m_oldFile.size() != m_newFile.size())
             m_receipt.notes.emplace_back(Message::TrailerPositions);
     }
 
     const InputFile& m_oldFile;
     const InputFile& m_newFile;
+    ImageEnd m_end;
     std::vector<ConstXmlNode> m_before;
     std::vector<ConstXmlNode> m_after;
     std::vector<ConstXmlNode> m_found;
@@ -345,12 +362,13 @@ XmlDocument readBack(const std::string& newPath, const DocumentReader& read)
 }
 
 SaveReceipt compareVersions(const InputFile& oldFile, const InputFile& newFile, const std::string& newPath,
-                            const XmlDocument& before, const XmlDocument& after, const DocumentReader& read)
+                            const XmlDocument& before, const XmlDocument& after, const DocumentReader& read,
+                            ImageEnd end)
 {
     const XmlDocument found = readBack(newPath, read);
     SaveReceipt receipt;
     ErrorTrap trap; // what cannot be compared may be lost
-    trap.run([&] { receipt = Receipt(oldFile, newFile, before, after).compare(found); });
+    trap.run([&] { receipt = Receipt(oldFile, newFile, before, after, end).compare(found); });
     if (trap.pending() && isOfSystem(trap.error()))
         trap.raise();
     if (trap.pending())

@@ -40,15 +40,22 @@ Phrase summary(const SaveReceipt& receipt);
 /// What was lost, the first loss standing for all, and where the original is.
 Phrase lossSummary(const SaveReceipt& receipt);
 
+/// How much of a file after the scan header a save had to keep.
+enum class ImageEnd {
+    File,   ///< all of it
+    Marker, ///< up to and with the end-of-image marker
+};
+
 /// The document of a new version at `newPath`. Raises an error that says so if it cannot be read: nobody could read it
 /// later.
 XmlDocument readBack(const std::string& newPath, const DocumentReader& read);
 
 /// Holds two versions of a file against each other: `newFile`, at `newPath`, has to say what `after` says, and all that
 /// `before`, the document of `oldFile`, says just so has to be the same, whether a document shows it or not: each entry
-/// of each directory, the maker note and its place, all other segments, every byte from the scan on. Raises what
-/// readBack() raises.
+/// of each directory, the maker note and its place, all other segments, every byte from the scan on, as far as `end`
+/// says. Raises what readBack() raises.
 SaveReceipt compareVersions(const InputFile& oldFile, const InputFile& newFile, const std::string& newPath,
-                            const XmlDocument& before, const XmlDocument& after, const DocumentReader& read);
+                            const XmlDocument& before, const XmlDocument& after, const DocumentReader& read,
+                            ImageEnd end = ImageEnd::File);
 
 } // namespace ovisto

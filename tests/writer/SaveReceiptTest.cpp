@@ -23,7 +23,7 @@ struct Versions {
         after.selectSingleNode(kTitlePath).setText("Another title");
         RecordingReporter reporter;
         OutputFile newFile(newPath);
-        patchJpeg(before, after, InputFile(oldPath), newFile, reporter);
+        patchJpeg({WritingWay::Keep, before, after, {}}, InputFile(oldPath), newFile, reporter);
         newFile.sync();
     }
 

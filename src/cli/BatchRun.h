@@ -1,0 +1,23 @@
+#pragma once
+
+#include "cli/CommandOutput.h"
+#include "cli/Options.h"
+#include "collection/BatchAction.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace ovisto {
+
+/// How a batch does what the options say, in up to `jobs` stretches at a time.
+BatchOptions batchOptions(const WritingOptions& writing, unsigned jobs);
+
+/// Runs `batch` over `files`, its own, up to `jobs` stretches of them at a time, and writes what became of them.
+/// A file that was saved has failed where `isDone`, if any, denies it; it is called from several threads at the same
+/// time.
+void runBatch(const BatchAction& batch, const std::vector<std::string>& files, unsigned jobs,
+              const WritingOptions& writing, CommandOutput& output,
+              const std::function<bool(const SaveReceipt&)>& isDone = {});
+
+} // namespace ovisto
