@@ -139,6 +139,8 @@ Bytes ExifBytes::payload()
         add("IFD0", longs(0x8769, {0}));
     if (m_directories.contains("Interoperability"))
         add("Exif", longs(0xA005, {0}));
+    if (m_directories.contains("Gps"))
+        add("IFD0", longs(0x8825, {0}));
     if (noteSize > 0)
         add("Exif", {0x927C, 7, noteSize, Bytes(5)}); // five bytes: its field holds an offset
     if (!m_thumbnail.empty()) {
@@ -147,7 +149,8 @@ Bytes ExifBytes::payload()
     }
     const std::uint32_t exifStart = kTiffHeader + directorySize("IFD0");
     const std::uint32_t interoperabilityStart = exifStart + directorySize("Exif");
-    const std::uint32_t noteStart = interoperabilityStart + directorySize("Interoperability");
+    const std::uint32_t gpsStart = interoperabilityStart + directorySize("Interoperability");
+    const std::uint32_t noteStart = gpsStart + directorySize("Gps");
     const std::uint32_t ifd1Start = noteStart + noteSize;
     const std::uint32_t thumbnailStart = ifd1Start + directorySize("IFD1");
     for (auto& [name, tags] : m_directories) {
@@ -156,6 +159,8 @@ Bytes ExifBytes::payload()
                 tag.value = number(exifStart, 4);
             else if (tag.number == 0xA005)
                 tag.value = number(interoperabilityStart, 4);
+            else if (tag.number == 0x8825)
+                tag.value = number(gpsStart, 4);
             else if (tag.number == 0x0201 && name == "IFD1" && !m_thumbnail.empty())
                 tag.value = number(thumbnailStart, 4);
         }
@@ -169,8 +174,8 @@ Bytes ExifBytes::payload()
     const bool hasSecond = m_directories.contains("IFD1");
     return bytes("Exif") + Bytes{0, 0} + bytes(m_littleEndian ? "II" : "MM") + number(42, 2) + number(kTiffHeader, 4) +
            directoryBytes("IFD0", kTiffHeader, hasSecond ? ifd1Start : 0) + exif +
-           directoryBytes("Interoperability", interoperabilityStart, 0) + m_makerNote +
-           directoryBytes("IFD1", ifd1Start, 0) + m_thumbnail;
+           directoryBytes("Interoperability", interoperabilityStart, 0) + directoryBytes("Gps", gpsStart, 0) +
+           m_makerNote + directoryBytes("IFD1", ifd1Start, 0) + m_thumbnail;
 }
 
 JpegBytes::JpegBytes() : m_bytes({0xFF, 0xD8}) {}

@@ -37,6 +37,7 @@ public:
     ExifBytes& ifd0(const std::vector<Tag>& tags) { return directory("IFD0", tags); }
     ExifBytes& exif(const std::vector<Tag>& tags) { return directory("Exif", tags); }
     ExifBytes& interoperability(const std::vector<Tag>& tags) { return directory("Interoperability", tags); }
+    ExifBytes& gps(const std::vector<Tag>& tags) { return directory("Gps", tags); }
     ExifBytes& ifd1(const std::vector<Tag>& tags) { return directory("IFD1", tags); }
     ExifBytes& makerNote(const Bytes& note);
     ExifBytes& thumbnail(const Bytes& image);
