@@ -5,6 +5,7 @@
 #include "ui/App/SystemDialogs.h"
 #include "ui/ControlForm/PictureBox.h"
 #include "ui/NodeAddForm/NodeAddForm.h"
+#include "ui/PrivateForm/PrivateForm.h"
 
 #include <QDir>
 #include <QDropEvent>
@@ -64,6 +65,61 @@ class ControlFormTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void deletesWhatTells()
+    {
+        Window window;
+        const std::string path = window.copy("night.jpg");
+        const std::string picture = imageData(path);
+        writeTextFile(path, readTextFile(path) + "0000ftypmp42");
+        window.open({path});
+        const auto labels = [](PrivateForm& form) {
+            QStringList texts;
+            const auto& list = controlOf<QTreeWidget>(form, "FindingList");
+            for (int i = 0; i < list.topLevelItemCount(); ++i)
+                texts << list.topLevelItem(i)->text(0).section(u" – "_s, 1).section(u':', 0, 0);
+            return texts;
+        };
+        const QStringList all{u"Image Description"_s,  u"Artist"_s,  u"Copyright"_s, u"User Comment"_s,
+                              u"Body Serial Number"_s, u"Comment"_s, u"A film"_s};
+        const auto closeWith = [](PrivateForm& form, Qt::Key key) { QTest::keyClick(&form, key); };
+        whenOpen<PrivateForm>([&](PrivateForm& form) {
+            QCOMPARE(labels(form), all);
+            QVERIFY(!controlOf<QPushButton>(form, "FindingDeleter").isEnabled());
+            closeWith(form, Qt::Key_Return);
+        });
+        window.trigger("menuPrivate");
+        QVERIFY(!window.isChanged());
+        whenOpen<PrivateForm>([&](PrivateForm& form) {
+            auto& list = controlOf<QTreeWidget>(form, "FindingList");
+            for (const int row : {1, 6})
+                list.topLevelItem(row)->setCheckState(0, Qt::Checked);
+            QTest::mouseClick(&controlOf<QPushButton>(form, "FindingDeleter"), Qt::LeftButton);
+        });
+        window.trigger("menuPrivate");
+        QVERIFY(window.isChanged() && !window.item("/JPEG/Exif[@id='FFE1']/IFD[@id='013B']"));
+        const QStringList left{all[0], all[2], all[3], all[4], all[5]};
+        whenOpen<PrivateForm>([&](PrivateForm& form) {
+            QCOMPARE(labels(form), left);
+            closeWith(form, Qt::Key_Escape);
+        });
+        window.trigger("menuPrivate"); // what is not saved yet is not offered again
+        window.trigger("menuFileSave");
+        QCOMPARE(imageData(path), picture);
+        QVERIFY(!inFile(path, "/JPEG/Exif[@id='FFE1']/IFD[@id='013B']"));
+        whenOpen<PrivateForm>([&](PrivateForm& form) {
+            QCOMPARE(labels(form), left);
+            QTest::mouseClick(&controlOf<QPushButton>(form, "AllSelector"), Qt::LeftButton);
+            QTest::mouseClick(&controlOf<QPushButton>(form, "FindingDeleter"), Qt::LeftButton);
+        });
+        window.trigger("menuPrivate");
+        window.trigger("menuPrivate");
+        QCOMPARE(window.dialogs.taken(), QStringList(u"Nothing was found that identifies a person or a place."_s));
+        window.trigger("menuReadEverything");
+        window.trigger("menuFileReset");
+        window.trigger("menuPrivate");
+        QVERIFY(window.dialogs.taken().value(0).startsWith(u"Everything has to be read first."_s));
+    }
+
     void showsAFile()
     {
         Window window{"little-endian.jpg"};

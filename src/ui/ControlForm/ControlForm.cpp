@@ -113,6 +113,7 @@ void ControlForm::connectMenus()
         m_boxes.moveFocusTo(*ui.FileReset);
         m_editor.reset();
     });
+    connect(ui.menuPrivate, &QAction::triggered, &m_editor, &Editor::showPrivate);
     connect(ui.menuGenerate, &QAction::triggered, &m_actions, &ListActions::generateReport);
     connect(ui.menuFileExit, &QAction::triggered, this, &ControlForm::close);
     connect(ui.menuImageOpen, &QAction::triggered, this, [this] { m_editor.runVerb(Verb::Open); });

@@ -2,6 +2,7 @@
 
 #include "common/text/PathText.h"
 #include "ui/App/Text.h"
+#include "ui/PrivateForm/PrivateForm.h"
 
 #include <QScopedValueRollback>
 
@@ -147,6 +148,28 @@ void Editor::runVerb(Verb verb)
         ShellVerb(m_parts.surroundings.desktop, m_file.path(), m_parts.window, verb);
 }
 
+void Editor::showPrivate()
+{
+    m_parts.boxes.leaveFocused();
+    if (!m_file.isOpen())
+        return;
+    Dialogs& dialogs = m_parts.surroundings.dialogs;
+    if (readingOf(m_file.document().node()) == Reading::Basic) {
+        dialogs.show(tr("Everything has to be read first. Switch on \"Keep Untouched Data?\" and\r\n"
+                        "\"Read Everything?\" in the Options menu, and open the file again."));
+        return;
+    }
+    std::optional<PrivateList> list;
+    if (!attempt(m_parts.reporter, m_file.path(), [&] { list.emplace(m_file, m_parts.Merovel); }))
+        return;
+    if (list->findings().empty())
+        return dialogs.show(toQString(Message::TellsNothing) + u'.');
+    if (PrivateForm(*list, &m_parts.window).exec() != QDialog::Accepted)
+        return;
+    RebuildTree();
+    showPicture();
+}
+
 bool Editor::wantsToSave(const std::string& path)
 {
     return m_parts.surroundings.dialogs.ask(tr("Save Changes to file %1?").arg(pathText(path)));
@@ -242,8 +265,8 @@ void Editor::enableEditing(bool enabled)
                                  ui.NodeText,       ui.NodeHelp,    ui.ViewHexOpt,   ui.NodeAdder};
     for (QWidget* control : controls)
         control->setEnabled(enabled);
-    QAction* const items[] = {ui.menuFileSave, ui.menuFileSaveXML, ui.menuFileReset, ui.menuImageOpen,
-                              ui.menuImageProps};
+    QAction* const items[] = {ui.menuFileSave, ui.menuFileSaveXML, ui.menuFileReset,
+                              ui.menuPrivate,  ui.menuImageOpen,   ui.menuImageProps};
     for (QAction* item : items)
         item->setEnabled(enabled);
 }

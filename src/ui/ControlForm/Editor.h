@@ -51,6 +51,8 @@ public:
     /// The same for a file whose changes were given up.
     void openAgain();
     void runVerb(Verb verb);
+    /// Shows what it tells of people and places, and deletes of that what the user selects.
+    void showPrivate();
 
 private:
     bool wantsToSave(const std::string& path) override;

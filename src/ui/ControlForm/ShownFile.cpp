@@ -1,6 +1,5 @@
 #include "ui/ControlForm/ShownFile.h"
 
-#include "collection/DocumentSaving.h"
 #include "collection/XmlExport.h"
 #include "common/KeptReports.h"
 #include "common/xml/XmlLoad.h"
@@ -18,6 +17,7 @@ void ShownFile::open(const std::string& path, const KeepOptions& keep, WritingWa
     CurrentFileName = path;
     m_way = way;
     m_asRead = {};
+    m_clearance = {};
     clearChanged();
     Translation translation;
     ErrorTrap opening;
@@ -88,6 +88,37 @@ std::string ShownFile::deleteNode(const XmlNode& node)
     return companion.name() == "IFD" ? std::string() : AttributeGet(companion, "leafIndex");
 }
 
+bool ShownFile::tells(const PrivateFinding& finding)
+{
+    switch (finding.removal) {
+    case Removal::Node:
+        return static_cast<bool>(nodeIn(JpegDoc, finding));
+    case Removal::Value: {
+        const XmlNode node = nodeIn(JpegDoc, finding);
+        return node && node.text() != finding.value;
+    }
+    case Removal::Leftovers:
+        return !m_clearance.leftovers;
+    case Removal::Trailer:
+        return !m_clearance.afterPicture;
+    default:
+        return true;
+    }
+}
+
+void ShownFile::remove(const PrivateFinding& finding)
+{
+    PrivateFinding shown = finding;
+    shown.node = nodeIn(JpegDoc, finding);
+    RemovalResult result{.clearance = m_clearance};
+    ErrorTrap trap;
+    trap.run([&] { removeFinding(JpegDoc, shown, m_reporter, result); });
+    m_clearance = result.clearance;
+    removeLeafKeys(JpegDoc);
+    if (result.changed || m_clearance)
+        MarkChanged();
+}
+
 void ShownFile::MarkChanged()
 {
     ChangesMade = true;
@@ -114,7 +145,8 @@ ShownFile::SaveResult ShownFile::OfferSave(bool ask)
 ShownFile::SaveResult ShownFile::SaveDocument()
 {
     KeptReports reports;
-    const auto error = errorOfSave([&] { return saveDocument(JpegDoc, m_asRead, CurrentFileName, {m_way}, reports); });
+    const auto error =
+        errorOfSave([&] { return saveDocument(JpegDoc, m_asRead, CurrentFileName, savingWay(), reports); });
     if (error && isFileWasChanged(*error))
         return settleOtherChange();
     reports.passTo(m_reporter);
@@ -125,8 +157,9 @@ ShownFile::SaveResult ShownFile::settleOtherChange()
 {
     switch (m_window.askAboutOtherChange(CurrentFileName)) {
     case OtherChange::SaveOver:
-        return errorOfSave([&] { return saveOver(JpegDoc, CurrentFileName, {m_way}, m_reporter); }) ? SaveResult::Failed
-                                                                                                    : SaveResult::Saved;
+        return errorOfSave([&] { return saveOver(JpegDoc, CurrentFileName, savingWay(), m_reporter); })
+                   ? SaveResult::Failed
+                   : SaveResult::Saved;
     case OtherChange::ReadAgain:
         clearChanged();
         return SaveResult::GivenUp;

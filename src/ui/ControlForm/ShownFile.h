@@ -1,5 +1,7 @@
 #pragma once
 
+#include "collection/DocumentSaving.h"
+#include "collection/PrivateData.h"
 #include "common/ErrorReport.h"
 #include "common/xml/XmlDocument.h"
 #include "document/NodeChange.h"
@@ -91,6 +93,11 @@ public:
     /// Removes the node with its companion. Returns the key of the companion whose item must be removed too; empty if
     /// there is none. The item of an entry that pointed to a directory stays.
     std::string deleteNode(const XmlNode& node);
+    /// Whether the file as it would be saved still tells of a finding, which is of the file as it is.
+    bool tells(const PrivateFinding& finding);
+    /// Removes a finding, of the file as it is, from the document. What no document shows goes with the next save. All
+    /// keys are removed, so that the tree must be loaded again.
+    void remove(const PrivateFinding& finding);
     /// Marks the file as changed.
     void MarkChanged();
     /// Marks it as unchanged; the document stays as it is.
@@ -110,6 +117,7 @@ public:
 private:
     ChangeResult apply(const NodeChange& change);
     SaveResult settleOtherChange();
+    SavingWay savingWay() const { return {.writing = m_way, .isSpared = {}, .clearance = m_clearance}; }
     std::optional<Error> errorOfSave(const std::function<SaveReceipt()>& save);
 
     const TagDictionary& m_merovel;
@@ -119,6 +127,7 @@ private:
     std::string CurrentFileName;
     WritingWay m_way = WritingWay::Keep;
     FileIdentity m_asRead;    ///< the file that JpegDoc was read from
+    Clearance m_clearance;    ///< what the next save takes away beside
     bool ChangesMade = false; ///< JpegDoc differs from the file
     OsProperties m_osProperties;
 };
