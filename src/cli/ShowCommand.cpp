@@ -44,13 +44,10 @@ int runShow(const ShowOptions& options)
     const std::vector<std::string> files = fileNames(options.files);
     const TagDictionary dictionary = loadDictionary(options.files);
     return runEach(files, options.files.jobs, [&](const std::string& path, FileResult& result, ErrorReporter&) {
-        result.output = oneLine(path) + "\n";
-        if (options.onlyPrivate) {
-            result.output += privateText(path, dictionary);
-            return;
-        }
-        const XmlDocument document = loadDocument(path, {.reading = options.reading});
-        result.output += propertyText(document, dictionary, options.technical);
+        const std::string text = options.onlyPrivate ? privateText(path, dictionary)
+                                                     : propertyText(loadDocument(path, {.reading = options.reading}),
+                                                                    dictionary, options.technical);
+        result.output = oneLine(path) + "\n" + text;
     });
 }
 
