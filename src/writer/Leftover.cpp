@@ -73,9 +73,13 @@ bool haveSame(const InputFile& one, std::int64_t onePlace, const InputFile& othe
 
 bool isIncomplete(const InputFile& file, const InputFile& photograph)
 {
+    if (file.size() < kMarkerSize)
+        return true;
+    if (!hasAt(file, 0, kStart)) // no save began it
+        return false;
     const auto start = imageStart(file);
     if (!start) // what begins and ends as a JPEG file does may be one, though this program cannot read it
-        return !hasAt(file, 0, kStart) || !endsWithEnd(file);
+        return !endsWithEnd(file);
     if (endsWithEnd(file))
         return false;
     if (!hasEnd(file, *start))

@@ -56,7 +56,7 @@ struct Way {
     bool findsLeftover = false; ///< whether an incomplete new version is there before
 };
 
-const Bytes kLeftover = bytes("left by an earlier save");
+const Bytes kLeftover = Bytes{0xFF, 0xD8} + bytes("left by an earlier save");
 
 void saveChanged(const std::string& path, WritingWay way, ErrorReporter& reporter)
 {
@@ -409,7 +409,8 @@ TEST(Saving, DeletesOnlyWhatIsKnownToBeALeftover)
         bool isLeftover;
     } cases[] = {
         {"nothing", photograph, {}, true},
-        {"no JPEG file", photograph, bytes("left over"), true},
+        {"no JPEG file", photograph, bytes("\x89PNG"), false},
+        {"the first byte", photograph, {0xFF}, true},
         {"cut before the image", photograph, cut(photograph, 10), true},
         {"cut in the image", photograph, cut(photograph, photograph.size() - 10), true},
         {"cut after the image", photograph + trailer, cut(photograph + trailer, photograph.size() + 10), true},
