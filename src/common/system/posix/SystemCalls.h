@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <type_traits>
 
 #include <sys/types.h>
 
@@ -55,7 +56,8 @@ template <class Call> auto uninterrupted(Call call)
 }
 
 /// Makes one of the calls in force, and repeats it if a signal interrupts it: systemCall(&SystemCalls::fsync, file).
-template <class Call, class... Arguments> auto systemCall(Call SystemCalls::*call, Arguments... arguments)
+template <class Result, class... Parameters>
+Result systemCall(Result (*SystemCalls::*call)(Parameters...), std::type_identity_t<Parameters>... arguments)
 {
     return uninterrupted([&] { return (systemCalls().*call)(arguments...); });
 }
