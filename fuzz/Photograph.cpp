@@ -33,8 +33,8 @@ class ScratchFolder {
 public:
     ScratchFolder()
     {
-        m_path = (fs::is_directory("/dev/shm") ? fs::path("/dev/shm") : fs::temp_directory_path()) /
-                 "ovisto-fuzz-XXXXXX";
+        m_path =
+            (fs::is_directory("/dev/shm") ? fs::path("/dev/shm") : fs::temp_directory_path()) / "ovisto-fuzz-XXXXXX";
         if (mkdtemp(m_path.data()) == nullptr)
             std::abort();
     }
@@ -100,7 +100,8 @@ std::vector<Bytes> segments(const Bytes& file)
     auto at = std::size_t{2};
     while (at + 4 <= file.size() && file[at + 1] != 0xDA) {
         const std::size_t end = std::min(file.size(), at + 2 + std::size_t{256} * file[at + 2] + file[at + 3]);
-        found.emplace_back(file.begin() + static_cast<std::ptrdiff_t>(at), file.begin() + static_cast<std::ptrdiff_t>(end));
+        found.emplace_back(file.begin() + static_cast<std::ptrdiff_t>(at),
+                           file.begin() + static_cast<std::ptrdiff_t>(end));
         at = end;
     }
     found.emplace_back(file.begin() + static_cast<std::ptrdiff_t>(std::min(at, file.size())), file.end());

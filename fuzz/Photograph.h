@@ -18,10 +18,10 @@ std::string fileWith(std::span<const std::uint8_t> content, const std::string& n
 
 /// What was done to a document before it is saved.
 struct Edit {
-    bool isSavable = true;         ///< whether the document is still worth a save
-    bool isInExif = true;          ///< whether nothing but an Exif element was edited
-    bool changesNothing = false;   ///< whether the document is as it was read
-    std::string path{};            ///< of the node whose text was set; empty for none
+    bool isSavable = true;       ///< whether the document is still worth a save
+    bool isInExif = true;        ///< whether nothing but an Exif element was edited
+    bool changesNothing = false; ///< whether the document is as it was read
+    std::string path{};          ///< of the node whose text was set; empty for none
 };
 
 /// Whether an entry only says where something stands.

@@ -1,3 +1,4 @@
+#include "common/system/Process.h"
 #include "common/system/ProgramFolder.h"
 #include "ui/App/MessageReporter.h"
 #include "ui/App/Settings.h"
@@ -40,6 +41,7 @@ std::vector<std::string> pathsFrom(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    ovisto::outliveFileSizeLimit();
     QApplication application(argc, argv); // takes its own options out of argv
     QApplication::setApplicationName(QStringLiteral("Ovisto"));
     QApplication::setApplicationVersion(QStringLiteral(OVISTO_VERSION));

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <csignal>
 #include <cstdlib>
 
 #include <pwd.h>
@@ -22,6 +23,14 @@ std::size_t openFilesAllowed(std::size_t wanted)
     if (raised.rlim_cur > limit.rlim_cur && setrlimit(RLIMIT_NOFILE, &raised) == 0)
         return raised.rlim_cur;
     return limit.rlim_cur;
+}
+
+void outliveFileSizeLimit()
+{
+    // Not SIG_IGN, which programs started from here would inherit.
+    struct sigaction action = {};
+    action.sa_handler = [](int) {};
+    sigaction(SIGXFSZ, &action, nullptr);
 }
 
 bool isErrorOutputTerminal()
