@@ -1,5 +1,4 @@
-// Writes what the fuzz programs start from: fuzz-seeds FOLDER makes FOLDER/read and so on. The photographs are those of
-// the tests, each with several edits; the texts are the program's own and some that a person could hand to it.
+#include "Seeds.h"
 
 #include "Photograph.h"
 
@@ -99,13 +98,10 @@ void writeTexts(const fs::path& folder)
 
 } // namespace
 
-} // namespace ovisto::fuzz
-
-int main(int argc, char** argv)
+void writeSeeds(const std::string& folder)
 {
-    if (argc != 2)
-        return 2;
-    ovisto::fuzz::writePhotographs(argv[1]);
-    ovisto::fuzz::writeTexts(argv[1]);
-    return 0;
+    writePhotographs(folder);
+    writeTexts(folder);
 }
+
+} // namespace ovisto::fuzz

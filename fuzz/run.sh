@@ -18,10 +18,12 @@ build/fuzz/bin/fuzz-seeds build/fuzz/seeds
 mkdir -p build/fuzz/found build/fuzz/log
 
 fuzz() {
-    mkdir -p "build/fuzz/corpus/$1" "tests/fuzz/$1"
+    local found_before=()
+    [ ! -d "tests/fuzz/$1" ] || found_before=("tests/fuzz/$1")
+    mkdir -p "build/fuzz/corpus/$1"
     build/fuzz/bin/"fuzz-$1" -max_total_time="$seconds" -max_len=16384 -timeout=20 -rss_limit_mb=2048 \
         -print_final_stats=1 -artifact_prefix="build/fuzz/found/$1-" "build/fuzz/corpus/$1" "build/fuzz/seeds/$1" \
-        "tests/fuzz/$1" >"build/fuzz/log/$1" 2>&1
+        "${found_before[@]}" >"build/fuzz/log/$1" 2>&1
 }
 
 status=0

@@ -2,7 +2,7 @@
 
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libxml2-dev libxslt1-dev libpcre2-dev libunistring-dev libjpeg62-turbo-dev
     libcli11-dev libutfcpp-dev libmimalloc-dev qt6-base-dev)
-TEST_PACKAGES=(libgtest-dev libbenchmark-dev libxml2-utils libimage-exiftool-perl)
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev libxml2-utils libimage-exiftool-perl strace python3)
 LINT_PACKAGES=(clang-format clang-tidy)
 FUZZ_PACKAGES=(clang libclang-rt-dev)
 

@@ -17,7 +17,7 @@ def status_faults(save, folder, run):
     wrong = saves.faults_after(save, folder, run.returncode, run.errors)
     if run.returncode != 0 and "Disk full" not in run.errors:
         wrong.append("the message does not say that the disk is full")
-    return [f"{sentence} [status {run.returncode}: {run.errors.strip()[:200]!r}]" for sentence in wrong]
+    return [(sentence, f"{run.returncode}: {run.errors}") for sentence in wrong]
 
 
 def limited(save, program):
@@ -28,8 +28,9 @@ def limited(save, program):
             save.prepare(folder)
             run = saves.execute([program, *save.arguments], folder,
                                 preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (limit, limit)))
-            wrong = status_faults(save, folder, run) + saves.faults_after_second(save, program, folder)
-            yield [f"{save.name}, files of {limit} bytes at most: {sentence}" for sentence in wrong]
+            wrong = status_faults(save, folder, run)
+            wrong += [(sentence, "") for sentence in saves.faults_after_second(save, program, folder)]
+            yield [(f"{save.name}, files of {limit} bytes at most", *fault) for fault in wrong]
 
 
 def filled(save, program, disk):
@@ -43,8 +44,8 @@ def filled(save, program, disk):
             run = saves.execute([program, *save.arguments], folder)
             wrong = status_faults(save, folder, run)
             os.unlink(filler)
-            wrong += saves.faults_after_second(save, program, folder)
-            yield [f"{save.name}, {blocks} blocks free: {sentence}" for sentence in wrong]
+            wrong += [(sentence, "") for sentence in saves.faults_after_second(save, program, folder)]
+            yield [(f"{save.name}, {blocks} blocks free", *fault) for fault in wrong]
 
 
 def fill(path, disk, blocks):
@@ -77,9 +78,9 @@ def main():
         if not disk:
             print("Without a small disk, which may not be mounted here")
         for save in saves.all_saves(program):
-            for sentences in [*limited(save, program), *(filled(save, program, disk) if disk else [])]:
+            for faults in [*limited(save, program), *(filled(save, program, disk) if disk else [])]:
                 rounds += 1
-                wrong += sentences
+                wrong += faults
     saves.finish("Full disk", rounds, wrong)
 
 

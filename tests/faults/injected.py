@@ -27,8 +27,7 @@ ERRORS = {
     "readlink": "EIO EACCES ENOMEM", "access": "EIO EACCES", "faccessat2": "EIO EACCES", "close": "EIO",
     "getdents64": "EIO", "mmap": "ENOMEM", "brk": "ENOMEM", "mprotect": "ENOMEM", "clone3": "EAGAIN",
 }
-# What the disk does once, it may do from then on.
-LASTING = {"ENOSPC", "EDQUOT", "EMFILE", "ENOMEM", "EROFS", "ENOLCK"}
+PASSING = {"EINTR", "EAGAIN"}  # all others may also go on once they have begun
 CALL = re.compile(r"^(\d+) +(?:<\.\.\. )?(\w+)")
 
 
@@ -91,8 +90,8 @@ def plan(save, program):
         if call == "pread64":
             modes.append("retval=0")  # the file has become shorter
         for mode in modes:
-            lasting = mode.removeprefix("error=") in LASTING
-            whens = [f"{when}{more}" for more in ([""] + (["+"] if lasting else [])) for when in range(first, last + 1)]
+            lasting = mode.startswith("error=") and mode.removeprefix("error=") not in PASSING
+            whens = [f"{when}{more}" for more in ["", *(["+"] if lasting else [])] for when in range(first, last + 1)]
             kinds.append([f"inject={call}:{mode}:when={when}" for when in spread(whens)])
     return [fault for group in itertools.zip_longest(*kinds) for fault in group if fault]
 
@@ -154,7 +153,8 @@ def round_of(save, program, fault):
             return 0, []
         if "flock:error=EAGAIN" in fault:  # no other save is there, which would delete the file
             remove_new(save, folder)
-        wrong = saves.faults_after(save, folder, run.returncode, run.errors, killed)
+        mute = re.search(r"write\(2<.*INJECTED", text) is not None
+        wrong = saves.faults_after(save, folder, run.returncode, run.errors, killed, mute)
         if run.returncode == 0:
             wrong += unsynced(save, log, folder)
         for name, content in saves.contents(folder).items():
@@ -162,10 +162,9 @@ def round_of(save, program, fault):
             if name in save.files and mode != 0o640 and "inject=fch" not in fault:
                 wrong.append(f"{name} has the permissions {mode:o}")
         wrong += saves.faults_after_second(save, program, folder)
-        hits = [line.split(" ", 1)[1] for line in text.splitlines() if "(INJECTED)" in line][:1]
-        about = f"{save.name}: {fault} {hits}: "
-        said = f" [status {run.returncode}: {run.errors.strip()[:200]!r}]"
-        return injected, [about + sentence + said for sentence in wrong]
+        hits = [line.split(" ", 1)[1] for line in text.splitlines() if "(INJECTED)" in line]
+        where = f"{save.name}, {fault} {hits[:1]}"
+        return injected, [(where, sentence, f"{run.returncode}: {run.errors}") for sentence in wrong]
 
 
 def remove_new(save, folder):

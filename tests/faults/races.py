@@ -3,7 +3,6 @@
 strace stops each save after each of its system calls in turn, another program has its way with the file, and the save
 goes on. OVISTO_FAULTS says how many rounds there are to be at least (default 1000, or as many as there are)."""
 
-import collections
 import concurrent.futures
 import functools
 import itertools
@@ -161,15 +160,15 @@ class Round:
         if self.was_replaced:  # the save was over
             return "" if found == self.version else "destroyed after the save"
         if self.version == self.before:  # the other one refused
-            return "" if found == saved and self.status == 0 else f"status {self.status}: {self.errors.strip()!r}"
+            return "" if found == saved and self.status == 0 else "not saved, although the other one refused"
         if found == self.version and self.status != 0 and "a.jpg" in self.errors:
             left = self.files.keys() - {"a.jpg", "edited.xml"}
             return f"{sorted(left)} left over" if left else ""
         if found is not None and found == made_from(self.way, self.version, self.document) and self.status == 0:
             return ""  # the save was made from the other's version
         if found == self.version:
-            return f"status {self.status}, but the file is the other's: {self.errors.strip()!r}"
-        return "silently overwritten" if found == saved else f"destroyed, status {self.status}"
+            return "called a success, although the file is the other's"
+        return "silently overwritten" if found == saved else "destroyed"
 
 
 @functools.lru_cache(None)
@@ -192,18 +191,15 @@ def main():
 
     with concurrent.futures.ThreadPoolExecutor(max(2, os.cpu_count() or 1)) as pool:
         done = [disturbed for disturbed in pool.map(Round.run, todo) if disturbed.was_stopped]
-    wrong, unseen, kinds = [], 0, collections.Counter()
+    wrong, unseen = [], 0
     for disturbed in done:
         fault = disturbed.fault()
         if fault and disturbed.place in blind[disturbed.way]:
             unseen += 1
         elif fault:
-            kinds[fault.split(",")[0]] += 1
-            wrong.append(f"{disturbed.way}, after {' '.join(map(str, disturbed.place))} another program "
-                         f"{disturbed.action}: {fault}")
+            where = f"{disturbed.way}, after {' '.join(map(str, disturbed.place))} another program {disturbed.action}"
+            wrong.append((where, fault, f"{disturbed.status}: {disturbed.errors}"))
     print(f"{unseen} changes between the last look at the old file and its replacement, which nobody can see")
-    for kind, count in kinds.most_common(8):
-        print(f"{count} x {kind}")
     saves.finish("Races", len(done), wrong)
 
 
