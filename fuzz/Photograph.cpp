@@ -150,7 +150,7 @@ std::string bytesFault(const Bytes& before, const Bytes& after, const Edit& edit
 
 std::string fileWith(std::span<const std::uint8_t> content, const std::string& name)
 {
-    const std::string path = scratchFolder() + "/" + name;
+    std::string path = scratchFolder() + "/" + name;
     for (const std::string& other : namesIn(scratchFolder()))
         fs::remove(scratchFolder() + "/" + other);
     std::ofstream(path, std::ios::binary)
@@ -178,7 +178,7 @@ std::string saveFault(XmlDocument& document, const Edit& edit, const std::string
     const Bytes after = test::contentOf(path);
     if (trap.pending())
         return before == after ? "" : "a refused save changed the file";
-    if (const std::string fault = bytesFault(before, after, edit, way); !fault.empty())
+    if (std::string fault = bytesFault(before, after, edit, way); !fault.empty())
         return fault;
 
     XmlDocument found;

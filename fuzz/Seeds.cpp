@@ -17,7 +17,6 @@ namespace fs = std::filesystem;
 using test::bytes;
 using test::ExifBytes;
 using test::JpegBytes;
-using test::operator+;
 
 void write(const fs::path& path, const Bytes& content)
 {
@@ -31,9 +30,9 @@ Bytes allTypes(bool littleEndian)
     ExifBytes exif(littleEndian);
     exif.ifd0({exif.ascii(0x010E, ""), exif.ascii(0x010F, "abc"), exif.shorts(0x0102, {8, 8, 8}),
                exif.longs(0x8825, {26}), exif.longs(0x014A, {26}), exif.rationals(0x011A, {0, 0})})
-        .exif({ExifBytes::raw(0x9286, 7, bytes("ASCII") + Bytes{0, 0, 0} + bytes("a comment")),
-               exif.longs(0x9201, {1, 2}, 9), exif.rationals(0x9204, {0xFFFFFFFF, 3}, 10),
-               exif.shorts(0x9207, {1, 0xFFFF}, 8), ExifBytes::raw(0xA301, 6, {0x80}), exif.longs(0xC000, {1}, 11),
+        .exif({ExifBytes::raw(0x9286, 7, bytes({"ASCII\0\0\0a comment", 17})), exif.longs(0x9201, {1, 2}, 9),
+               exif.rationals(0x9204, {0xFFFFFFFF, 3}, 10), exif.shorts(0x9207, {1, 0xFFFF}, 8),
+               ExifBytes::raw(0xA301, 6, {0x80}), exif.longs(0xC000, {1}, 11),
                ExifBytes::raw(0xC001, 12, Bytes(8, 0x3F)), ExifBytes::raw(0xC002, 99, {1})})
         .ifd1({exif.longs(0x0111, {26}), exif.longs(0x0117, {5})});
     return JpegBytes()
@@ -58,7 +57,8 @@ void writePhotographs(const fs::path& folder)
         write(folder / "read" / name, photograph);
         for (std::uint8_t kind = 0; kind < 6; ++kind) {
             const auto other = static_cast<std::uint8_t>(number * 3 + kind);
-            const Bytes input = photograph + Bytes{kind, 0, other, other};
+            Bytes input = photograph;
+            input.insert(input.end(), {kind, 0, other, other});
             write(folder / "rebuild" / (name + "-" + std::to_string(kind)), input);
             write(folder / "keep" / (name + "-" + std::to_string(kind)), input);
         }
@@ -67,7 +67,9 @@ void writePhotographs(const fs::path& folder)
 
 void writeText(const fs::path& folder, std::uint8_t kind, const std::string& name, std::string_view text)
 {
-    write(folder / "readText" / name, Bytes{kind} + bytes(text));
+    Bytes input = bytes(text);
+    input.insert(input.begin(), kind);
+    write(folder / "readText" / name, input);
 }
 
 void writeTexts(const fs::path& folder)
