@@ -7,8 +7,10 @@
 #include "collection/FilePattern.h"
 #include "collection/KeywordFile.h"
 #include "common/FirstReport.h"
+#include "common/text/Hex.h"
 #include "common/xml/XmlLoad.h"
 #include "common/xml/XmlTransform.h"
+#include "document/Directories.h"
 #include "document/MetadataDocument.h"
 #include "document/NodeChange.h"
 #include "document/NodePath.h"
@@ -79,12 +81,32 @@ bool isOfPhotograph(const XmlDocument& document)
     return imageParts(document) == imageParts(documentOf(photographsText()));
 }
 
+/// Whether each part of each Exif element is there together with the entry that leads to it. One without the other
+/// counts as deleted.
+bool isWhole(const XmlDocument& document)
+{
+    const auto has = [](const ConstXmlNode& exif, const ExifPart& part, std::uint16_t tag) {
+        const std::vector<ConstXmlNode> entries = partNode(exif, *exifPart(part.pointedFrom)).childElements("IFD");
+        return std::ranges::any_of(
+            entries, [&](const ConstXmlNode& entry) { return AttributeGet(entry, "id") == hexNumber(tag, 4); });
+    };
+    const std::vector<ConstXmlNode> exifs = document.documentElement().childElements(kFirstDirectory);
+    return std::ranges::all_of(exifs, [&](const ConstXmlNode& exif) {
+        return std::ranges::all_of(kExifParts, [&](const ExifPart& part) {
+            const bool isThere = static_cast<bool>(partNode(exif, part));
+            return part.pointer.offset == 0 ||
+                   (has(exif, part, part.pointer.offset) == isThere &&
+                    (part.pointer.length == 0 || has(exif, part, part.pointer.length) == isThere));
+        });
+    });
+}
+
 std::string saveEdited(std::span<const std::uint8_t> input)
 {
     for (const WritingWay way : {WritingWay::Keep, WritingWay::Rebuild}) {
         XmlDocument document;
         if (document.loadFile(fileWith(input, kName), Validation::Off, WhiteSpace::Preserve) ||
-            document.documentElement().name() != "JPEG" || !isOfPhotograph(document))
+            document.documentElement().name() != "JPEG" || !isOfPhotograph(document) || !isWhole(document))
             return {};
         Edit edit;
         edit.isInExif = false; // or anywhere
