@@ -82,28 +82,26 @@ def saved_from(arguments, content, document):
 
 
 def places(arguments, document):
-    """The calls of a save from the first that touches the file, as strace counts them, and the last look at the old
-    file before it is replaced: what happens between that and the replacement, nobody can see."""
+    """The calls of a save from the first that touches the file, as strace counts them; and of these the ones from the
+    last look at the old file to its replacement, between which nobody can see a change."""
     with saves.Folder() as folder, saves.Folder() as logs:
         version_file(folder, OLD)
         version_file(folder, document, "edited.xml")
         log = logs + "/log"
         injected.strace(log, [], [PROGRAM, *arguments], folder)
-        counts, found, touched, last_look = {}, [], False, None
+        counts, found, blind = {}, [], []
         for line in injected.whole_lines(log):
             match = injected.CALL.match(line)
             if not match:
                 continue
             call = match.group(2)
             counts[call] = counts.get(call, 0) + 1
-            touched = touched or f"<{folder}/a.jpg>" in line
-            if touched:
+            isOfOldFile = re.search(r'"a\.jpg"|<[^>]*/a\.jpg>', line) is not None
+            if found or f"<{folder}/a.jpg>" in line:
                 found.append((call, counts[call]))
-            if call.startswith("rename"):
+            if call.startswith("rename") and isOfOldFile:
                 break
-            if re.search(r'"a\.jpg"|/a\.jpg>', line):
-                last_look = found[-1] if found else None
-        blind = found[found.index(last_look):-1] if last_look else []
+            blind = found[-1:] if isOfOldFile and "stat" in call else [*blind, *found[-1:]]
         return found, blind
 
 
