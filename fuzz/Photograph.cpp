@@ -137,7 +137,8 @@ std::string bytesFault(const Bytes& before, const Bytes& after, const Edit& edit
         return "nothing was edited, and bytes differ";
     std::vector<Bytes> old = segments(before);
     std::vector<Bytes> now = segments(after);
-    if (way == WritingWay::Keep ? old.back() != now.back() : test::imageData(before) != test::imageData(after))
+    if (way == WritingWay::Keep && edit.isInExif ? old.back() != now.back()
+                                                 : test::imageData(before) != test::imageData(after))
         return "the image differs";
     if (way == WritingWay::Rebuild || !edit.isInExif)
         return {};
@@ -174,7 +175,7 @@ std::string saveFault(XmlDocument& document, const Edit& edit, const std::string
     Silent reporter;
     SaveReceipt receipt;
     ErrorTrap trap;
-    trap.run([&] { receipt = saveDocument(document, path, way, reporter); });
+    trap.run([&] { receipt = saveDocument(document, readFile(path).identity, path, way, reporter); });
     const Bytes after = test::contentOf(path);
     if (trap.pending())
         return before == after ? "" : "a refused save changed the file";
@@ -190,7 +191,7 @@ std::string saveFault(XmlDocument& document, const Edit& edit, const std::string
         return "the new file does not say what was saved:" + difference(expected, said);
     if (!receipt.losses.empty() && test::contentOf(path + ".original") != before)
         return "the original was not kept";
-    trap.run([&] { saveDocument(found, path, way, reporter); });
+    trap.run([&] { saveDocument(found, readFile(path).identity, path, way, reporter); });
     if (trap.pending())
         return "the new file cannot be saved again: " + inEnglish(trap.error().description);
     return {};
