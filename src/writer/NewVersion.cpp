@@ -130,15 +130,13 @@ void NewVersion::bringToDiskTogether(const std::vector<NewVersion*>& versions)
 
 void NewVersion::putInPlace()
 {
-    const auto check = [&] { reported(m_reporter, m_target, [&] { checkOldFile(); }); };
-    check();
     if (const auto obstacle = replaceObstacle(m_target))
         raise(*obstacle);
     ErrorTrap trap;
     trap.run([&] {
         if (!m_receipt.losses.empty()) {
+            checkOldFile();
             keepOriginal();
-            check(); // that took its time
         }
         replaceOld();
     });
@@ -147,13 +145,15 @@ void NewVersion::putInPlace()
     trap.raise();
 }
 
-/// Between the two steps of a save: what another program made of the old file in the meantime is not overwritten. The
-/// second look is the last thing before the rename, as comparing contents takes time.
+/// What another program made of the old file in the meantime is not overwritten. The second look is the last thing
+/// before the rename, as comparing contents takes time.
 void NewVersion::checkOldFile() const
 {
-    const InputFile now(m_target);
-    if (!isSameFile(m_asRead, now) || InputFile(m_target).status() != now.status())
-        throw fileWasChanged();
+    reported(m_reporter, m_target, [&] {
+        const InputFile now(m_target);
+        if (!isSameFile(m_asRead, now) || InputFile(m_target).status() != now.status())
+            throw fileWasChanged();
+    });
 }
 
 void NewVersion::keepOriginal()
@@ -168,7 +168,7 @@ void NewVersion::keepOriginal()
 
 void NewVersion::replaceOld()
 {
-    if (const auto failure = replaceFile(m_newFile, m_target))
+    if (const auto failure = replaceFile(m_newFile, m_target, [&] { checkOldFile(); }))
         raise(*failure);
     m_stays = true;
 }

@@ -4,6 +4,7 @@
 #include "common/system/File.h"
 #include "common/system/FileId.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -20,8 +21,9 @@ struct ReplaceFailure {
 /// Puts the complete file `replacement` in the place of `path`, so that at every instant `path` names a whole old or a
 /// whole new file. A file that may not be deleted (marked read-only, or its folder denies it) fails at the deletion; a
 /// replacement that has lost its name fails at the renaming. Until syncFolder(), either of the two may be there after a
-/// power failure.
-std::optional<ReplaceFailure> replaceFile(const OutputFile& replacement, const std::string& path);
+/// power failure. `lastLook` is called right before, when nothing else stands in the way; what it raises is passed on.
+std::optional<ReplaceFailure> replaceFile(const OutputFile& replacement, const std::string& path,
+                                          const std::function<void()>& lastLook = {});
 
 /// Why replaceFile() would fail, if that is known in advance: `path` is marked read-only.
 std::optional<ReplaceFailure> replaceObstacle(const std::string& path);

@@ -209,6 +209,15 @@ std::string pipeText(const std::string& path)
     }
 }
 
+/// Gives `file` what it takes from the file at `path`, if there is one. One that cannot be looked at is there.
+void takeAttributesOfOld(OutputFile& file, const std::string& path)
+{
+    ErrorTrap trap;
+    trap.run([&] { file.takeAttributesFrom(InputFile(path)); });
+    if (trap.pending() && trap.error().number != kFileNotFound)
+        trap.raise();
+}
+
 } // namespace
 
 FileHandle& FileHandle::operator=(FileHandle&& other) noexcept
@@ -437,8 +446,7 @@ void writeTextFile(const std::string& path, std::string_view content)
     ErrorTrap trap;
     trap.run([&] {
         file.write({reinterpret_cast<const std::uint8_t*>(content.data()), content.size()});
-        if (fileExists(target))
-            file.takeAttributesFrom(InputFile(target));
+        takeAttributesOfOld(file, target);
         file.sync();
         if (const auto failure = replaceFile(file, target))
             throw Error(failure->error);

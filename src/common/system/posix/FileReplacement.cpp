@@ -19,7 +19,7 @@ bool isMarkedReadOnly(const std::string& path)
     constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
     struct stat status = {};
     return stat(path.c_str(), &status) == 0 &&
-           ((status.st_mode & kAnyWriteBit) == 0 || access(path.c_str(), W_OK) != 0);
+           ((status.st_mode & kAnyWriteBit) == 0 || (access(path.c_str(), W_OK) != 0 && errno != ENOENT));
 }
 
 FileId idOf(const struct stat& status)
@@ -36,7 +36,8 @@ std::optional<ReplaceFailure> replaceObstacle(const std::string& path)
     return std::nullopt;
 }
 
-std::optional<ReplaceFailure> replaceFile(const OutputFile& replacement, const std::string& path)
+std::optional<ReplaceFailure> replaceFile(const OutputFile& replacement, const std::string& path,
+                                          const std::function<void()>& lastLook)
 {
     if (auto obstacle = replaceObstacle(path))
         return obstacle;
@@ -47,6 +48,8 @@ std::optional<ReplaceFailure> replaceFile(const OutputFile& replacement, const s
     });
     if (trap.pending())
         return ReplaceFailure{ReplaceStep::Rename, trap.take()};
+    if (lastLook)
+        lastLook();
     if (systemCall(&SystemCalls::rename, replacement.path().c_str(), path.c_str()) != 0) {
         const int renameError = errno;
         const bool denied = renameError == EACCES || renameError == EPERM;
