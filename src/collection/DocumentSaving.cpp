@@ -39,9 +39,22 @@ void adoptPicture(XmlDocument& document, const XmlDocument& present)
         AttributeSet(document.documentElement().childElement("IMG"), attribute, AttributeGet(place, attribute));
 }
 
+/// Raises an error for an entry that would be written as another one than its id says.
+void checkTags(const XmlDocument& document)
+{
+    constexpr std::size_t kDigits = 4;
+    for (const ConstXmlNode& entry : document.node().descendants("IFD")) {
+        const std::string id = AttributeGet(entry, "id");
+        const bool isTag = id.size() == kDigits && id.find_first_not_of("0123456789ABCDEFabcdef") == std::string::npos;
+        if (!isTag)
+            throw Error{kInvalidCall, {Message::TagNotHexadecimal, id}};
+    }
+}
+
 SaveReceipt save(const XmlDocument& before, XmlDocument& after, const FileIdentity& asRead, const std::string& path,
                  const SavingWay& way, ErrorReporter& reporter)
 {
+    reported(reporter, path, [&] { checkTags(after); });
     NewVersion version(reporter, path, {ReadOnlyFails::AtTheEnd, way.isSpared, asRead});
     version.write({way.writing, before, after, documentReader(readingOf(after.node())), way.clearance});
     version.bringToDisk();

@@ -93,6 +93,8 @@ constexpr MessageText kTexts[] = {
      QT_TRANSLATE_NOOP("Message", "The text has elements, which must stand in a CDATA section to be kept")},
     {Message::UnreadableCharacter,
      QT_TRANSLATE_NOOP("Message", "A character between the changed ones could not be read, so it cannot be written.")},
+    {Message::TagNotHexadecimal,
+     QT_TRANSLATE_NOOP("Message", "The id of an IFD element is not four hexadecimal digits: %1")},
     {Message::MoreThanOneImage, QT_TRANSLATE_NOOP("Message", "The document has more than one IMG element")},
     {Message::FileWasChanged, QT_TRANSLATE_NOOP("Message", "The file was changed after it was read")},
     {Message::OtherPicture,

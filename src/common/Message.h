@@ -69,6 +69,7 @@ enum class Message : std::uint8_t {
     TextHasControl,
     TextHasElements,
     UnreadableCharacter,
+    TagNotHexadecimal,
     MoreThanOneImage,
     FileWasChanged,
     OtherPicture,
