@@ -151,8 +151,8 @@ def round_of(save, program, fault):
             injected = 1 if run.returncode in (-9, 137) else 0
         if not injected:
             return 0, []
-        # Who can no longer see which file is its own deletes none, and one that is locked belongs to another save.
-        if "flock:error=EAGAIN" in fault or re.search(r"stat.*\+$", fault):
+        # A save that cannot see which file is its own deletes none, and one that is locked belongs to another save.
+        if "flock:error=EAGAIN" in fault or "stat:" in fault:
             remove_new(save, folder)
         mute = re.search(r"write\(2<.*INJECTED", text) is not None
         wrong = saves.faults_after(save, folder, run.returncode, run.errors, killed, mute)
