@@ -152,7 +152,7 @@ def round_of(save, program, fault):
         if not injected:
             return 0, []
         # A save that cannot see which file is its own deletes none, and one that is locked belongs to another save.
-        if "flock:error=EAGAIN" in fault or "stat:" in fault:
+        if "flock:error=EAGAIN" in fault or re.search(r"stat(at|x)?:", fault):
             remove_new(save, folder)
         mute = re.search(r"write\(2<.*INJECTED", text) is not None
         wrong = saves.faults_after(save, folder, run.returncode, run.errors, killed, mute)
