@@ -185,7 +185,7 @@ std::string saveFault(XmlDocument& document, const Edit& edit, const std::string
         return fault;
 
     XmlDocument found;
-    trap.run([&] { found = loadDocument(path); });
+    trap.run([&] { found = documentReader(readingOf(document.node()))(path); });
     if (trap.pending())
         return "the new file cannot be read: " + inEnglish(trap.error().description);
     const std::vector<std::string> said = statements(found.documentElement(), edit.path);

@@ -21,6 +21,7 @@ namespace ovisto::fuzz {
 namespace {
 
 constexpr std::size_t kEditSize = 4; // bytes after a photograph that say what is edited
+constexpr int kFull = 128;           // the first of them, if everything is read
 
 constexpr std::string_view kTexts[] = {"",
                                        "A",
@@ -45,7 +46,7 @@ constexpr std::string_view kTexts[] = {"",
 Edit edited(XmlDocument& document, std::span<const std::uint8_t> bytes)
 {
     enum Kind { Nothing, RemoveEntry, SetEntry, Set, Delete, Add, kKinds };
-    const int kind = bytes[0] % kKinds;
+    const int kind = bytes[0] % kFull % kKinds;
     const std::size_t index = std::size_t{256} * bytes[1] + bytes[2];
     const std::string text(kTexts[bytes[3] % std::size(kTexts)]);
     if (kind == Nothing)
@@ -62,14 +63,14 @@ Edit edited(XmlDocument& document, std::span<const std::uint8_t> bytes)
             entry.setText(text);
         return {.path = kind == SetEntry ? NodeXPath(entry) : ""};
     }
-    static const std::vector<DictionaryEntry> entries = test::dictionary().entries(true);
+    static const std::vector<DictionaryEntry> entries = test::dictionary().entries(true, Reading::Full);
     const DictionaryEntry& entry = entries[index % entries.size()];
     constexpr std::array kActions{NodeAction::Set, NodeAction::Delete, NodeAction::Add};
     const NodeChange change{kActions.at(static_cast<std::size_t>(kind - Set)), entry, text};
     Edit edit{.isInExif = entry.path().starts_with("/JPEG/Exif["), .path = entry.path()};
     FirstReport report;
     ErrorTrap trap;
-    if (objection(change).isEmpty())
+    if (objection(change, readingOf(document.node())).isEmpty())
         trap.run([&] { edit.isSavable = static_cast<bool>(applyChange(document, change, report)); });
     else
         edit.isSavable = false;
@@ -82,12 +83,14 @@ std::string editAndSave(std::span<const std::uint8_t> input, WritingWay way)
     if (input.size() < kEditSize)
         return {};
     const std::string path = fileWith(input.first(input.size() - kEditSize), "a.jpg");
+    const std::span<const std::uint8_t> edits = input.last(kEditSize);
+    const bool isFull = way == WritingWay::Keep && edits[0] >= kFull;
     XmlDocument document;
     ErrorTrap trap;
-    trap.run([&] { document = loadDocument(path); });
+    trap.run([&] { document = documentReader(isFull ? Reading::Full : Reading::Basic)(path); });
     if (trap.pending())
         return {};
-    const Edit edit = edited(document, input.last(kEditSize));
+    const Edit edit = edited(document, edits);
     return edit.isSavable ? saveFault(document, edit, path, way) : "";
 }
 
@@ -97,7 +100,8 @@ std::string read(std::span<const std::uint8_t> input)
 {
     const std::string path = fileWith(input, "a.jpg");
     const KeepOptions all;
-    for (const KeepOptions& keep : {all, KeepOptions{false, true, false}, KeepOptions{true, false, true}}) {
+    const KeepOptions parts[] = {all, {false, true, false}, {true, false, true}, {true, true, true, Reading::Full}};
+    for (const KeepOptions& keep : parts) {
         const std::string text = JpegXml().XMLtranslate(path, keep).text;
         if (!text.empty() && !(text.starts_with("<JPEG ") && text.ends_with("</JPEG>")))
             return "the document has no end";

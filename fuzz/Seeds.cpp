@@ -55,10 +55,10 @@ void writePhotographs(const fs::path& folder)
     for (const Bytes& photograph : photographs()) {
         const std::string name = std::to_string(number++);
         write(folder / "read" / name, photograph);
-        for (std::uint8_t kind = 0; kind < 6; ++kind) {
+        for (const int kind : {0, 1, 2, 3, 4, 5, 128, 129, 130, 131, 132, 133}) {
             const auto other = static_cast<std::uint8_t>(number * 3 + kind);
             Bytes input = photograph;
-            input.insert(input.end(), {kind, 0, other, other});
+            input.insert(input.end(), {static_cast<std::uint8_t>(kind), 0, other, other});
             write(folder / "rebuild" / (name + "-" + std::to_string(kind)), input);
             write(folder / "keep" / (name + "-" + std::to_string(kind)), input);
         }

@@ -149,9 +149,11 @@ private:
         for (const ExifPart& part : kExifParts) {
             const auto change = std::ranges::find(parts, &part, &PartChange::part);
             ConstXmlNode expected = change != parts.end() ? change->after : ConstXmlNode();
-            if (part.kind == PartKind::Bytes && expected.text().empty())
-                expected = {}; // which nobody can tell from none
-            const ConstXmlNode node = partNode(found, part);
+            ConstXmlNode node = partNode(found, part);
+            for (ConstXmlNode* each : {&expected, &node}) {
+                if (part.kind == PartKind::Bytes && each->text().empty())
+                    *each = {}; // which nobody can tell from none
+            }
             const std::string name(part.element);
             if (!expected || !node) {
                 if (expected || node)
