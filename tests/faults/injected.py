@@ -25,7 +25,7 @@ ERRORS = {
     "renameat2": "EIO EACCES EINVAL ENOSYS", "unlink": "EIO EACCES EBUSY", "unlinkat": "EIO EACCES EBUSY",
     "link": "EPERM EMLINK EIO ENOSPC EEXIST", "linkat": "EPERM EMLINK EIO ENOSPC EEXIST",
     "readlink": "EIO EACCES ENOMEM", "access": "EIO EACCES", "faccessat2": "EIO EACCES", "close": "EIO",
-    "getdents64": "EIO", "mmap": "ENOMEM", "brk": "ENOMEM", "mprotect": "ENOMEM", "clone3": "EAGAIN",
+    "getdents64": "EIO", "mmap": "ENOMEM", "brk": "ENOMEM", "clone3": "EAGAIN",
 }
 PASSING = {"EINTR", "EAGAIN"}  # all others may also go on once they have begun
 CALL = re.compile(r"^(\d+) +(?:<\.\.\. )?(\w+)")

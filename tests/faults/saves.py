@@ -1,15 +1,21 @@
 """What the scripts of this folder have in common: saves by the real command line, and what must hold after each."""
 
+import collections
 import hashlib
 import os
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
+import threading
 
 TITLE_PATH = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']"
 SKIPPED = 77  # ctest counts it as skipped
+ENDLESS = 60  # seconds that nothing here should take
+
+Run = collections.namedtuple("Run", "returncode errors")
 
 
 def photograph(title, image, comment=b"", littleEndian=True):
@@ -89,10 +95,16 @@ class Folder:
 
 
 def execute(command, folder, **options):
-    run = subprocess.run(command, cwd=folder, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                         stderr=subprocess.PIPE, check=False, timeout=120, **options)
-    run.errors = run.stderr.decode("utf-8", "replace")
-    return run
+    """Runs a command. One that does not end is ended, with all that it started, and has a status of its own."""
+    with subprocess.Popen(command, cwd=folder, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                          stderr=subprocess.PIPE, start_new_session=True, **options) as process:
+        timer = threading.Timer(ENDLESS, os.killpg, (process.pid, signal.SIGKILL))
+        timer.start()
+        errors = process.stderr.read().decode("utf-8", "replace")
+        process.wait()
+        wasEnded = timer.finished.is_set()
+        timer.cancel()
+    return Run("never ended" if wasEnded else process.returncode, errors)
 
 
 def contents(folder):
