@@ -28,6 +28,7 @@ ERRORS = {
     "getdents64": "EIO", "mmap": "ENOMEM", "brk": "ENOMEM", "clone3": "EAGAIN",
 }
 PASSING = {"EINTR", "EAGAIN"}  # all others may also go on once they have begun
+MEMORY = {"mmap", "brk", "mprotect", "clone3"}  # which no program survives for long
 CALL = re.compile(r"^(\d+) +(?:<\.\.\. )?(\w+)")
 
 
@@ -90,7 +91,8 @@ def plan(save, program):
         if call == "pread64":
             modes.append("retval=0")  # the file has become shorter
         for mode in modes:
-            lasting = mode.startswith("error=") and mode.removeprefix("error=") not in PASSING
+            lasting = (mode.startswith("error=") and mode.removeprefix("error=") not in PASSING
+                       and call not in MEMORY)
             whens = [f"{when}{more}" for more in ["", *(["+"] if lasting else [])] for when in range(first, last + 1)]
             kinds.append([f"inject={call}:{mode}:when={when}" for when in spread(whens)])
     return [fault for group in itertools.zip_longest(*kinds) for fault in group if fault]
