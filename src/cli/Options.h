@@ -35,7 +35,7 @@ void requireFiles(const FileOptions& options);
 struct WritingOptions {
     bool rebuild = false;
     bool verbose = false;
-    bool force = false; ///< go on from a file that another program changed meanwhile
+    bool force = false;            ///< go on from a file that another program changed meanwhile
     Reading asked = Reading::Full; ///< without --rebuild
 
     WritingWay way() const { return rebuild ? WritingWay::Rebuild : WritingWay::Keep; }

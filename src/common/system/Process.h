@@ -10,8 +10,8 @@ namespace ovisto {
 /// How many files the process may have open at the same time. Raises the limit to `wanted` where that is allowed.
 std::size_t openFilesAllowed(std::size_t wanted);
 
-/// From now on, writing beyond the largest file size that the process is allowed is an error, as on a full disk. Without
-/// this call, it ends the program.
+/// From now on, writing beyond the largest file size that the process is allowed is an error, as on a full disk.
+/// Without this call, it ends the program.
 void outliveFileSizeLimit();
 
 /// Whether standard error is a terminal.
