@@ -162,7 +162,9 @@ def round_of(save, program, fault):
             wrong += unsynced(save, log, folder)
         for name, content in saves.contents(folder).items():
             mode = os.stat(os.path.join(folder, name)).st_mode & 0o777
-            if name in save.files and mode != 0o640 and "inject=fch" not in fault:
+            # Whoever is told that there is no old file takes nothing from it.
+            mayDiffer = "inject=fch" in fault or "ENOENT" in fault
+            if name in save.files and mode != 0o640 and not mayDiffer:
                 wrong.append(f"{name} has the permissions {mode:o}")
         wrong += saves.faults_after_second(save, program, folder)
         hits = [line.split(" ", 1)[1] for line in text.splitlines() if "(INJECTED)" in line]

@@ -182,7 +182,7 @@ def all_saves(program):
     """The saves that meet the faults."""
     one = {"a.jpg": photograph("An old title", image(0, 150_000))}
     many = {f"{number:02}.jpg": photograph(f"Title {number}", image(number, 20_000), littleEndian=number % 2 == 0)
-            for number in range(12)}
+            for number in range(16)}
     with Folder() as folder:
         Save("", [], one).prepare(folder)
         document = subprocess.run([program, "xml", "a.jpg"], cwd=folder, capture_output=True, check=True).stdout
