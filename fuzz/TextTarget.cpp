@@ -82,7 +82,7 @@ bool isOfPhotograph(const XmlDocument& document)
 }
 
 /// Whether each part of each Exif element is there together with the entry that leads to it. One without the other
-/// counts as deleted.
+/// counts as deleted. An Exif element is written as what it is, whatever its id.
 bool isWhole(const XmlDocument& document)
 {
     const auto has = [](const ConstXmlNode& exif, const ExifPart& part, std::uint16_t tag) {
@@ -92,12 +92,12 @@ bool isWhole(const XmlDocument& document)
     };
     const std::vector<ConstXmlNode> exifs = document.documentElement().childElements(kFirstDirectory);
     return std::ranges::all_of(exifs, [&](const ConstXmlNode& exif) {
-        return std::ranges::all_of(kExifParts, [&](const ExifPart& part) {
-            const bool isThere = static_cast<bool>(partNode(exif, part));
-            return part.pointer.offset == 0 ||
-                   (has(exif, part, part.pointer.offset) == isThere &&
-                    (part.pointer.length == 0 || has(exif, part, part.pointer.length) == isThere));
-        });
+        return AttributeGet(exif, "id") == "FFE1" && std::ranges::all_of(kExifParts, [&](const ExifPart& part) {
+                   const bool isThere = static_cast<bool>(partNode(exif, part));
+                   return part.pointer.offset == 0 ||
+                          (has(exif, part, part.pointer.offset) == isThere &&
+                           (part.pointer.length == 0 || has(exif, part, part.pointer.length) == isThere));
+               });
     });
 }
 
