@@ -68,8 +68,8 @@ std::vector<std::string> namesIn(const std::string& folder)
 }
 
 /// What a document says, a line for each element in an order of its own. Left out are positions, and the text of the
-/// node `edited`, where it may be written in more than one way.
-std::vector<std::string> statements(const ConstXmlNode& node, const std::string& edited)
+/// node that was edited, if it may be written in more than one way.
+std::vector<std::string> statements(const ConstXmlNode& node, const Edit& edit)
 {
     std::vector<std::string> lines;
     for (const ConstXmlNode& child : node.childElements()) {
@@ -82,12 +82,12 @@ std::vector<std::string> statements(const ConstXmlNode& node, const std::string&
         if (name == "IMG" || isEmptyPart)
             continue;
         std::string line = path + " " + AttributeGet(child, name == "IFD" ? "d" : "ns");
-        const bool mayDiffer = path == edited && mayReadDifferently(child);
+        const bool mayDiffer = (edit.isOfAnything || path == edit.path) && mayReadDifferently(child);
         if (!isDirectory && !saysPlace(child) && !mayDiffer)
             line += " " + text;
         lines.push_back(line);
         if (isDirectory)
-            std::ranges::move(statements(child, edited), std::back_inserter(lines));
+            std::ranges::move(statements(child, edit), std::back_inserter(lines));
     }
     std::ranges::sort(lines);
     return lines;
@@ -171,7 +171,7 @@ bool saysPlace(const ConstXmlNode& entry)
 std::string saveFault(XmlDocument& document, const Edit& edit, const std::string& path, WritingWay way)
 {
     const Bytes before = test::contentOf(path);
-    const std::vector<std::string> expected = statements(document.documentElement(), edit.path);
+    const std::vector<std::string> expected = statements(document.documentElement(), edit);
     Silent reporter;
     SaveReceipt receipt;
     ErrorTrap trap;
@@ -188,7 +188,7 @@ std::string saveFault(XmlDocument& document, const Edit& edit, const std::string
     trap.run([&] { found = documentReader(readingOf(document.node()))(path); });
     if (trap.pending())
         return "the new file cannot be read: " + inEnglish(trap.error().description);
-    const std::vector<std::string> said = statements(found.documentElement(), edit.path);
+    const std::vector<std::string> said = statements(found.documentElement(), edit);
     if (receipt.losses.empty() && said != expected)
         return "the new file does not say what was saved:" + difference(expected, said);
     if (!receipt.losses.empty() && test::contentOf(path + ".original") != before)

@@ -21,6 +21,7 @@ struct Edit {
     bool isSavable = true;       ///< whether the document is still worth a save
     bool isInExif = true;        ///< whether nothing but an Exif element was edited
     bool changesNothing = false; ///< whether the document is as it was read
+    bool isOfAnything = false;   ///< whether any node may have another text
     std::string path{};          ///< of the node whose text was set; empty for none
 };
 

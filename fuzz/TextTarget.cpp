@@ -110,6 +110,7 @@ std::string saveEdited(std::span<const std::uint8_t> input)
             return {};
         Edit edit;
         edit.isInExif = false; // or anywhere
+        edit.isOfAnything = true;
         std::string fault = saveFault(document, edit, fileWith(photograph(), "a.jpg"), way);
         if (!fault.empty())
             return fault;
