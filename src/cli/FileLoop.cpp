@@ -65,7 +65,7 @@ public:
         m_finishedMore.notify_all();
     }
 
-    /// Ends the loop because of an error that is no file's.
+    /// Ends the loop because of an error that no single file caused.
     void end(Error error)
     {
         const std::lock_guard lock(m_mutex);
@@ -102,7 +102,7 @@ private:
     std::size_t m_taken = 0;
     std::size_t m_finished = 0;
     bool m_ended = false; ///< no other file is to be taken
-    ErrorTrap m_failure;  ///< of what is no file's own matter
+    ErrorTrap m_failure;  ///< what no single file caused
 };
 
 /// The result of a file, whatever `work` raises: no exception leaves a thread.
