@@ -28,7 +28,7 @@ std::vector<std::string> linesOf(const std::string& text)
 /// Appends the whole file; what was read before an error stays.
 void appendAll(std::string& content, const InputFile& file)
 {
-    std::array<std::uint8_t, 16 * 1024> piece{};
+    std::array<std::uint8_t, 16'384> piece{};
     for (std::size_t count = piece.size(); count == piece.size();) {
         count = file.readAt(static_cast<std::int64_t>(content.size()), piece);
         content.append(reinterpret_cast<const char*>(piece.data()), count);

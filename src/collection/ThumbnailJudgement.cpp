@@ -98,27 +98,28 @@ double covariance(const Fields& left, const Fields& right)
     return sum / static_cast<double>(left.size());
 }
 
-/// How far the field at a place is from the range of those around the place in `others`.
-double distance(const Fields& fields, const Fields& others, std::size_t x, std::size_t y)
+/// How far the field at a place of `one` is from the range of those around the place in `other`.
+double distance(const Fields& one, const Fields& other, std::size_t x, std::size_t y)
 {
     double least = 255;
     double most = 0;
     for (std::size_t row = y - std::min<std::size_t>(y, 1); row <= std::min(y + 1, kFields - 1); ++row) {
         for (std::size_t column = x - std::min<std::size_t>(x, 1); column <= std::min(x + 1, kFields - 1); ++column) {
-            least = std::min(least, others[row * kFields + column]);
-            most = std::max(most, others[row * kFields + column]);
+            least = std::min(least, other[row * kFields + column]);
+            most = std::max(most, other[row * kFields + column]);
         }
     }
-    const double field = fields[y * kFields + x];
+    const double field = one[y * kFields + x];
     return std::max({0.0, least - field, field - most});
 }
 
-double farthest(const Fields& fields, const Fields& others)
+/// How far any field of `one` is from the fields of `other` around its place.
+double farthest(const Fields& one, const Fields& other)
 {
     double most = 0;
     for (std::size_t y = 0; y < kFields; ++y) {
         for (std::size_t x = 0; x < kFields; ++x)
-            most = std::max({most, distance(fields, others, x, y), distance(others, fields, x, y)});
+            most = std::max(most, distance(one, other, x, y));
     }
     return most;
 }
@@ -136,7 +137,8 @@ PictureDifference difference(const Fields& picture, const Fields& thumbnail)
     Fields adjusted = thumbnail;
     for (double& field : adjusted)
         field = std::clamp(field * factor + offset, 0.0, 255.0);
-    return {isFlat ? 1 : common / std::sqrt(spread * pictureSpread), farthest(picture, adjusted)};
+    return {isFlat ? 1 : common / std::sqrt(spread * pictureSpread),
+            std::max(farthest(picture, adjusted), farthest(adjusted, picture))};
 }
 
 /// Whether an area has one colour, as far as compression lets it.

@@ -118,7 +118,8 @@ Bytes tellingPhotograph(bool littleEndian)
 /// The segments that a picture needs, and the picture.
 Bytes bareFrame(const Bytes& content)
 {
-    const auto adobe = std::ranges::search(content, bytes("Adobe")).begin();
+    const Bytes name = bytes("Adobe");
+    const auto adobe = std::search(content.begin(), content.end(), name.begin(), name.end());
     return {adobe, content.end()};
 }
 
@@ -333,7 +334,8 @@ TEST(Thumbnail, OfTheProjectsSamplesIsThePictureUnlessItIsExchanged)
     EXPECT_EQ(judgeThumbnail(picture, decoded(thumbnailOf(lake))), ThumbnailShows::Picture);
     EXPECT_NE(judgeThumbnail(picture, decoded(thumbnailOf(OVISTO_OWN_SAMPLES "big-endian.jpg"))),
               ThumbnailShows::Picture);
-    const auto frame = std::ranges::find_end(content, Bytes{0xFF, 0xC0, 0, 17, 8}).begin(); // not the thumbnail's
+    const Bytes start = {0xFF, 0xC0, 0, 17, 8};
+    const auto frame = std::find_end(content.begin(), content.end(), start.begin(), start.end()); // not the thumbnail's
     ASSERT_NE(frame, content.end());
     Bytes large = content;
     std::fill_n(large.begin() + (frame - content.begin()) + 5, 4, std::uint8_t{0xFF}); // 65,535 x 65,535

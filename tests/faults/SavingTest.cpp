@@ -21,7 +21,6 @@
 #include <functional>
 #include <iterator>
 #include <map>
-#include <ranges>
 
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -200,7 +199,8 @@ Outcome outcomeOf(const Way& way, const Fault& fault)
 Names namesOf(const Outcome& outcome)
 {
     Names names;
-    std::ranges::copy(std::views::keys(outcome.contents), std::back_inserter(names));
+    for (const auto& [name, content] : outcome.contents)
+        names.push_back(name);
     return names;
 }
 
@@ -631,7 +631,8 @@ TEST(Saving, GoesOnFromWhatAnotherProgramMadeOfAFileWhereThatIsWanted)
         EXPECT_EQ(outcome.contents.size(), way.files.size());
         EXPECT_EQ(outcome.contents[file] == theirs, !c.failed.empty());
         const Bytes segment = {0xFF, 0xE2, 0, 5, 1, 2, 3};
-        EXPECT_FALSE(std::ranges::search(outcome.contents[file], segment).empty());
+        const Bytes& saved = outcome.contents[file];
+        EXPECT_NE(std::search(saved.begin(), saved.end(), segment.begin(), segment.end()), saved.end());
     }
 }
 
