@@ -60,27 +60,30 @@ std::string withinWord()
            before("\\p{M}") + "|" + after(kKatakana) + before(kKatakana) + ")";
 }
 
-/// `pattern` as the engine writes the same thing: it gives a meaning to more than ECMAScript does. An escaped letter
-/// that means nothing there is that letter; a bracket in a class is one; and what begins with "(*" is an error, not a
-/// command to the engine.
-std::string engineSpelling(std::string_view pattern, Letters letters)
+/// What stands for `\` and `escaped`. The engine gives a meaning to more letters than ECMAScript does: an escaped
+/// letter that means nothing there is that letter. Only outside a class, `letters` decide where a word begins and ends.
+std::string escapeSpelling(char escaped, bool inClass, Letters letters)
 {
     constexpr std::string_view kLetterEscapes = "bBdDsSwWfnrtvcxu";
+    if (letters == Letters::Unicode && !inClass && (escaped == 'b' || escaped == 'B')) {
+        static const std::string within = withinWord();
+        return (escaped == 'b' ? "(?!" : "(?:") + within + ")";
+    }
+    const bool isLetter = (escaped >= 'a' && escaped <= 'z') || (escaped >= 'A' && escaped <= 'Z');
+    const bool hasMeaning = !isLetter || kLetterEscapes.find(escaped) != std::string_view::npos;
+    return hasMeaning ? std::string{'\\', escaped} : std::string{escaped};
+}
+
+/// `pattern` as the engine writes the same thing. A bracket in a class is one; and what begins with "(*" is an error,
+/// not a command to the engine.
+std::string engineSpelling(std::string_view pattern, Letters letters)
+{
     std::string spelling;
     bool inClass = false;
     for (std::size_t i = 0; i < pattern.size(); ++i) {
         const char character = pattern[i];
         if (character == '\\' && i + 1 < pattern.size()) {
-            const char escaped = pattern[++i];
-            if (letters == Letters::Unicode && !inClass && (escaped == 'b' || escaped == 'B')) {
-                static const std::string within = withinWord();
-                spelling += (escaped == 'b' ? "(?!" : "(?:") + within + ")";
-                continue;
-            }
-            const bool isLetter = (escaped >= 'a' && escaped <= 'z') || (escaped >= 'A' && escaped <= 'Z');
-            if (!isLetter || kLetterEscapes.find(escaped) != std::string_view::npos)
-                spelling += '\\';
-            spelling += escaped;
+            spelling += escapeSpelling(pattern[++i], inClass, letters);
             continue;
         }
         if (character == '[' && inClass)
