@@ -41,7 +41,8 @@ Decoding& decodingOf(j_common_ptr picture)
 
 [[noreturn]] void fail(j_common_ptr picture)
 {
-    std::longjmp(decodingOf(picture).failed, 1);
+    // No exception may pass through the library's C.
+    std::longjmp(decodingOf(picture).failed, 1); // NOLINT(cert-err52-cpp)
 }
 
 /// Data that ends before the picture does is a warning to the library, and the rest is grey.
