@@ -178,6 +178,17 @@ private Q_SLOTS:
         window.move(20, 10);
         PlacementSave(window, settings, u"Window"_s);
         QCOMPARE(settings.GetSetting(u"Window"_s, {}), u"300,150,4500,3000"_s);
+        window.showMaximized();
+        PlacementSave(window, settings, u"Window"_s);
+        QCOMPARE(settings.GetSetting(u"Window"_s, {}), u"300,150,4500,3000,1"_s);
+        QWidget next;
+        PlacementLoad(next, settings, u"Window"_s, {});
+        next.show();
+        QVERIFY(next.isMaximized());
+        PlacementSave(next, settings, u"Window"_s);
+        QCOMPARE(settings.GetSetting(u"Window"_s, {}), u"300,150,4500,3000,1"_s);
+        next.showNormal();
+        QCOMPARE(next.size(), QSize(300, 200));
     }
 
     void keepsWindowsOnTheScreen()

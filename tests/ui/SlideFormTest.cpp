@@ -63,6 +63,12 @@ public:
     CaptionLine& details() { return *m_form->findChild<CaptionLine*>(u"FileDetails"_s); }
     QString title() const { return m_form->windowTitle(); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(m_form.data(), key, modifiers); }
+    /// For keys that type nothing, too.
+    void send(Qt::Key key, bool isRepeat)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, {}, isRepeat);
+        QCoreApplication::sendEvent(m_form.data(), &event);
+    }
     void movePointer(const QPoint& to)
     {
         QMouseEvent event(QEvent::MouseMove, to, image().mapToGlobal(to), Qt::NoButton, Qt::NoButton, {});
@@ -140,7 +146,10 @@ private Q_SLOTS:
             for (const auto key : {Qt::Key_Escape, Qt::Key_Right, Qt::Key_Space, Qt::Key_A})
                 show.press(key, modifier);
         }
-        show.press(Qt::Key_Shift);
+        for (const auto key : {Qt::Key_Shift, Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_VolumeUp, Qt::Key_MediaPlay,
+                               Qt::Key_Super_L, Qt::Key_Print, Qt::Key_MonBrightnessUp})
+            show.send(key, false);
+        show.send(Qt::Key_Space, true); // held down
         QVERIFY(!show.isOver() && show.dialogs.messages.isEmpty() && show.title() == u"little-endian.jpg"_s);
         for (const auto key : {Qt::Key_A, Qt::Key_Return, Qt::Key_Up, Qt::Key_F1, Qt::Key_Tab})
             show.press(key);
@@ -179,6 +188,9 @@ private Q_SLOTS:
         }
         QCOMPARE(show.form().cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(show.pointerTimer->interval, 2000);
+        show.pointerTimer->pass();
+        show.press(Qt::Key_Right);
+        QCOMPARE(show.form().cursor().shape(), Qt::ArrowCursor);
         show.press(Qt::Key_Escape);
         QCOMPARE(show.place(), u"150,300,6000,4500"_s);
     }
@@ -256,9 +268,40 @@ private Q_SLOTS:
         QTRY_COMPARE(show.image().picture().size(), show.sizeInFile("portrait.jpg").transposed());
         QTRY_COMPARE(show.image().height(), qRound(show.image().picture().height() / show.form().devicePixelRatioF()));
         auto* bar = show.form().findChild<QScrollArea*>()->verticalScrollBar();
-        QTRY_VERIFY(bar->maximum() > 0 && bar->isVisible());
-        show.press(Qt::Key_Down, Qt::ControlModifier);
-        QVERIFY(bar->value() > 0);
+        QTRY_VERIFY(bar->maximum() > 0 && !bar->isVisible());
+        for (int slide = 0; slide < 2; ++slide) { // of the same size
+            const int middle = bar->maximum() / 2;
+            QTRY_COMPARE(bar->value(), middle);
+            show.press(Qt::Key_Down, Qt::ControlModifier);
+            QVERIFY(bar->value() > middle);
+            show.press(Qt::Key_Right);
+        }
+    }
+
+    void givesATitleALineOfItsOwnWhereItIsLong()
+    {
+        CaptionLine caption;
+        caption.resize(300, 100);
+        const QString facts = u"Thu Thursday, May 6, 2004"_s;
+        caption.showTexts(u"Lake"_s, facts);
+        QCOMPARE(caption.shownLines(), QStringList(u"Lake -- "_s + facts));
+        const int height = caption.sizeHint().height();
+        caption.showTexts(QString(200, u'm'), facts);
+        QCOMPARE(caption.shownLines().size(), 2);
+        QVERIFY(caption.shownLines().first().endsWith(QChar(0x2026)) && caption.shownLines().last() == facts);
+        QVERIFY(caption.sizeHint().height() == height && height >= 2 * caption.fontMetrics().height());
+    }
+
+    void tellsOfAPictureThatEndsEarly()
+    {
+        Show show({u"portrait.jpg"_s, u"night.jpg"_s});
+        QVERIFY(QFile::resize(QString::fromStdString(show.path("portrait.jpg")), 20'000));
+        show.start({.details = false});
+        QTRY_VERIFY(show.details().isVisible());
+        QVERIFY(show.details().text().contains(u"The picture ends early"_s));
+        show.press(Qt::Key_Right);
+        QTRY_COMPARE(show.title(), u"night.jpg"_s);
+        QVERIFY(!show.details().isVisible());
     }
 
     void opensFromTheMainWindow()

@@ -64,7 +64,9 @@ public:
             }
             if (limits.mostBytes < largest)
                 return std::nullopt;
-            return Slide{m_paths.last(), {}, {}};
+            Slide slide;
+            slide.details.title = m_paths.last();
+            return slide;
         };
     }
 
@@ -84,7 +86,7 @@ private Q_SLOTS:
     void tellsDetails()
     {
         const auto row = [](const char* name, const char* line, const Document& parts, const char* locale = "en_US") {
-            QString told = detailsLine(parts.load(), QLocale(QLatin1String(locale)));
+            QString told = slideDetails(parts.load(), QLocale(QLatin1String(locale))).line();
             told.replace(QChar(0x202F), u' ').replace(QChar::Nbsp, u' ');
             QVERIFY2(told == QString::fromUtf8(line), qPrintable(QLatin1String(name) + u": "_s + told));
         };
@@ -190,7 +192,7 @@ private Q_SLOTS:
         decoder.allowed.release(3);
         QTRY_VERIFY(cache.slide(request("c")));
         QCOMPARE(decoder.paths(), u"a b c"_s);
-        QCOMPARE(cache.slide(request("a"))->details, u"a"_s);
+        QCOMPARE(cache.slide(request("a"))->details.title, u"a"_s);
         QTRY_COMPARE(announced, 1);
 
         // A step: nothing but the new neighbour is made, and what lies behind is forgotten.
@@ -259,11 +261,11 @@ private Q_SLOTS:
         constexpr auto kAny = std::numeric_limits<std::int64_t>::max();
         const auto lying = decoded(samples + "little-endian.jpg", kAny, wanted);
         QCOMPARE(lying->picture.size(), QSize(89, 60));
-        QVERIFY(lying->details.startsWith("\"Mountain lake\" -- "_L1));
+        QVERIFY(lying->details.title == u"\"Mountain lake\""_s && !lying->endsEarly);
         const auto upright = decoded(samples + "portrait.jpg", kAny, wanted);
         QCOMPARE(upright->picture.height(), 60);
         QVERIFY(upright->picture.width() < 60);
-        QVERIFY(decoded(samples + "no-exif.jpg", kAny, wanted)->details.isEmpty());
+        QVERIFY(decoded(samples + "no-exif.jpg", kAny, wanted)->details.line().isEmpty());
         QCOMPARE(decoded(samples + "README.md", kAny, wanted)->failure, u"README.md\nInvalid picture"_s);
         QVERIFY(!decoded(samples + "portrait.jpg", 100, wanted));
         QVERIFY(!decoded(samples + "portrait.jpg", kAny, abandoned));

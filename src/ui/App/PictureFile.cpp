@@ -18,6 +18,7 @@ qint64 PictureFile::readData(char* data, qint64 most)
         count = static_cast<qint64>(
             m_file.readAt(pos(), {reinterpret_cast<std::uint8_t*>(data), static_cast<std::size_t>(most)}));
     });
+    m_wasReadPastEnd = m_wasReadPastEnd || count == 0;
     return count;
 }
 

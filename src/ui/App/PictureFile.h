@@ -17,6 +17,9 @@ public:
     /// to stop the decoder.
     explicit PictureFile(const std::string& path, const std::atomic<bool>* abandoned = nullptr);
 
+    /// Whether the decoder asked for more than there is. That of JPEG stops at the mark at the end of the picture.
+    bool wasReadPastEnd() const { return m_wasReadPastEnd; }
+
     qint64 size() const override { return m_file.size(); }
 
 protected:
@@ -26,6 +29,7 @@ protected:
 private:
     InputFile m_file;
     const std::atomic<bool>* m_abandoned;
+    bool m_wasReadPastEnd = false;
 };
 
 } // namespace ovisto

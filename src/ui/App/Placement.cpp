@@ -1,5 +1,7 @@
 #include "ui/App/Placement.h"
 
+#include "ui/App/WindowFrame.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSplitter>
@@ -12,7 +14,8 @@ namespace ovisto {
 
 namespace {
 
-constexpr int kTwips = 15; // a logical pixel
+constexpr int kTwips = 15;    // a logical pixel
+constexpr int kMaximized = 4; // where a setting says so
 constexpr int kMostPixels = 1 << 20;
 
 /// The whole numbers joined by "," in `text`; none at all when one of them is none.
@@ -43,6 +46,11 @@ int area(const QRect& rectangle)
 
 } // namespace
 
+bool fillsScreen(const QWidget& window)
+{
+    return window.isMaximized() || window.isFullScreen() || window.isMinimized();
+}
+
 std::optional<QRect> placement(const QString& text)
 {
     const QList<int> twips = numbers(text);
@@ -70,7 +78,8 @@ QRect movedOnto(const QList<QRect>& screens, const QRect& place)
 
 void PlacementLoad(QWidget& window, const Settings& settings, const QString& key, const QString& whenMissing)
 {
-    auto place = placement(settings.GetSetting(key, whenMissing));
+    const QString text = settings.GetSetting(key, whenMissing);
+    auto place = placement(text);
     if (!place)
         place = placement(whenMissing);
     if (!place)
@@ -81,14 +90,24 @@ void PlacementLoad(QWidget& window, const Settings& settings, const QString& key
     const QRect moved = movedOnto(screens, *place);
     window.resize(moved.size());
     window.move(moved.topLeft());
+    if (numbers(text).value(kMaximized) == 1)
+        window.setWindowState(Qt::WindowMaximized);
+    new WindowFrame(window);
 }
 
 void PlacementSave(const QWidget& window, Settings& settings, const QString& key)
 {
-    const bool fillsScreen = window.isMaximized() || window.isFullScreen() || window.isMinimized();
-    const QRect place = fillsScreen ? window.normalGeometry() : QRect(window.pos(), window.size());
-    settings.SaveSetting(
-        key, joined({place.x() * kTwips, place.y() * kTwips, place.width() * kTwips, place.height() * kTwips}));
+    QRect place(window.pos(), window.size());
+    if (fillsScreen(window) && window.normalGeometry().isValid()) {
+        // The normal place is given without the frame, and asked for with it.
+        const auto* frame = window.findChild<WindowFrame*>();
+        const QMargins margins = frame != nullptr ? frame->margins() : QMargins();
+        place = window.normalGeometry().translated(-margins.left(), -margins.top());
+    }
+    QList<int> twips = {place.x() * kTwips, place.y() * kTwips, place.width() * kTwips, place.height() * kTwips};
+    if (window.isMaximized())
+        twips.append(1);
+    settings.SaveSetting(key, joined(twips));
 }
 
 void splitterLoad(QSplitter& splitter, const Settings& settings, const QString& whenMissing)

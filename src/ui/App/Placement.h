@@ -14,11 +14,16 @@ class QWidget;
 namespace ovisto {
 
 /// Moves the window to the place in the setting `key`: left, top, width and height in twips (15 per logical pixel),
-/// separated by ",". `whenMissing` replaces a missing or invalid setting. The window always ends up on a screen.
+/// separated by ","; a fifth number, 1, maximizes it. `whenMissing` replaces a missing or invalid setting. The window
+/// always ends up on a screen, with its frame. To be called once.
 void PlacementLoad(QWidget& window, const Settings& settings, const QString& key, const QString& whenMissing);
 
-/// Stores the place and size of the window under `key`; for a maximized or full-screen window, its normal ones.
+/// Stores the place and size of the window under `key`; for a maximized or full-screen window, its normal ones, and
+/// that it is maximized.
 void PlacementSave(const QWidget& window, Settings& settings, const QString& key);
+
+/// Whether the window has another size than its normal one: maximized, minimized or full screen.
+bool fillsScreen(const QWidget& window);
 
 /// The place, in pixels, given by a text in twips; nothing if the text is invalid.
 std::optional<QRect> placement(const QString& text);

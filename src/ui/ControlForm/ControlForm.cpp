@@ -3,6 +3,7 @@
 #include "ui/AboutForm/AboutForm.h"
 #include "ui/App/Placement.h"
 #include "ui/App/Text.h"
+#include "ui/ControlForm/BoxHeights.h"
 #include "ui/SlideForm/SlideForm.h"
 
 #include <QAbstractButton>
@@ -60,6 +61,7 @@ ControlForm::ControlForm(TagDictionary dictionary, const Surroundings& surroundi
     connect(&m_keywords, &KeywordPane::chosen, &m_editor.osPane(), &OsPane::insertKeyword);
     connectButtons();
     connectMenus();
+    limitBoxHeights(ui);
     loadSettings();
 }
 

@@ -23,7 +23,7 @@ std::int64_t bytesInMemory(QSize size)
     return kBytesPerPixel * size.width() * size.height();
 }
 
-QString readDetails(const std::string& path, const QLocale& locale, Reading reading)
+SlideDetails readDetails(const std::string& path, const QLocale& locale, Reading reading)
 {
     if (!fileExists(path))
         return {};
@@ -31,18 +31,19 @@ QString readDetails(const std::string& path, const QLocale& locale, Reading read
     const KeepOptions keep{.pCodifyMakerNote = false, .pCodifyThumb = true, .pCodifyExif1 = false, .reading = reading};
     XmlDocument JpegDoc;
     JpegDoc.loadText(JpegXml().XMLtranslate(path, keep).text);
-    return detailsLine(JpegDoc, locale);
+    return slideDetails(JpegDoc, locale);
 }
 
-/// The picture of the request, or none when it would take more memory than allowed.
-QImage readPicture(const SlideRequest& request, const DecodeLimits& limits)
+/// Reads the picture of the request; none when it would take more memory than allowed.
+void readPicture(const SlideRequest& request, const DecodeLimits& limits, Slide& slide)
 {
     PictureFile file(request.path, &limits.abandoned);
     const QSize size = fittedSize(QImageReader(&file).size(), request.maximum);
     if (bytesInMemory(size) > limits.mostBytes)
-        return {};
+        return;
     file.seek(0);
-    return fittedPicture(file, request.maximum);
+    slide.picture = fittedPicture(file, request.maximum);
+    slide.endsEarly = file.wasReadPastEnd();
 }
 
 } // namespace
@@ -67,7 +68,7 @@ std::optional<Slide> decodeSlide(const SlideRequest& request, const QLocale& loc
     ErrorTrap trap;
     trap.run([&] { slide.details = readDetails(request.path, locale, reading); });
     trap.clear(); // then there are none to show
-    trap.run([&] { slide.picture = readPicture(request, limits); });
+    trap.run([&] { readPicture(request, limits, slide); });
     const bool isTooLarge = slide.picture.isNull() && !trap.pending();
     if (limits.abandoned || isTooLarge)
         return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include "common/Error.h"
 #include "document/Reading.h"
+#include "ui/SlideForm/SlideDetails.h"
 
 #include <QImage>
 #include <QLocale>
@@ -18,9 +19,10 @@ namespace ovisto {
 
 /// A file as a slide show presents it.
 struct Slide {
-    QString details; ///< the line below the picture
-    QImage picture;  ///< turned upright; null if the file cannot be shown
-    QString failure; ///< why there is no picture, for the user
+    SlideDetails details;   ///< shown below the picture
+    QImage picture;         ///< turned upright; null if the file cannot be shown
+    bool endsEarly = false; ///< the file ends before its picture does
+    QString failure;        ///< why there is no picture, for the user
 };
 
 /// A slide to make: of a file as it is now, with its picture scaled down to a size in screen pixels.

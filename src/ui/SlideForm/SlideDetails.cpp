@@ -27,6 +27,8 @@ std::optional<QString> textOf(const XmlDocument& JpegDoc, const char* path)
     return node ? std::optional(toQString(node.text())) : std::nullopt;
 }
 
+constexpr auto kBetween = " -- ";
+
 std::optional<QString> title(const XmlDocument& JpegDoc)
 {
     const auto text = textOf(JpegDoc, kAnyTitlePath);
@@ -86,15 +88,20 @@ std::optional<QString> size(const XmlDocument& JpegDoc, const char* const (&path
 
 } // namespace
 
-QString detailsLine(const XmlDocument& JpegDoc, const QLocale& locale)
+QString SlideDetails::line() const
 {
-    QStringList parts;
-    for (const auto& part : {title(JpegDoc), dateTaken(JpegDoc, locale), size(JpegDoc, kThumbnailSize),
-                             size(JpegDoc, kPictureSize), textOf(JpegDoc, kAnyCameraModelPath)}) {
-        if (part)
-            parts.append(*part);
+    return title.isEmpty() || facts.isEmpty() ? title + facts : title + QLatin1String(kBetween) + facts;
+}
+
+SlideDetails slideDetails(const XmlDocument& JpegDoc, const QLocale& locale)
+{
+    QStringList facts;
+    for (const auto& fact : {dateTaken(JpegDoc, locale), size(JpegDoc, kThumbnailSize), size(JpegDoc, kPictureSize),
+                             textOf(JpegDoc, kAnyCameraModelPath)}) {
+        if (fact)
+            facts.append(*fact);
     }
-    return parts.join(QStringLiteral(" -- ")).trimmed();
+    return {title(JpegDoc).value_or(QString()), facts.join(QLatin1String(kBetween)).trimmed()};
 }
 
 } // namespace ovisto

@@ -7,8 +7,16 @@
 
 namespace ovisto {
 
-/// One line about a file: title, date taken, size of the thumbnail and of the picture, camera. What the metadata
-/// document does not have is left out.
-QString detailsLine(const XmlDocument& JpegDoc, const QLocale& locale);
+/// What a show tells about a file.
+struct SlideDetails {
+    QString title; ///< in quotation marks
+    QString facts; ///< date taken, size of the thumbnail and of the picture, camera
+
+    /// All of it, on one line.
+    QString line() const;
+};
+
+/// What the metadata document does not have is left out.
+SlideDetails slideDetails(const XmlDocument& JpegDoc, const QLocale& locale);
 
 } // namespace ovisto

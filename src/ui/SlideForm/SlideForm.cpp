@@ -24,11 +24,19 @@ namespace {
 
 constexpr int kPointerPatience = 2000; // milliseconds until a pointer that does not move is hidden
 
-/// Whether the key is one that only changes what others mean.
-bool isModifier(int key)
+/// Whether the key is not meant for a window: one that changes what others mean, a lock, or one for the sound, the
+/// brightness, or the whole desktop.
+bool isForDesktop(int key)
 {
-    constexpr int kModifiers[] = {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_AltGr, Qt::Key_Meta};
-    return std::ranges::find(kModifiers, key) != std::end(kModifiers);
+    constexpr struct {
+        int first;
+        int last;
+    } kKeys[] = {{Qt::Key_Print, Qt::Key_SysReq},
+                 {Qt::Key_Shift, Qt::Key_ScrollLock},
+                 {Qt::Key_Super_L, Qt::Key_Super_R},
+                 {Qt::Key_Hyper_L, Qt::Key_Hyper_R},
+                 {Qt::Key_Back, Qt::Key_unknown}};
+    return std::ranges::any_of(kKeys, [key](const auto& keys) { return key >= keys.first && key <= keys.last; });
 }
 
 QPalette blackPalette()
@@ -74,6 +82,8 @@ SlideForm::SlideForm(const SlideSurroundings& surroundings, SlideTimers timers, 
     connect(m_timers.pointer.get(), &SlideTimer::fired, this, &SlideForm::hidePointer);
     connect(&m_cache, &SlideCache::ready, this, &SlideForm::showWhenReady);
     connect(&m_resized, &QTimer::timeout, this, &SlideForm::showCurrent);
+    for (const QScrollBar* bar : {ui.PictureScroller->horizontalScrollBar(), ui.PictureScroller->verticalScrollBar()})
+        connect(bar, &QScrollBar::rangeChanged, this, &SlideForm::moveToMiddle);
     connect(ui.Image1, &SlidePicture::clicked, this, &SlideForm::endShow);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &SlideForm::close);
     PlacementLoad(*this, surroundings.settings, objectName(), QStringLiteral("0,0,11655,8505"));
@@ -93,10 +103,6 @@ void SlideForm::SlideShow(bool fullscreen, bool resize, bool details, std::int16
 
 void SlideForm::openWindow()
 {
-    if (m_resize) {
-        ui.PictureScroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        ui.PictureScroller->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    }
     ui.FileDetails->setVisible(m_details);
     if (!m_fullscreen)
         return show();
@@ -130,9 +136,12 @@ void SlideForm::closeEvent(QCloseEvent* event)
 void SlideForm::keyPressEvent(QKeyEvent* event)
 {
     const auto modifiers = event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    if (isForDesktop(event->key()))
+        return QWidget::keyPressEvent(event);
+    showPointer();
     if (modifiers == Qt::ControlModifier)
         return scroll(event->key());
-    if (modifiers != Qt::NoModifier || isModifier(event->key()))
+    if (modifiers != Qt::NoModifier)
         return QWidget::keyPressEvent(event);
     // A key held down goes no faster than pictures come, or none of them would be seen.
     if (event->isAutoRepeat() && m_isWaiting)
@@ -145,7 +154,7 @@ void SlideForm::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Left:
         return showPrevious();
     case Qt::Key_Space:
-        return pause();
+        return event->isAutoRepeat() ? void() : pause();
     default:
         return m_surroundings.dialogs.show(tr("Press ESC or click the image to exit show,\r\n"
                                               "left/right arrow to skip slides,\r\n"
@@ -157,10 +166,8 @@ void SlideForm::mouseMoveEvent(QMouseEvent* event)
 {
     // A pointer over a picture that changes is told to move, but does not.
     const QPoint pointer = event->globalPosition().toPoint();
-    if (!m_fullscreen || std::exchange(m_pointer, pointer) == pointer)
-        return;
-    unsetCursor();
-    m_timers.pointer->start(kPointerPatience);
+    if (std::exchange(m_pointer, pointer) != pointer)
+        showPointer();
 }
 
 void SlideForm::resizeEvent(QResizeEvent* /*event*/)
@@ -220,22 +227,22 @@ void SlideForm::showSlide(const Slide& slide)
         ui.Image1->showText(slide.failure);
     else
         ui.Image1->showPicture(slide.picture);
-    m_detailsLine = slide.details;
+    moveToMiddle();
+    m_shownDetails = slide.details;
+    m_remark = slide.endsEarly ? tr("The picture ends early: part of the file is missing.") : QString();
     showCaption();
 }
 
 /// Tells about the slide, and whether the show is paused: in the title of the window, or in the line of details where
-/// the window has no title.
+/// the window has no title. That line appears without being asked for if something is wrong with the picture.
 void SlideForm::showCaption()
 {
     const QString mark = m_clockwork.isPaused() ? tr(" (paused)") : QString();
-    if (m_fullscreen) {
-        ui.FileDetails->setText(m_detailsLine + mark);
-        ui.FileDetails->setVisible(m_details || m_clockwork.isPaused());
-        return;
-    }
-    ui.FileDetails->setText(m_detailsLine);
-    setWindowTitle((hasCurrent() ? pathText(splitPath(m_wanted.front().path).name) : tr("Slide Show")) + mark);
+    const QString facts = SlideDetails{m_remark, m_shownDetails.facts}.line();
+    ui.FileDetails->showTexts(m_shownDetails.title, m_fullscreen ? facts + mark : facts);
+    ui.FileDetails->setVisible(m_details || !m_remark.isEmpty() || (m_fullscreen && m_clockwork.isPaused()));
+    if (!m_fullscreen)
+        setWindowTitle((hasCurrent() ? pathText(splitPath(m_wanted.front().path).name) : tr("Slide Show")) + mark);
 }
 
 void SlideForm::pause()
@@ -277,6 +284,22 @@ void SlideForm::scroll(int key)
     default:
         return;
     }
+}
+
+/// Shows the middle of a picture that is larger than the window.
+void SlideForm::moveToMiddle()
+{
+    for (QScrollBar* bar : {ui.PictureScroller->horizontalScrollBar(), ui.PictureScroller->verticalScrollBar()})
+        bar->setValue((bar->minimum() + bar->maximum()) / 2);
+}
+
+/// Full screen, for a moment only.
+void SlideForm::showPointer()
+{
+    if (!m_fullscreen)
+        return;
+    unsetCursor();
+    m_timers.pointer->start(kPointerPatience);
 }
 
 void SlideForm::hidePointer()

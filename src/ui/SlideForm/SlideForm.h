@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/Reading.h"
+#include "ui/App/AwakeScreen.h"
 #include "ui/App/Dialogs.h"
 #include "ui/App/FoundFiles.h"
 #include "ui/App/Settings.h"
@@ -60,6 +61,8 @@ private:
     void pause();
     void endShow();
     void scroll(int key);
+    void moveToMiddle();
+    void showPointer();
     void hidePointer();
 
     bool hasCurrent() const;
@@ -71,13 +74,15 @@ private:
     SlideTimers m_timers;
     SlideClockwork m_clockwork;
     SlideCache m_cache;
+    AwakeScreen m_awake;
 
     bool m_fullscreen = false;
     bool m_resize = false;
     bool m_details = false;
     bool m_isWaiting = false;           ///< the current slide is not on the screen yet
     std::vector<SlideRequest> m_wanted; ///< the current one first
-    QString m_detailsLine;
+    SlideDetails m_shownDetails;
+    QString m_remark; ///< about the picture shown
     QTimer m_resized;
     QPoint m_pointer; ///< where the pointer was last
 };
