@@ -1,40 +1,58 @@
 #include "cli/BatchRun.h"
 
 #include "cli/FileLoop.h"
+#include "cli/TerminalText.h"
 #include "common/system/Interruption.h"
 
 #include <algorithm>
+#include <atomic>
 
 namespace ovisto {
 
 namespace {
 
-/// Progress over files where the loop counts stretches of them.
-class StretchProgress : public Progress {
+/// Shows how far a batch is, file by file, whatever stretch of them a file is in.
+class BatchProgress : public Progress {
 public:
-    StretchProgress(Progress& files, std::size_t stretch, std::size_t total)
-        : m_files(files), m_stretch(stretch), m_total(total)
+    BatchProgress(Progress& shown, std::size_t total) : m_shown(shown), m_total(total) {}
+
+    bool step(const std::string& path, std::size_t /*done*/, std::size_t /*total*/) override
     {
+        if (!m_shown.step(path, m_begun, m_total))
+            return false;
+        ++m_begun;
+        return true;
     }
 
-    bool step(const std::string& path, std::size_t done, std::size_t /*total*/) override
-    {
-        return m_files.step(path, done * m_stretch, m_total);
-    }
+    std::size_t begun() const { return m_begun; }
 
 private:
-    Progress& m_files;
-    std::size_t m_stretch;
+    Progress& m_shown;
     std::size_t m_total;
+    std::atomic<std::size_t> m_begun = 0;
 };
 
-/// Progress within a stretch, which is not shown.
+/// Progress over stretches of files, which is not shown.
 class UnwatchedProgress : public Progress {
 public:
     bool step(const std::string& /*path*/, std::size_t /*done*/, std::size_t /*total*/) override
     {
         return !interrupted();
     }
+};
+
+/// Turns each report of a failed file into a line, and counts them.
+class CountingReporter : public LineReporter {
+public:
+    using LineReporter::LineReporter;
+
+    void report(const Phrase& context, const Error& error) override
+    {
+        ++count;
+        LineReporter::report(context, error);
+    }
+
+    std::size_t count = 0;
 };
 
 } // namespace
@@ -47,9 +65,9 @@ BatchOptions batchOptions(const WritingOptions& writing, unsigned jobs)
             .onOtherChange = writing.force ? OnOtherChange::ChangeAgain : OnOtherChange::Refuse};
 }
 
-void runBatch(const BatchAction& batch, const std::vector<std::string>& files, unsigned jobs,
-              const WritingOptions& writing, CommandOutput& output,
-              const std::function<bool(const SaveReceipt&)>& isDone)
+BatchCounts runBatch(const BatchAction& batch, const std::vector<std::string>& files, unsigned jobs,
+                     const WritingOptions& writing, CommandOutput& output,
+                     const std::function<bool(const SaveReceipt&)>& isDone)
 {
     // A thread takes a whole group at a time, unless others would have nothing to do.
     const std::size_t fair = (files.size() + jobs - 1) / jobs;
@@ -57,21 +75,33 @@ void runBatch(const BatchAction& batch, const std::vector<std::string>& files, u
     std::vector<std::string> firstFiles;
     for (std::size_t i = 0; i < files.size(); i += stretch)
         firstFiles.push_back(files[i]);
+    BatchProgress progress(output.progress(), files.size());
+    std::atomic<std::size_t> changed = 0;
+    std::atomic<std::size_t> failed = 0;
     const auto work = [&](std::size_t index) {
         FileResult result;
-        LineReporter reporter(result.errors);
-        UnwatchedProgress unwatched;
+        CountingReporter reporter(result.errors);
         const std::size_t first = index * stretch;
         const SavedFile saved = [&](const std::string& path, const SaveReceipt& receipt) {
             result.notes += savedLines(writing, path, receipt);
             result.failed = result.failed || (isDone && !isDone(receipt));
+            ++changed;
         };
-        batch.run(first, std::min(first + stretch, files.size()), unwatched, reporter, saved);
+        batch.run(first, std::min(first + stretch, files.size()), progress, reporter, saved);
+        failed += reporter.count;
         return result;
     };
-    StretchProgress progress(output.progress(), stretch, files.size());
+    UnwatchedProgress unwatched;
     forEachFile(
-        firstFiles, jobs, work, [&](const FileResult& result) { output.write(result); }, progress);
+        firstFiles, jobs, work, [&](const FileResult& result) { output.write(result); }, unwatched);
+    return {.begun = progress.begun(), .changed = changed, .failed = failed, .total = files.size()};
+}
+
+std::string countsText(const BatchCounts& counts)
+{
+    const std::size_t rest = counts.begun - std::min(counts.begun, counts.changed + counts.failed);
+    const std::string unchanged = rest > 0 ? groupedNumber(rest) + " unchanged, " : std::string();
+    return groupedNumber(counts.changed) + " changed, " + unchanged + groupedNumber(counts.failed) + " failed";
 }
 
 } // namespace ovisto

@@ -4,10 +4,11 @@
 #include "cli/Options.h"
 #include "common/system/Interruption.h"
 #include "common/text/CodePage.h"
+#include "document/NodePath.h"
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
+#include <utility>
 
 namespace ovisto {
 
@@ -46,34 +47,46 @@ template <NodeAction kAction> void addNodeOptions(CLI::App& parser, ChangeOption
     addFiles(parser, options.files);
 }
 
+/// Why no file has the node, whatever the file; empty when some may.
+Phrase objectionToPath(PathMeaning meaning)
+{
+    if (meaning == PathMeaning::NotAPath)
+        return "Not a node path, which is written as in /JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']";
+    return meaning == PathMeaning::NoSuchNode ? Phrase("No photograph has a node with this path") : Phrase();
+}
+
 /// The change, or an error that says why it cannot be made to any file.
 NodeChange changeOf(const ChangeOptions& options, const TagDictionary& dictionary)
 {
-    NodeChange change{.action = options.action, .entry = {}, .value = decodedText(options.value)};
-    ErrorTrap trap; // what is not a path names no node
-    trap.run([&] { change.entry = dictionary.entry(options.nodePath); });
-    if (!change.entry)
-        throw Error{kInvalidCall, "The tag dictionary has no node " + options.nodePath};
-    if (const Phrase reason = objection(change, options.writing.reading()); !reason.isEmpty())
-        throw Error{kInvalidCall, {Message::InContext, options.nodePath, reason}};
+    const PathMeaning meaning = pathMeaning(options.nodePath);
+    Phrase reason = objectionToPath(meaning);
+    NodeChange change{.action = options.action, .value = decodedText(options.value), .path = options.nodePath};
+    if (reason.isEmpty()) {
+        change.entry = dictionary.entry(options.nodePath);
+        const bool isKnown = change.entry || meaning == PathMeaning::Entry;
+        reason = isKnown ? objection(change, options.writing.reading()) : Message::NoDictionaryEntry;
+    }
+    if (!reason.isEmpty())
+        throw Error{kInvalidCall, reason};
     return change;
 }
 
 int runChange(const ChangeOptions& options)
 {
-    std::vector<std::string> files = fileNames(options.files);
-    deferInterruption();
-    files = withoutRepeats(std::move(files));
     const TagDictionary dictionary = loadDictionary(options.files);
     CommandOutput output;
     NodeChange nodeChange;
-    ErrorTrap trap;
-    trap.run([&] { nodeChange = changeOf(options, dictionary); });
-    if (!trap.pending())
-        runBatch(BatchAction(files, std::move(nodeChange), batchOptions(options.writing, options.files.jobs)), files,
-                 options.files.jobs, options.writing, output);
-    else
-        std::ranges::for_each(files, [&](const auto& path) { ErrorReport(output, path, trap.error()); });
+    if (!attempt(output, options.nodePath, [&] { nodeChange = changeOf(options, dictionary); })) {
+        output.finish();
+        return kWrongUsage;
+    }
+    std::vector<std::string> files = fileNames(options.files);
+    deferInterruption();
+    files = withoutRepeats(std::move(files));
+    const unsigned jobs = options.files.jobs;
+    const BatchAction batch(files, std::move(nodeChange), batchOptions(options.writing, jobs));
+    const BatchCounts counts = runBatch(batch, files, jobs, options.writing, output);
+    output.conclude(counts.begun, counts.total, countsText(counts));
     return output.finish();
 }
 

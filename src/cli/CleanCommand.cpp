@@ -100,9 +100,10 @@ int runClean(const CleanOptions& options)
     };
     CommandOutput output;
     const unsigned jobs = options.files.jobs;
-    runBatch(BatchAction(files, edit, batchOptions(options.writing, jobs)), files, jobs, options.writing, output,
-             isDone);
+    const BatchAction batch(files, edit, batchOptions(options.writing, jobs));
+    const BatchCounts counts = runBatch(batch, files, jobs, options.writing, output, isDone);
     remains.report(files, output);
+    output.conclude(counts.begun, counts.total);
     return output.finish();
 }
 

@@ -8,6 +8,9 @@
 
 #include <cstdio>
 #include <map>
+#include <memory>
+#include <string>
+#include <string_view>
 
 namespace ovisto {
 
@@ -18,6 +21,34 @@ constexpr Command (*kCommands[])() = {showCommand,  xmlCommand,    exportCommand
                                       setCommand,   deleteCommand, addCommand,    checkCommand,
                                       cleanCommand, findCommand,   reportCommand};
 
+/// The help as people write it: an option that switches something off shows no value, and FILE stands for at least one.
+class HelpText : public CLI::Formatter {
+public:
+    std::string make_option_name(const CLI::Option* option, bool isPositional) const override
+    {
+        constexpr std::string_view kSwitchedOff = "{false}";
+        std::string name = Formatter::make_option_name(option, isPositional);
+        if (name.ends_with(kSwitchedOff))
+            name.erase(name.size() - kSwitchedOff.size());
+        return name;
+    }
+
+    std::string make_option_usage(const CLI::Option* option) const override
+    {
+        const std::string name = make_option_name(option, true);
+        return name == "FILE" ? "FILE..." : Formatter::make_option_usage(option);
+    }
+};
+
+/// The line about wrong usage.
+std::string usageLine(const CLI::App* app, const CLI::Error& error)
+{
+    std::string program = "ovisto-cli";
+    for (const CLI::App* command : app->get_subcommands())
+        program += " " + command->get_name();
+    return errorLine("", std::string(error.what()) + "; see " + program + " --help");
+}
+
 } // namespace
 
 int runCommandLine(int argc, char** argv)
@@ -27,6 +58,8 @@ int runCommandLine(int argc, char** argv)
                  "Ctrl+C (or SIGTERM, SIGHUP) ends the commands that write files after the file at hand, without\n"
                  "a half-written one, and a second one ends them at once.",
                  "ovisto-cli");
+    app.formatter(std::make_shared<HelpText>());
+    app.failure_message(usageLine);
     app.set_version_flag("--version", "ovisto-cli " OVISTO_VERSION);
     app.require_subcommand(1);
     std::map<const CLI::App*, std::function<int()>> runs;

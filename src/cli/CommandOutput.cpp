@@ -2,6 +2,7 @@
 
 #include "cli/Command.h"
 #include "cli/TerminalText.h"
+#include "common/system/Interruption.h"
 
 #include <cstdio>
 
@@ -18,12 +19,23 @@ void CommandOutput::write(const FileResult& result)
     const std::string lines = result.notes + result.errors;
     if (result.output.empty() && lines.empty())
         return;
-    m_progress.clear();
-    std::fwrite(result.output.data(), 1, result.output.size(), stdout);
-    if (lines.empty())
-        return;
-    std::fflush(stdout);
-    std::fputs(lines.c_str(), stderr);
+    m_progress.aside([&] {
+        std::fwrite(result.output.data(), 1, result.output.size(), stdout);
+        if (lines.empty())
+            return;
+        std::fflush(stdout);
+        std::fputs(lines.c_str(), stderr);
+    });
+}
+
+void CommandOutput::conclude(std::size_t done, std::size_t total, const std::string& counts)
+{
+    const std::string end = counts.empty() ? "" : ": " + counts;
+    if (interrupted())
+        write({.notes = errorLine("", "Interrupted after " + groupedNumber(done) + " of " + groupedNumber(total) +
+                                          " files" + end)});
+    else if (m_progress.isTerminal() && total > 1 && !counts.empty())
+        write({.notes = counts + "\n"});
 }
 
 void CommandOutput::report(const Phrase& context, const Error& error)
@@ -33,7 +45,7 @@ void CommandOutput::report(const Phrase& context, const Error& error)
 
 int CommandOutput::finish()
 {
-    m_progress.clear();
+    m_progress.aside([] {});
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
         fail(errorLine("", "Standard output cannot be written"));
     return m_failed ? kSomeFailed : kAllDone;

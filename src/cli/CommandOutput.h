@@ -4,6 +4,7 @@
 #include "cli/TerminalProgress.h"
 #include "common/ErrorReport.h"
 
+#include <cstddef>
 #include <string>
 
 namespace ovisto {
@@ -28,6 +29,10 @@ public:
     void write(const FileResult& result);
 
     void report(const Phrase& context, const Error& error) override;
+
+    /// Says how far the command came with its files: after an interruption, and on a terminal when it has `counts` of
+    /// more than one file.
+    void conclude(std::size_t done, std::size_t total, const std::string& counts = {});
 
     /// Ends the output. Returns the exit status of the command.
     int finish();

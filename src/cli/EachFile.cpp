@@ -24,9 +24,14 @@ FileResult resultOf(const std::string& path, const FileWork& work)
 int runEach(const std::vector<std::string>& files, unsigned jobs, const FileWork& work)
 {
     CommandOutput output;
+    std::size_t done = 0;
+    const auto finish = [&](const FileResult& result) {
+        output.write(result);
+        ++done;
+    };
     forEachFile(
-        files, jobs, [&](std::size_t index) { return resultOf(files[index], work); },
-        [&](const FileResult& result) { output.write(result); }, output.progress());
+        files, jobs, [&](std::size_t index) { return resultOf(files[index], work); }, finish, output.progress());
+    output.conclude(done, files.size());
     return output.finish();
 }
 

@@ -4,6 +4,7 @@
 #include "cli/Options.h"
 #include "collection/ContentFilter.h"
 #include "collection/FolderScan.h"
+#include "common/system/File.h"
 #include "common/text/CodePage.h"
 
 #include <CLI/CLI.hpp>
@@ -45,6 +46,19 @@ void addFindOptions(CLI::App& parser, FindOptions& options)
     });
 }
 
+/// Begins to walk through the folder. A walk says of any folder that it cannot read that it is not found.
+void startWalk(std::optional<FolderWalk>& walk, const ScanOptions& scan)
+{
+    ErrorTrap trap;
+    trap.run([&] { walk.emplace(scan.folder, scan.patterns, scan.subFolders); });
+    if (!trap.pending())
+        return;
+    const int number = trap.error().number;
+    if (number != kFileNotFound && number != kPathNotFound)
+        throw systemError(number);
+    throw Error{number, fileExists(scan.folder) ? Message::IsNotAFolder : Message::FolderNotFound};
+}
+
 /// The files to look at: those of the folder, which is gone through meanwhile, then those of the list.
 class FilesToSearch {
 public:
@@ -53,7 +67,7 @@ public:
     {
         const ScanOptions& scan = options.scan;
         if (!scan.folder.empty())
-            attempt(output, scan.folder, [&] { m_walk.emplace(scan.folder, scan.patterns, scan.subFolders); });
+            attempt(output, scan.folder, [&] { startWalk(m_walk, scan); });
         attempt(output, "", [&] { m_listed = fileNames(options.files); });
     }
 

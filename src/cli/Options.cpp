@@ -33,11 +33,17 @@ void readNames(std::vector<std::string>& files, std::istream& input, char separa
     }
 }
 
+/// What is wrong with the value of --jobs; empty if nothing is.
+std::string jobsObjection(const std::string& text)
+{
+    return CLI::Range(1, 1024)(text).empty() ? std::string() : text + " is not a number from 1 to 1024";
+}
+
 } // namespace
 
 void addFiles(CLI::App& parser, FileOptions& options)
 {
-    parser.add_option("FILE", options.files, "JPEG files")->option_text(" ");
+    parser.add_option("FILE", options.files, "JPEG files; none needed with --files-from")->option_text(" ");
     addFileList(parser, options);
     parser.final_callback([&options] { requireFiles(options); });
 }
@@ -57,7 +63,7 @@ void addFileList(CLI::App& parser, FileOptions& options)
     options.jobs = std::max(1U, std::thread::hardware_concurrency());
     parser.add_option("--jobs", options.jobs, "Files worked on at the same time (default: one a core)")
         ->option_text("N")
-        ->check(CLI::Range(1, 1024));
+        ->check(jobsObjection);
 }
 
 void requireFiles(const FileOptions& options)

@@ -4,6 +4,7 @@
 #include "collection/Report.h"
 #include "common/system/File.h"
 #include "common/system/Interruption.h"
+#include "common/system/NewTextFile.h"
 #include "common/system/TemporaryFile.h"
 #include "common/xml/XmlLoad.h"
 #include "common/xml/XmlTransform.h"
@@ -12,6 +13,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,6 +26,7 @@ struct ReportCommandOptions {
     std::string styleSheet;
     std::vector<std::string> readable; ///< folders
     std::string output;                ///< the file to write; empty for standard output
+    std::string encoding = "utf-8";
     KeepOptions keep;
     FileOptions files;
 };
@@ -39,8 +42,10 @@ void addReportOptions(CLI::App& parser, ReportCommandOptions& options)
         ->option_text("DIR")
         ->allow_extra_args(false)
         ->check(CLI::ExistingDirectory);
-    parser.add_option("--output", options.output, "The file to write, in UTF-16; else standard output, in UTF-8")
-        ->option_text("FILE");
+    parser.add_option("--output", options.output, "The file to write, instead of standard output")->option_text("FILE");
+    parser.add_option("--encoding", options.encoding, "utf-8 (the default) or utf-16")
+        ->option_text("ENCODING")
+        ->check(CLI::IsMember({"utf-8", "utf-16"}));
     addKeepOptions(parser, options.keep);
     addBasicOption(parser, options.keep.reading);
     addFiles(parser, options.files);
@@ -57,42 +62,57 @@ bool isPhotograph(const std::string& path)
 }
 
 /// The report, unless it was interrupted: a report on some of the files is none.
-Transformation transformed(const ReportCommandOptions& options, const std::vector<std::string>& files,
-                           CommandOutput& output)
+Transformation transformed(const ReportCommandOptions& options, XmlDocument style,
+                           const std::vector<std::string>& files, CommandOutput& output)
 {
-    XmlDocument style;
     XmlDocument document;
-    // Nothing is written before: a style sheet that never comes out of its pipe is not waited for once more.
-    loadStyleSheet(style, options.styleSheet, FileKind::RegularOrPipe, options.readable);
-    deferInterruption();
     TemporaryFile combined;
     for (const FileFailure& failure : combineDocuments(files, options.keep, combined.file(), output.progress()))
         ErrorReport(output, failure.path, failure.error);
     if (interrupted())
         return {};
     XMLLoad(document, combined.path());
-    return transformNode(document, std::move(style), options.output.empty() ? TextEncoding::Utf8 : TextEncoding::Utf16);
+    return transformNode(document, std::move(style),
+                         options.encoding == "utf-16" ? TextEncoding::Utf16 : TextEncoding::Utf8);
 }
 
-void writeReport(const Transformation& report, const ReportCommandOptions& options, CommandOutput& output)
+/// Makes the report and writes it to `file`, to standard output without one.
+void makeReport(const ReportCommandOptions& options, XmlDocument style, const std::vector<std::string>& files,
+                std::optional<NewTextFile>& file, CommandOutput& output)
 {
+    Transformation report;
+    if (!attempt(output, "", [&] { report = transformed(options, std::move(style), files, output); }) || interrupted())
+        return;
     if (report.error)
         ErrorReport(output, options.styleSheet, *report.error);
-    else if (options.output.empty())
-        output.write({.output = report.bytes, .errors = {}});
+    else if (file)
+        attempt(output, options.output, [&] { file->write(report.bytes); });
     else
-        attempt(output, options.output, [&] { writeTextFile(options.output, report.bytes); });
+        output.write({.output = report.bytes, .errors = {}});
+}
+
+/// Opens the file for the report, if it is to be in one.
+void openOutput(std::optional<NewTextFile>& file, const std::string& path)
+{
+    if (isPhotograph(path))
+        throw Error{kInvalidCall, "A photograph is not replaced by a report"};
+    if (!path.empty())
+        file.emplace(path);
 }
 
 int runReport(const ReportCommandOptions& options)
 {
-    const std::vector<std::string> files = fileNames(options.files);
     CommandOutput output;
-    Transformation report;
-    if (isPhotograph(options.output))
-        ErrorReport(output, options.output, {kInvalidCall, "A photograph is not replaced by a report"});
-    else if (attempt(output, "", [&] { report = transformed(options, files, output); }) && !interrupted())
-        writeReport(report, options, output);
+    XmlDocument style;
+    std::optional<NewTextFile> file;
+    const std::vector<std::string> files = fileNames(options.files);
+    // A style sheet that never comes out of its pipe is not waited for once more, so that is before anything is
+    // written.
+    const bool isReady = attempt(
+        output, "", [&] { loadStyleSheet(style, options.styleSheet, FileKind::RegularOrPipe, options.readable); });
+    deferInterruption();
+    if (isReady && attempt(output, options.output, [&] { openOutput(file, options.output); }))
+        makeReport(options, std::move(style), files, file, output);
     return output.finish();
 }
 

@@ -21,6 +21,7 @@ bool TerminalProgress::step(const std::string& path, std::size_t done, std::size
     const auto now = std::chrono::steady_clock::now();
     if (interrupted())
         return false;
+    const std::lock_guard lock(m_mutex);
     if (!m_isTerminal || total == 1 || now - m_lastDrawn < kInterval)
         return true;
     m_lastDrawn = now;

@@ -19,9 +19,9 @@ constexpr bool isControl(char32_t character)
 std::string errorLine(const Phrase& context, const Phrase& message)
 {
     const std::string path = inEnglish(context);
-    const std::string reason = inEnglish(message);
-    const bool named =
-        path.empty() || reason.ends_with("=" + path) || reason.ends_with(" " + path) || reason.starts_with(path + ": ");
+    const bool namesFileLast = message.message() == Message::OpenFailed;
+    const std::string reason = inEnglish(namesFileLast ? message.as(Message::FileNotOpened) : message);
+    const bool named = path.empty() || reason.ends_with(" " + path) || reason.starts_with(path + ": ");
     const std::string start = named ? "" : oneLine(path) + ": ";
     return "ovisto-cli: " + start + oneLine(reason, kMostColumns + path.size()) + "\n";
 }
@@ -45,6 +45,14 @@ std::string oneLine(const std::string& text, std::size_t mostColumns)
         appendCharacter(line, character);
     }
     return line;
+}
+
+std::string groupedNumber(std::size_t number)
+{
+    std::string text = std::to_string(number);
+    for (std::size_t place = text.size(); place > 3;)
+        text.insert(place -= 3, ",");
+    return text;
 }
 
 } // namespace ovisto

@@ -15,4 +15,7 @@ std::string errorLine(const Phrase& context, const Phrase& message);
 /// beyond `mostColumns` is cut.
 std::string oneLine(const std::string& text, std::size_t mostColumns = std::string::npos);
 
+/// A number for people, with commas between groups of three digits.
+std::string groupedNumber(std::size_t number);
+
 } // namespace ovisto

@@ -35,11 +35,23 @@ std::string anyWordPattern(const ContentSearch& search)
 
 RegularExpression wordExpression(const std::string& pattern, Reading reading)
 {
-    RegularExpression typed(pattern); // an error is to speak of what was typed
+    RegularExpression typed(pattern); // an error is to be in what was typed
     if (reading == Reading::Full)
         return RegularExpression(foldedPattern(pattern), Letters::Unicode);
     const std::string inDocument = documentPattern(pattern);
     return inDocument == pattern ? std::move(typed) : RegularExpression(inDocument);
+}
+
+std::vector<RegularExpression> wordExpressions(const ContentSearch& search)
+{
+    std::vector<RegularExpression> expressions;
+    if (search.allWords) {
+        for (const std::string_view word : split(search.words, ','))
+            expressions.push_back(wordExpression(wordPattern(word, search.wholeWords), search.reading));
+    } else {
+        expressions.push_back(wordExpression(anyWordPattern(search), search.reading));
+    }
+    return expressions;
 }
 
 std::vector<RegularExpression> expressionsFor(const ContentSearch& search)
@@ -49,12 +61,16 @@ std::vector<RegularExpression> expressionsFor(const ContentSearch& search)
         return expressions;
     if (search.regExp) {
         expressions.emplace_back(search.words);
-    } else if (search.allWords) {
-        for (const std::string_view word : split(search.words, ','))
-            expressions.push_back(wordExpression(wordPattern(word, search.wholeWords), search.reading));
-    } else {
-        expressions.push_back(wordExpression(anyWordPattern(search), search.reading));
+        return expressions;
     }
+    ErrorTrap trap;
+    trap.run([&] { expressions = wordExpressions(search); });
+    // An error is to speak of what was typed, which is no regular expression for a person.
+    if (trap.pending() && trap.error().description.message() == Message::NotARegularExpression)
+        throw Error{
+            trap.error().number,
+            {Message::WordsNotUnderstood, search.words, trap.error().description.as(Message::ExpressionReason)}};
+    trap.raise();
     return expressions;
 }
 

@@ -60,7 +60,7 @@ FolderWalk::FolderWalk(std::string folder, std::string_view patterns, bool subFo
     ErrorTrap trap;
     trap.run([&] { read(folder); });
     if (trap.pending())
-        throw Error{kPathNotFound, Message::FolderNotFound};
+        throw Error{trap.error().number, Message::FolderNotFound};
 }
 
 std::optional<FolderWalk::File> FolderWalk::next(Progress& progress, ErrorReporter& reporter)

@@ -18,8 +18,8 @@ namespace ovisto {
 /// its subfolders. No folder is read twice, whatever links lead to it, so circular links end.
 class FolderWalk {
 public:
-    /// Raises kPathNotFound, described by Message::FolderNotFound, when `folder` cannot be read. The files are those
-    /// whose names match `patterns`, without what saves left under temporary names.
+    /// When `folder` cannot be read, raises an error that is described by Message::FolderNotFound; only its number says
+    /// why. The files are those whose names match `patterns`, without what saves left under temporary names.
     FolderWalk(std::string folder, std::string_view patterns, bool subFolders);
 
     /// A file and its place among the files of its folder.

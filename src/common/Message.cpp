@@ -32,11 +32,19 @@ constexpr MessageText kTexts[] = {
     {Message::PathNotFound, QT_TRANSLATE_NOOP("Message", "Path not found")},
     {Message::ObjectNotSet, QT_TRANSLATE_NOOP("Message", "Object not set")},
     {Message::UnexpectedError, QT_TRANSLATE_NOOP("Message", "Unexpected error")},
+    {Message::IsAFolder, QT_TRANSLATE_NOOP("Message", "It is a folder, not a file")},
+    {Message::IsNotAFolder, QT_TRANSLATE_NOOP("Message", "It is not a folder")},
+    {Message::IsNotAFile, QT_TRANSLATE_NOOP("Message", "It is not a regular file")},
+    {Message::NoSuchFolder, QT_TRANSLATE_NOOP("Message", "There is no folder %1")},
     {Message::Interrupted, QT_TRANSLATE_NOOP("Message", "Interrupted")},
 
     {Message::NotARegularExpression,
      QT_TRANSLATE_NOOP("Message", "Not a regular expression: %1: %2 (at character %3)")},
     {Message::ExpressionRunsTooLong, QT_TRANSLATE_NOOP("Message", "The regular expression runs too long: %1")},
+    {Message::ExpressionReason, "%2"},
+    {Message::WordsNotUnderstood,
+     QT_TRANSLATE_NOOP("Message", "The words \"%1\" cannot be searched for: %2. Characters such as ( * ? have a "
+                                  "meaning; put \\ before one that stands for itself.")},
 
     {Message::XmlFileError, QT_TRANSLATE_NOOP("Message", "File %1\r\nLine %2 pos %3 \r\n%4\r\n%5")},
     {Message::XmlTextError, QT_TRANSLATE_NOOP("Message", "%1 line:%2 pos:%3 src:%4")},
@@ -58,6 +66,7 @@ constexpr MessageText kTexts[] = {
      QT_TRANSLATE_NOOP("Message", "The style sheet takes far more memory than the documents need")},
 
     {Message::OpenFailed, QT_TRANSLATE_NOOP("Message", "%1  file=%2")},
+    {Message::FileNotOpened, QT_TRANSLATE_NOOP("Message", "%2: %1")},
     {Message::NotAJpeg, QT_TRANSLATE_NOOP("Message", "Not a JPEG file - hFFD8 expected at start of file %1")},
     {Message::UnknownMarker, QT_TRANSLATE_NOOP("Message", "Header seems corrupted - unknown Marker %1 %2")},
     {Message::NoScan, QT_TRANSLATE_NOOP("Message", "No StartOfStream marker found %1")},
@@ -70,6 +79,11 @@ constexpr MessageText kTexts[] = {
     {Message::NodeOfFullReading,
      QT_TRANSLATE_NOOP("Message",
                        "Only a document that reads everything has this node; rebuilding reads a basic one.")},
+    {Message::NoDictionaryEntry, QT_TRANSLATE_NOOP("Message", "The tag dictionary has no entry for this node.")},
+    {Message::NodeNotCreated,
+     QT_TRANSLATE_NOOP("Message", "The file does not have this node, and it cannot be created without an entry in the "
+                                  "tag dictionary.")},
+    {Message::SeveralNodes, QT_TRANSLATE_NOOP("Message", "%1 nodes of the file have this path.")},
     {Message::CharacterLost,
      QT_TRANSLATE_NOOP("Message", "\"%1\" would be written as \"?\": in a basic document, %2 holds Western European "
                                   "texts only.")},

@@ -24,10 +24,16 @@ enum class Message : std::uint8_t {
     PathNotFound,
     ObjectNotSet,
     UnexpectedError,
+    IsAFolder,
+    IsNotAFolder,
+    IsNotAFile,
+    NoSuchFolder,
     Interrupted,
     // Regular expressions
     NotARegularExpression,
     ExpressionRunsTooLong,
+    ExpressionReason,
+    WordsNotUnderstood,
     // XML
     XmlFileError,
     XmlTextError,
@@ -45,6 +51,7 @@ enum class Message : std::uint8_t {
     StyleSheetTooLarge,
     // Reading
     OpenFailed,
+    FileNotOpened,
     NotAJpeg,
     UnknownMarker,
     NoScan,
@@ -53,6 +60,9 @@ enum class Message : std::uint8_t {
     NodeOfTheImage,
     NodeRequired,
     NodeOfFullReading,
+    NoDictionaryEntry,
+    NodeNotCreated,
+    SeveralNodes,
     CharacterLost,
     CreateNodeFailed,
     // Writing

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <vector>
 
 namespace ovisto {
 
@@ -58,6 +59,34 @@ bool isPartOfImage(const DictionaryEntry& entry)
     return entry.protection() == Protection::Required && !entry.path().starts_with(kAnyExifPath);
 }
 
+std::string pathOf(const NodeChange& change)
+{
+    if (!change.path.empty())
+        return change.path;
+    return change.node ? NodeXPath(change.node) : change.entry.path();
+}
+
+/// The node to change; no node where the document does not have it.
+XmlNode nodeToChange(XmlDocument& document, const NodeChange& change, const std::string& path)
+{
+    if (change.node)
+        return change.node;
+    if (change.path.empty())
+        return document.selectSingleNode(path);
+    const std::vector<XmlNode> nodes = document.selectNodes(path);
+    if (nodes.size() > 1)
+        throw Error{kInvalidCall, {Message::SeveralNodes, std::to_string(nodes.size())}};
+    return nodes.empty() ? XmlNode() : nodes.front();
+}
+
+/// Raises an error where the new value of a node without an entry could not be written as it is.
+void checkValue(const NodeChange& change, const XmlNode& node, const std::string& path)
+{
+    const bool isChecked = change.entry || readingOf(node) == Reading::Full; // the entry's objection, if any, is known
+    if (const auto lost = isChecked ? std::nullopt : characterLost(dataTypeOf(node), change.value))
+        throw Error{kInvalidCall, lossOf(*lost, path)};
+}
+
 } // namespace
 
 std::optional<char32_t> characterLost(int dataType, std::string_view value)
@@ -80,12 +109,14 @@ Phrase lossOf(char32_t character, const std::string& label)
 
 Phrase objection(const NodeChange& change, Reading reading)
 {
+    if (!change.entry && change.action == NodeAction::Add)
+        return Message::NoDictionaryEntry;
     const bool isBasicText = reading == Reading::Basic && change.action == NodeAction::Set;
     if (const auto lost = isBasicText ? characterLost(change.entry.dataType(), change.value) : std::nullopt)
         return lossOf(*lost, change.entry.label());
-    if (reading == Reading::Basic && readingNeeded(change.entry.path()) == Reading::Full)
+    if (reading == Reading::Basic && readingNeeded(pathOf(change)) == Reading::Full)
         return Message::NodeOfFullReading;
-    if (change.action == NodeAction::Set && !change.entry.hasDataType())
+    if (change.action == NodeAction::Set && change.entry && !change.entry.hasDataType())
         return Message::NoDataType;
     if (isPartOfImage(change.entry))
         return Message::NodeOfTheImage;
@@ -96,8 +127,8 @@ Phrase objection(const NodeChange& change, Reading reading)
 
 ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)
 {
-    const std::string path = change.node ? NodeXPath(change.node) : change.entry.path();
-    XmlNode node = change.node ? change.node : document.selectSingleNode(path);
+    const std::string path = pathOf(change);
+    XmlNode node = nodeToChange(document, change, path);
     if (change.action == NodeAction::Delete) {
         if (!node)
             return {};
@@ -105,6 +136,8 @@ ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorR
         return {.changed = true, .companion = removeCompanion(document, path)};
     }
     const bool isNew = !node;
+    if (isNew && !change.entry)
+        throw Error{kInvalidCall, Message::NodeNotCreated};
     if (isNew)
         node = createNode(document, change, reporter);
     if (change.action == NodeAction::Add)
@@ -112,6 +145,7 @@ ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorR
     // A new node without a text is as good as none for a value that is empty: nothing is written for it.
     if (node.text() == change.value)
         return {};
+    checkValue(change, node, path);
     node.setText(change.value);
     return {.changed = true};
 }

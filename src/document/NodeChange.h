@@ -19,6 +19,9 @@ struct NodeChange {
     DictionaryEntry entry{}; ///< of the node
     std::string value{};     ///< the new text, for Set
     XmlNode node{};          ///< the node itself, for one document; without it, the first one at the entry's path
+    /// The path of the node as a person named it: a document with several such nodes is not changed. The entry may then
+    /// be missing, if it is the path of an entry of a directory.
+    std::string path{};
 };
 
 /// What a change did to a document.

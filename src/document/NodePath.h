@@ -3,6 +3,7 @@
 #include "common/xml/XmlNode.h"
 
 #include <string>
+#include <string_view>
 
 namespace ovisto {
 
@@ -16,5 +17,15 @@ void AttributeSet(XmlNode node, const char* name, const std::string& value);
 /// an id, as in /JPEG/Exif[@id='FFE1']/IFDE/IFD[@id='9003']. The path of a text is that of its element. The same path
 /// selects the node in a metadata document and its entry in the tag dictionary.
 std::string NodeXPath(const ConstXmlNode& node);
+
+/// What a text means as a node path.
+enum class PathMeaning {
+    NotAPath,   ///< it is not written as NodeXPath() writes paths
+    NoSuchNode, ///< no document has such a node
+    Entry,      ///< an entry of a directory; documents have entries of any tag
+    OtherNode,
+};
+
+PathMeaning pathMeaning(std::string_view path);
 
 } // namespace ovisto

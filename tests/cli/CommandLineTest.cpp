@@ -22,9 +22,9 @@ CommandRun ovisto(std::vector<std::string> arguments, const std::string& input =
 }
 
 /// Expects one line on standard error that names the file and the reason.
-void expectOneLine(const CommandRun& run, const std::string& file, const std::string& reason)
+void expectOneLine(const CommandRun& run, const std::string& file, const std::string& reason, int status = 1)
 {
-    EXPECT_EQ(run.status, 1) << run.errors;
+    EXPECT_EQ(run.status, status) << run.errors;
     EXPECT_EQ(std::ranges::count(run.errors, '\n'), 1) << run.errors;
     EXPECT_NE(run.errors.find(file), std::string::npos) << run.errors;
     EXPECT_NE(run.errors.find(reason), std::string::npos) << run.errors;
@@ -35,7 +35,7 @@ std::string onTerminal(const std::vector<std::string>& arguments)
 {
     std::string line = "'" OVISTO_CLI "'";
     for (const std::string& argument : arguments)
-        line += " '" + argument + "'";
+        line += " \"" + argument + "\"";
     return runCommand({"script", "-qec", line + " >/dev/null", "/dev/null"}).output;
 }
 
@@ -120,6 +120,22 @@ TEST(CommandLine, ChangesFilesNamedInEveryWay)
     EXPECT_EQ(folder.names().size(), 4U) << "no temporary file stays";
 }
 
+TEST(CommandLine, CountsOnATerminalWhatItChanged)
+{
+    const TemporaryFolder folder;
+    std::vector<std::string> arguments{"set", kTitle, "New", folder.path("none.jpg")};
+    for (const char* name : {"a.jpg", "b.jpg"})
+        arguments.push_back(folder.file(name, JpegBytes().app0().end()));
+    EXPECT_TRUE(onTerminal(arguments).ends_with("\r\n2 changed, 1 failed\r\n"));
+    arguments.push_back(folder.file("c.jpg", JpegBytes().app0().end()));
+    EXPECT_TRUE(onTerminal(arguments).ends_with("\r\n1 changed, 2 unchanged, 1 failed\r\n"));
+    arguments.resize(3);
+    for (int i = 0; i < 1001; ++i)
+        arguments.push_back(folder.path(std::to_string(i)));
+    EXPECT_TRUE(onTerminal(arguments).ends_with("\r\n0 changed, 1,001 failed\r\n"));
+    EXPECT_EQ(onTerminal({"set", kTitle, "Other", folder.path("a.jpg")}), "") << "one file needs no count";
+}
+
 TEST(CommandLine, DoesNotDestroyAFileThatHasATemporaryName)
 {
     const TemporaryFolder folder;
@@ -185,9 +201,10 @@ TEST(CommandLine, SaysInOneLineWhyAFileFailedAndDoesTheOthers)
         std::string path;
         std::string reason;
     } cases[] = {
-        {folder.path("none.jpg"), "File not found  file="},
-        {folder.path("none/a.jpg"), "Path not found  file="},
-        {folder.path("."), "Path/File access error  file="},
+        {folder.path("none.jpg"), "none.jpg: File not found\n"},
+        {folder.path("none/a.jpg"), "none/a.jpg: Path not found\n"},
+        {folder.path("."), ": It is a folder, not a file\n"},
+        {"/dev/null", "/dev/null: It is not a regular file\n"},
         {folder.file("empty.jpg", Bytes{}), "Not a JPEG file - hFFD8 expected"},
         {folder.file("text.jpg", "hello"), "Not a JPEG file - hFFD8 expected"},
         {folder.file("short.jpg", Bytes{0xFF, 0xD8, 0xFF}), "Header seems corrupted - unknown Marker FF00"},
@@ -209,26 +226,53 @@ TEST(CommandLine, RefusesNodesThatItCannotChange)
     const TemporaryFolder folder;
     const Bytes before = fullPhotograph(true);
     const std::string path = folder.file("a.jpg", before);
+    const std::string exif = "/JPEG/Exif[@id='FFE1']";
     const struct {
         std::vector<std::string> arguments;
         std::string reason;
+        int status;
     } cases[] = {
-        {{"set", "/JPEG/Exif[@id='FFE1']/IFD[@id='ABCD']", "1"}, "The tag dictionary has no node "},
-        {{"delete", "nonsense["}, "The tag dictionary has no node nonsense["},
-        {{"set", "/JPEG/Exif[@id='FFE1']/IFDE", "1"}, "I don't know what type of data this node requires"},
-        {{"set", "//namespace::*", "1"}, "The tag dictionary has no node "},
-        {{"delete", "/JPEG/SOS"}, "The image cannot be shown without this node"},
-        {{"set", "/JPEG/Exif[@id='FFE1']/IFD[@id='0112']", "up"}, "Exif 0112: Type mismatch"},
-        {{"set", "--rebuild", "/JPEG/Exif[@id='FFE1']/IFD[@id='0112']", ""}, "Data format 3 error:: Type mismatch"},
+        {{"delete", "nonsense["}, "nonsense[: Not a node path", 2},
+        {{"delete", "/JPEG/Nonsense"}, "/JPEG/Nonsense: No photograph has ", 2},
+        {{"add", exif + "/IFD[@id='ABCD']"}, "no entry for this node", 2},
+        {{"set", exif + "/IFDE", "1"}, "I don't know what type of data this node requires", 2},
+        {{"delete", "/JPEG/SOS"}, "The image cannot be shown without this node", 2},
+        {{"set", "--rebuild", exif + "/IFDG/IFD[@id='ABCD']", "1"}, "rebuilding reads a basic one", 2},
+        {{"set", "--basic", exif + "/IFD[@id='010F']", "\xCE\xA9"}, "would be written as \"?\"", 2},
+        {{"set", exif + "/IFD[@id='ABCD']", "1"}, "does not have this node", 1},
+        {{"set", exif + "/IFD[@id='0112']", "up"}, "Exif 0112: Type mismatch", 1},
+        {{"set", "--rebuild", exif + "/IFD[@id='0112']", ""}, "Data format 3 error:: Type mismatch", 1},
     };
     for (const auto& c : cases) {
         std::vector<std::string> arguments = c.arguments;
         arguments.push_back(path);
-        expectOneLine(ovisto(arguments), path, c.reason);
+        if (c.status == 2) // for all files at once: none is opened
+            arguments.push_back(folder.path("none.jpg"));
+        expectOneLine(ovisto(arguments), c.status == 2 ? "ovisto-cli: " : path, c.reason, c.status);
         EXPECT_EQ(contentOf(path), before) << c.reason;
     }
     expectOneLine(ovisto({"set", kTitle, "x", "--dictionary", folder.path("none.xml"), path}), "none.xml",
                   "File not found");
+}
+
+TEST(CommandLine, ChangesEntriesThatTheDictionaryDoesNotKnow)
+{
+    const TemporaryFolder folder;
+    const std::string node = "/JPEG/Exif[@id='FFE1']/IFD[@id='ABCD']";
+    ExifBytes exif;
+    exif.ifd0({exif.ascii(0x010F, "Acme"), exif.ascii(0xABCD, "old")});
+    const std::string path = folder.file("a.jpg", JpegBytes().exif(exif).end());
+    EXPECT_EQ(ovisto({"set", node, "new value", path}).errors, "");
+    EXPECT_EQ(loadDocument(path).selectSingleNode(node).text(), "new value");
+    expectOneLine(ovisto({"set", "--basic", node, "\xCE\xA9", path}), path, "would be written as \"?\"");
+    EXPECT_EQ(ovisto({"delete", node, path, folder.file("b.jpg", JpegBytes().app0().end())}).errors, "");
+    EXPECT_FALSE(loadDocument(path).selectSingleNode(node));
+
+    const Bytes segment = bytes("x");
+    const Bytes before = JpegBytes().segment(0xFFFE, segment).segment(0xFFFE, segment).end();
+    const std::string twice = folder.file("twice.jpg", before);
+    expectOneLine(ovisto({"delete", "/JPEG/APP1[@id='FFFE']", twice, path}), twice, "2 nodes of the file");
+    EXPECT_EQ(contentOf(twice), before);
 }
 
 TEST(CommandLine, KeepsOutputInInputOrderWithManyJobs)
@@ -261,7 +305,9 @@ TEST(CommandLine, FindsFilesInScanOrder)
         ovisto({"find", root, "--pattern", "?.jpg", "--no-subfolders", "--words", "^<IFD.*>ACME<", "--regexp"}).output,
         first + "\n");
     EXPECT_EQ(ovisto({"find", root, "--words", "acm", "--whole-words"}).status, 0) << "to find nothing is no failure";
-    EXPECT_EQ(ovisto({"find", root, "--words", "(", "--regexp"}).status, 2);
+    expectOneLine(ovisto({"find", root, "--words", "(", "--regexp"}), "Not a regular expression: (: ", "", 2);
+    expectOneLine(ovisto({"find", root, "--words", "a,b(", "--whole-words"}), "The words \"a,b(\" ", "\\ before", 2);
+    expectOneLine(ovisto({"find", first}), first, "It is not a folder");
     EXPECT_EQ(ovisto({"find"}).status, 2);
     const std::string list = folder.path("a.jpg") + '\n' + folder.file("other.name", fullPhotograph(true)) + '\n';
     EXPECT_EQ(ovisto({"find", "--files-from", "-", "--words", "acme"}, list).output, folder.path("other.name") + "\n");
@@ -295,7 +341,11 @@ TEST(CommandLine, ReportsOnManyFilesAtOnce)
     expectOneLine(ovisto({"report", "--style", failing, "--output", output, good}), failing, "");
     expectOneLine(ovisto({"report", "--style", folder.path("none.xsl"), good}), "none.xsl", "File not found");
     EXPECT_EQ(contentOf(output), before);
-    expectOneLine(ovisto({"report", "--style", style, "--output", folder.path("none/out"), good}), "none/out", "");
+    for (const char* place : {"none/out", "."}) // before any file is read
+        expectOneLine(ovisto({"report", "--style", style, "--output", folder.path(place), broken}), place, "folder");
+    EXPECT_EQ(contentOf(output), bytes("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<t>H\xC3\xA9llo</t>\n"));
+    EXPECT_EQ(ovisto({"report", "--style", style, "--output", output, "--encoding", "utf-16", good}).status, 0);
+    EXPECT_EQ(contentOf(output)[0], 0xFF) << "of the byte-order mark";
     EXPECT_EQ(ovisto({"report", good}).status, 2);
     // Of the program's own temporary files, only those go that nobody holds.
     const TemporaryFolder temporary;
@@ -314,7 +364,9 @@ TEST(CommandLine, TellsUsageFromFailure)
     const TemporaryFolder folder;
     EXPECT_EQ(ovisto({"--help"}).status, 0);
     EXPECT_EQ(ovisto({"set", "--help"}).status, 0);
-    EXPECT_EQ(ovisto({"--version"}).output.find("ovisto-cli "), 0U);
+    const std::string help = ovisto({"find", "--help"}).output + ovisto({"report", "--help"}).output;
+    for (const char* wrong : {"{", "[FILE"})
+        EXPECT_EQ(help.find(wrong), std::string::npos) << wrong;
     for (const std::vector<std::string>& arguments : {std::vector<std::string>{},
                                                       {"xml"},
                                                       {"frobnicate"},
@@ -322,9 +374,11 @@ TEST(CommandLine, TellsUsageFromFailure)
                                                       {"xml", "--jobs", "none", "a.jpg"},
                                                       {"write", "--document", "a.xml", "a.jpg", "b.jpg"},
                                                       {"xml", "--no-such-option", "a.jpg"}})
-        EXPECT_EQ(ovisto(arguments).status, 2);
+        expectOneLine(ovisto(arguments), "ovisto-cli: ", " --help\n", 2);
+    for (const char* jobs : {"x", "0", "1025", "2x", "-1"})
+        expectOneLine(ovisto({"xml", "--jobs", jobs, "a.jpg"}), jobs, "is not a number from 1 to 1024", 2);
     expectOneLine(ovisto({"xml", "--files-from", folder.path("none")}), folder.path("none"), "");
-    expectOneLine(ovisto({"xml", "--files-from", folder.path(".")}), folder.path("."), "Path/File access error");
+    expectOneLine(ovisto({"xml", "--files-from", folder.path(".")}), folder.path("."), "It is a folder");
     EXPECT_EQ(ovisto({"xml", "--files-from", "-"}).status, 0) << "an empty list is done at once";
 }
 

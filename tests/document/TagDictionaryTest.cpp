@@ -32,6 +32,7 @@ TEST(TagDictionary, IsCompleteForEveryEntry)
         if (!isContainer) {
             EXPECT_NE(dataTypeName(entry.dataType()), "") << path;
         }
+        EXPECT_EQ(pathMeaning(path), name == "IFD" ? PathMeaning::Entry : PathMeaning::OtherNode) << path;
         const DictionaryEntry above(node.parent());
         EXPECT_FALSE(entry.visibility() == Visibility::Shown && above.visibility() != Visibility::Shown)
             << path << " would never be seen";
@@ -90,6 +91,55 @@ TEST(TagDictionary, HoldsWhatTheProgramLooksUp)
         const bool isOfImage = (marker < 0xFFE0 && !hasElement) || marker == 0xFFF7 || marker == 0xFFF8; // JPEG-LS
         EXPECT_EQ(entry.protection() == Protection::Required, isOfImage) << hexNumber(marker);
     }
+}
+
+TEST(NodePath, IsWhatTheProgramPrintsAndNoOtherXPath)
+{
+    using enum PathMeaning;
+    const std::string exif = kExifPath;
+    const std::pair<std::string, PathMeaning> cases[] = {
+        {"", NotAPath},
+        {"/", NotAPath},
+        {"//IFD", NotAPath},
+        {"JPEG", NotAPath},
+        {"/JPEG/", NotAPath},
+        {" /JPEG", NotAPath},
+        {"/*", NotAPath},
+        {"/JPEG/..", NotAPath},
+        {"/JPEG/text()", NotAPath},
+        {"document('/etc/passwd')", NotAPath},
+        {exif + "|/JPEG/SOS", NotAPath},
+        {exif + "/IFD[1]", NotAPath},
+        {exif + "/IFD[@id=\"9C9B\"]", NotAPath},
+        {exif + "/IFD[@id='']", NotAPath},
+        {exif + "/IFD[@id='9C9B'", NotAPath},
+        {exif + "/IFD[@id='9C9B'][@id='9C9B']", NotAPath},
+        {exif + "/IFD[@id='9C9B' or '1']", NotAPath},
+        {exif + "IFDE", NotAPath},
+        {"/Exif[@id='FFE1']", NoSuchNode},
+        {"/JPEG[@id='FFE1']", NoSuchNode},
+        {"/JPEG/Nonsense", NoSuchNode},
+        {"/JPEG/JPEG", NoSuchNode},
+        {"/JPEG/Exif", NoSuchNode},
+        {"/JPEG/Exif1", NoSuchNode},
+        {"/JPEG/SOS[@id='FFDA']", NoSuchNode},
+        {"/JPEG/APP1[@id='FFE1']", NoSuchNode},
+        {"/JPEG/APP1[@id='FF00']", NoSuchNode},
+        {"/JPEG/IFD[@id='9C9B']", NoSuchNode},
+        {exif + "/IFD", NoSuchNode},
+        {exif + "/IFD[@id='9c9b']", NoSuchNode},
+        {exif + "/IFD[@id='09C9B']", NoSuchNode},
+        {exif + "/IFD[@id='0000']", NoSuchNode},
+        {exif + "/IFD1[@id='9C9B']", NoSuchNode},
+        {exif + "/IFDE/IFDI", NoSuchNode},
+        {exif + "/IFDE/MAKE/IFD[@id='0001']", NoSuchNode},
+        {exif + "/IFD[@id='ABCD']", Entry},
+        {exif + "/IFDG/IFD[@id='0000']", Entry},
+        {exif + "/IFD1/THUM", OtherNode},
+        {"/JPEG/APP1[@id='FFFE']", OtherNode},
+    };
+    for (const auto& [path, meaning] : cases)
+        EXPECT_EQ(pathMeaning(path), meaning) << path;
 }
 
 TEST(TagDictionary, IsValidByItsDocumentType)

@@ -2,6 +2,7 @@
 
 #include "common/system/FileNames.h"
 #include "common/system/FileReplacement.h"
+#include "common/system/NewTextFile.h"
 #include "common/system/posix/SystemCalls.h"
 #include "common/system/posix/SystemError.h"
 
@@ -28,14 +29,19 @@ constexpr std::size_t kBufferSize = std::size_t{64} * 1024;
 /// What the name of a text file that is not yet whole ends with, so that nobody takes it for a file of their own.
 constexpr auto* kTextMark = ".ovisto";
 
+bool isFolderMissing(const std::string& path)
+{
+    const std::string folder = folderOf(path);
+    return !folder.empty() && access(folder.c_str(), F_OK) != 0;
+}
+
 FileHandle openFile(const std::string& path, int flags)
 {
     FileHandle handle(systemCall(&SystemCalls::open, path.c_str(), flags | O_CLOEXEC, 0));
     if (handle.get() >= 0)
         return handle;
     const int openError = errno;
-    const std::string folder = folderOf(path);
-    if (openError == ENOENT && !folder.empty() && access(folder.c_str(), F_OK) != 0)
+    if (openError == ENOENT && isFolderMissing(path))
         throw systemError(kPathNotFound);
     throw errorOf(openError);
 }
@@ -124,8 +130,11 @@ FileHandle created(const std::string& path, NewFileAccess access)
 {
     constexpr int kNewOnly = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     FileHandle handle(systemCall(&SystemCalls::open, path.c_str(), kNewOnly, accessMode(access)));
-    if (handle.get() < 0 && errno != EEXIST)
-        throw errorOf(errno);
+    const int openError = errno;
+    if (handle.get() < 0 && openError == ENOENT && isFolderMissing(path))
+        throw Error{kPathNotFound, {Message::NoSuchFolder, folderOf(path)}};
+    if (handle.get() < 0 && openError != EEXIST)
+        throw errorOf(openError);
     if (handle.get() < 0 || lock(handle.get()) == Lock::HeldByAnother || !names(path, statusOf(handle.get())))
         return {};
     return handle;
@@ -240,7 +249,7 @@ InputFile::InputFile(FileHandle handle) : m_handle(std::move(handle))
     const std::int64_t now = nanosecondsNow();
     const struct stat status = statusOf(m_handle.get());
     if (!S_ISREG(status.st_mode))
-        throw systemError(kPathAccessError);
+        throw Error{kPathAccessError, S_ISDIR(status.st_mode) ? Message::IsAFolder : Message::IsNotAFile};
     m_status = fileStatus(status, now);
 }
 
@@ -438,23 +447,42 @@ std::string readTextFile(const std::string& path, FileKind kind)
     return content;
 }
 
-void writeTextFile(const std::string& path, std::string_view content)
+NewTextFile::NewTextFile(const std::string& path)
+    : m_target(linkTarget(path)),
+      m_file(OutputFile::forNewVersionOf(
+          m_target + kTextMark, [](const std::string& /*path*/, const InputFile& /*file*/) { return true; },
+          NewFileAccess::Usual))
 {
-    const std::string target = linkTarget(path);
-    const LeftoverTest isAny = [](const std::string& /*path*/, const InputFile& /*file*/) { return true; };
-    OutputFile file = OutputFile::forNewVersionOf(target + kTextMark, isAny, NewFileAccess::Usual);
     ErrorTrap trap;
     trap.run([&] {
-        file.write({reinterpret_cast<const std::uint8_t*>(content.data()), content.size()});
-        takeAttributesOfOld(file, target);
-        file.sync();
-        if (const auto failure = replaceFile(file, target))
+        takeAttributesOfOld(m_file, m_target);
+        if (const auto failure = replaceObstacle(m_target))
             throw Error(failure->error);
-        syncFolder(folderOf(target));
     });
     if (trap.pending())
-        file.discard();
+        m_file.discard();
     trap.raise();
+}
+
+NewTextFile::~NewTextFile()
+{
+    if (!m_isInPlace)
+        m_file.discard();
+}
+
+void NewTextFile::write(std::string_view content)
+{
+    m_file.write({reinterpret_cast<const std::uint8_t*>(content.data()), content.size()});
+    m_file.sync();
+    if (const auto failure = replaceFile(m_file, m_target))
+        throw Error(failure->error);
+    m_isInPlace = true;
+    syncFolder(folderOf(m_target));
+}
+
+void writeTextFile(const std::string& path, std::string_view content)
+{
+    NewTextFile(path).write(content);
 }
 
 bool fileExists(const std::string& path)

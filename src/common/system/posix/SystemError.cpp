@@ -9,6 +9,8 @@ Error errorOf(int errorNumber)
         return systemError(kFileNotFound);
     case ENOTDIR:
         return systemError(kPathNotFound);
+    case EISDIR:
+        return {kPathAccessError, Message::IsAFolder};
     case EACCES:
     case EPERM:
     case EROFS:
