@@ -3,14 +3,19 @@
 #include "cli/Commands.h"
 #include "cli/TerminalText.h"
 #include "common/Error.h"
+#include "common/Libraries.h"
 
 #include <CLI/CLI.hpp>
+#ifdef OVISTO_MIMALLOC
+#include <mimalloc.h>
+#endif
 
 #include <cstdio>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ovisto {
 
@@ -40,6 +45,22 @@ public:
     }
 };
 
+/// The versions of the program and of the libraries that it is made of, one a line.
+std::string versionText()
+{
+    std::vector<Library> libraries = engineLibraries();
+    libraries.push_back({"CLI11", CLI11_VERSION});
+#ifdef OVISTO_MIMALLOC
+    const int version = mi_version();
+    libraries.push_back({"mimalloc", std::to_string(version / 100) + "." + std::to_string(version / 10 % 10) + "." +
+                                         std::to_string(version % 10)});
+#endif
+    std::string text = std::string("ovisto-cli ") + programVersion();
+    for (const Library& library : libraries)
+        text += "\n" + library.name + " " + library.version;
+    return text;
+}
+
 /// The line about wrong usage.
 std::string usageLine(const CLI::App* app, const CLI::Error& error)
 {
@@ -60,7 +81,7 @@ int runCommandLine(int argc, char** argv)
                  "ovisto-cli");
     app.formatter(std::make_shared<HelpText>());
     app.failure_message(usageLine);
-    app.set_version_flag("--version", "ovisto-cli " OVISTO_VERSION);
+    app.set_version_flag("--version", versionText());
     app.require_subcommand(1);
     std::map<const CLI::App*, std::function<int()>> runs;
     for (const auto makeCommand : kCommands) {

@@ -1,3 +1,4 @@
+#include "common/Libraries.h"
 #include "common/system/Process.h"
 #include "common/system/ProgramFolder.h"
 #include "ui/App/MessageReporter.h"
@@ -44,7 +45,7 @@ int main(int argc, char** argv)
     ovisto::outliveFileSizeLimit();
     QApplication application(argc, argv); // takes its own options out of argv
     QApplication::setApplicationName(QStringLiteral("Ovisto"));
-    QApplication::setApplicationVersion(QStringLiteral(OVISTO_VERSION));
+    QApplication::setApplicationVersion(QString::fromLatin1(ovisto::programVersion()));
     QApplication::setDesktopFileName(QStringLiteral("ovisto"));
 
     QCommandLineParser parser;

@@ -1,4 +1,5 @@
 #include "collection/DocumentLoad.h"
+#include "common/Libraries.h"
 #include "common/system/File.h"
 #include "common/text/Unicode.h"
 #include "support/CommandRun.h"
@@ -7,7 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
+#include <regex>
 
 namespace ovisto::test {
 
@@ -380,6 +383,23 @@ TEST(CommandLine, TellsUsageFromFailure)
     expectOneLine(ovisto({"xml", "--files-from", folder.path("none")}), folder.path("none"), "");
     expectOneLine(ovisto({"xml", "--files-from", folder.path(".")}), folder.path("."), "It is a folder");
     EXPECT_EQ(ovisto({"xml", "--files-from", "-"}).status, 0) << "an empty list is done at once";
+}
+
+TEST(CommandLine, NamesEveryLibraryThatItIsLinkedWith)
+{
+    if (!isInstalled("readelf"))
+        GTEST_SKIP() << "readelf (binutils) is not installed";
+    std::string versions = ovisto({"--version"}).output;
+    EXPECT_EQ(versions.find(std::string("ovisto-cli ") + programVersion() + "\n"), 0U) << versions;
+    EXPECT_EQ(std::ranges::count(versions, '\n'), std::ranges::count(versions, ' ')) << versions;
+    std::ranges::transform(versions, versions.begin(),
+                           [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+    const std::string dynamic = runCommand({"readelf", "-d", OVISTO_CLI}).output;
+    const std::regex needed(R"(\(NEEDED\).*\[(?!ld-|libc\.|libm\.|libgcc|libstdc|lib[a-z]*san\.)lib([a-z0-9]+))");
+    int count = 0;
+    for (std::sregex_iterator library(dynamic.begin(), dynamic.end(), needed), end; library != end; ++library, ++count)
+        EXPECT_NE(versions.find((*library)[1]), std::string::npos) << (*library)[1] << " is not in:\n" << versions;
+    EXPECT_GE(count, 6) << dynamic;
 }
 
 TEST(CommandLine, DoesNotWriteAReportOverAPhotograph)

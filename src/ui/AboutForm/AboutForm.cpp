@@ -1,5 +1,7 @@
 #include "ui/AboutForm/AboutForm.h"
 
+#include "common/Libraries.h"
+
 #include <QGuiApplication>
 #include <QProcess>
 #include <QScreen>
@@ -28,6 +30,15 @@ bool startSystemTool()
     return false;
 }
 
+/// What the window is made of, each library with its version.
+QStringList libraryNames()
+{
+    QStringList names{QStringLiteral("Qt ") + QString::fromLatin1(qVersion())};
+    for (const Library& library : engineLibraries())
+        names << QString::fromStdString(library.name + " " + library.version);
+    return names;
+}
+
 } // namespace
 
 AboutForm::AboutForm(QWidget* owner) : QDialog(owner)
@@ -37,9 +48,8 @@ AboutForm::AboutForm(QWidget* owner) : QDialog(owner)
     large.setPointSizeF(1.8 * large.pointSizeF());
     large.setBold(true);
     ui.Title->setFont(large);
-    ui.Version->setText(tr("Version %1").arg(QStringLiteral(OVISTO_VERSION)));
-    ui.Libraries->setText(tr("Built with Qt %1, libxml2 %2 and utfcpp.")
-                              .arg(QString::fromLatin1(qVersion()), QStringLiteral(OVISTO_LIBXML2_VERSION)));
+    ui.Version->setText(tr("Version %1").arg(QString::fromLatin1(programVersion())));
+    ui.Libraries->setText(tr("Made with %1.").arg(libraryNames().join(QStringLiteral(", "))));
     connect(ui.FormCloser, &QPushButton::clicked, this, &AboutForm::accept);
     connect(ui.SystemInfoShower, &QPushButton::clicked, this, &AboutForm::showSystemInfo);
 }
