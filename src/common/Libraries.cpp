@@ -28,7 +28,8 @@ std::string countedVersion(int number)
 /// The same in a text, which may go on after the number.
 std::string countedVersion(const char* text)
 {
-    return countedVersion(std::atoi(text));
+    constexpr int kDecimal = 10;
+    return countedVersion(static_cast<int>(std::strtol(text, nullptr, kDecimal)));
 }
 
 /// The engine's version text goes on with a date.
