@@ -44,12 +44,24 @@
   <!-- Only commas, quotes and line breaks need quotes around the field. -->
   <xsl:template name="quoted">
     <xsl:param name="text"/>
+    <xsl:variable name="cell"><xsl:call-template name="plain"><xsl:with-param name="text" select="$text"/></xsl:call-template></xsl:variable>
     <xsl:choose>
-      <xsl:when test="$text != translate($text, ',&quot;&#13;&#10;', '')">
-        <xsl:value-of select="concat('&quot;', str:replace($text, '&quot;', '&quot;&quot;'), '&quot;')"/>
+      <xsl:when test="$cell != translate($cell, ',&quot;&#13;&#10;', '')">
+        <xsl:value-of select="concat('&quot;', str:replace($cell, '&quot;', '&quot;&quot;'), '&quot;')"/>
       </xsl:when>
-      <xsl:otherwise><xsl:value-of select="$text"/></xsl:otherwise>
+      <xsl:otherwise><xsl:value-of select="$cell"/></xsl:otherwise>
     </xsl:choose>
+  </xsl:template>
+
+  <!-- A spreadsheet would run a text that begins like a formula, so an apostrophe goes in front of it. Numbers and
+       fractions may begin with a sign. -->
+  <xsl:template name="plain">
+    <xsl:param name="text"/>
+    <xsl:variable name="first" select="substring($text, 1, 1)"/>
+    <xsl:variable name="isNumber" select="contains('+-', $first) and string-length($text) &gt; 1 and
+                                          not(translate(substring($text, 2), '0123456789./', ''))"/>
+    <xsl:if test="$first and contains('=+-@', $first) and not($isNumber)">'</xsl:if>
+    <xsl:value-of select="$text"/>
   </xsl:template>
 
 </xsl:stylesheet>

@@ -312,10 +312,13 @@ TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
     const TemporaryFolder folder;
     ExifBytes old; // the maker's full name, and an exposure as powers of two only
     old.ifd0({old.ascii(0x010F, "NORVANE CORPORATION"), old.ascii(0x0110, "Norvane P2")});
-    old.exif({old.rationals(0x9201, {850, 100}, 10), old.rationals(0x9202, {3, 1})});
-    const std::vector<std::string> files = {OVISTO_OWN_SAMPLES "little-endian.jpg", OVISTO_OWN_SAMPLES "no-exif.jpg",
-                                            OVISTO_OWN_SAMPLES "night.jpg",
-                                            folder.file("old.jpg", JpegBytes().exif(old).end())};
+    old.exif({old.rationals(0x9201, {850, 100}, 10), old.rationals(0x9202, {3, 1}), old.rationals(0x920A, {87, 10})});
+    ExifBytes formula; // what a spreadsheet would run
+    formula.ifd0({formula.ascii(0x010E, "=1+1, \"x\""), formula.ascii(0x010F, "@sum"), formula.ascii(0x0110, "+cmd")});
+    formula.exif({formula.ascii(0x8827, "-1/3"), formula.ascii(0xA434, "-")});
+    const std::vector<std::string> files = {
+        OVISTO_OWN_SAMPLES "little-endian.jpg", OVISTO_OWN_SAMPLES "no-exif.jpg", OVISTO_OWN_SAMPLES "night.jpg",
+        folder.file("old.jpg", JpegBytes().exif(old).end()), folder.file("+.jpg", JpegBytes().exif(formula).end())};
     const struct {
         const char* style;
         const char* name;
@@ -326,8 +329,8 @@ TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
          "Report.txt",
          {"little-endian.jpg,Mountain lake,2023-05-14 06:42,Castelmar Lumetra 35,Castelmar Zoom 24-70mm "
           "F2.8-4,1/125,8,100,24,lake;mountains;morning;reflection,,\r\n",
-          "no-exif.jpg,,,,,,,,,,,\r\n", "old.jpg,,,Norvane P2,,1/362,2.8,,,,,\r\n",
-          "\"Le quai éclairé, huit secondes de pose\""}},
+          "no-exif.jpg,,,,,,,,,,,\r\n", "old.jpg,,,Norvane P2,,1/362,2.8,,8.7,,,\r\n",
+          "'+.jpg,\"'=1+1, \"\"x\"\"\",,'@sum +cmd,'-,,,-1/3,,,,\r\n", "\"Le quai éclairé, huit secondes de pose\""}},
         {"list.xsl", "Report.txt", {"\r\n  1/125 s f/8 ISO 100 24 mm\r\n"}},
         {"statistics.xsl",
          "Report.htm",

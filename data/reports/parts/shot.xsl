@@ -93,7 +93,7 @@
     <xsl:choose>
       <xsl:when test="$number &lt; 0.00001 or $number &gt; 1000000"/>
       <xsl:when test="$number * 3 &lt; 1"><xsl:value-of select="concat('1/', round(1 div $number), ' s')"/></xsl:when>
-      <xsl:otherwise><xsl:value-of select="concat(round($number * 10) div 10, ' s')"/></xsl:otherwise>
+      <xsl:otherwise><xsl:value-of select="concat(format-number($number, '0.#'), ' s')"/></xsl:otherwise>
     </xsl:choose>
   </xsl:template>
 
@@ -104,8 +104,8 @@
     <xsl:variable name="doublings" select="substring-before($power, '/') div substring-after($power, '/')"/>
     <xsl:variable name="meant" select="math:power(2, $doublings div 2)"/>
     <xsl:choose>
-      <xsl:when test="$given &gt; 0 and $given &lt; 1000">f/<xsl:value-of select="round($given * 10) div 10"/></xsl:when>
-      <xsl:when test="not($aperture) and $meant &gt; 0 and $meant &lt; 1000">f/<xsl:value-of select="round($meant * 10) div 10"/></xsl:when>
+      <xsl:when test="$given &gt; 0 and $given &lt; 1000">f/<xsl:value-of select="format-number($given, '0.#')"/></xsl:when>
+      <xsl:when test="not($aperture) and $meant &gt; 0 and $meant &lt; 1000">f/<xsl:value-of select="format-number($meant, '0.#')"/></xsl:when>
     </xsl:choose>
   </xsl:template>
 
@@ -117,7 +117,7 @@
   <xsl:template match="JPEG" mode="focal">
     <xsl:variable name="focal" select="Exif/IFDE/IFD[@id='920A']"/>
     <xsl:variable name="number" select="substring-before($focal, '/') div substring-after($focal, '/')"/>
-    <xsl:if test="$number &gt; 0 and $number &lt; 100000"><xsl:value-of select="round($number * 10) div 10"/> mm</xsl:if>
+    <xsl:if test="$number &gt; 0 and $number &lt; 100000"><xsl:value-of select="format-number($number, '0.#')"/> mm</xsl:if>
   </xsl:template>
 
 </xsl:stylesheet>
