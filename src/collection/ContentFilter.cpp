@@ -76,6 +76,28 @@ std::vector<RegularExpression> expressionsFor(const ContentSearch& search)
 
 } // namespace
 
+Phrase objection(const ContentSearch& search)
+{
+    ErrorTrap trap;
+    trap.run([&] { ContentFilter filter(search); });
+    return trap.pending() ? trap.error().description : Phrase();
+}
+
+void FailedChecks::add(const Error& error)
+{
+    ++m_count;
+    if (!m_first)
+        m_first = error;
+}
+
+std::optional<Error> FailedChecks::summary() const
+{
+    if (m_count <= 1)
+        return m_first;
+    const Message message = areTooMany() ? Message::SearchGivenUp : Message::FilesNotChecked;
+    return Error{m_first->number, {message, std::to_string(m_count), m_first->description}};
+}
+
 ContentFilter::ContentFilter(const ContentSearch& search)
     : m_reading(search.reading), m_foldsText(search.reading == Reading::Full && !search.regExp),
       m_expressions(expressionsFor(search))

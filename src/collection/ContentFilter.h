@@ -1,8 +1,10 @@
 #pragma once
 
+#include "common/Error.h"
 #include "common/text/RegularExpression.h"
 #include "document/Reading.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +17,28 @@ struct ContentSearch {
     bool wholeWords = false; ///< only whole words; ignored for a regular expression
     bool regExp = false;     ///< `words` is a regular expression
     Reading reading = Reading::Full;
+};
+
+/// Why nothing can be searched for in this way: what was typed is not a regular expression. Empty when it is one.
+Phrase objection(const ContentSearch& search);
+
+/// The files on which a search failed. An expression that runs too long on some would do so on many others, and each
+/// takes a moment.
+class FailedChecks {
+public:
+    void add(const Error& error);
+
+    /// Whether there are so many that the search should end.
+    bool areTooMany() const { return m_count >= kMost; }
+
+    /// One error that stands for all; nothing if none failed.
+    std::optional<Error> summary() const;
+
+private:
+    static constexpr int kMost = 10;
+
+    std::optional<Error> m_first;
+    int m_count = 0;
 };
 
 /// Decides whether the metadata of a file contains what is searched for. Several threads may use it at once.

@@ -17,19 +17,24 @@ void FolderScan::run(std::vector<std::string>& found, Progress& progress, ErrorR
     std::optional<ContentFilter> filter;
     if (!attempt(reporter, Message::CheckingContents, [&] { filter.emplace(m_options.content); }))
         return;
-    // The first file that cannot be checked stands for all: a person wants to be told, but not of 20,000 files.
-    bool wasReported = false;
-    while (auto file = m_walk.next(progress, reporter)) {
-        if (!progress.step(file->path, file->place, file->count))
-            return;
+    FailedChecks failed;
+    while (!failed.areTooMany()) {
+        auto file = m_walk.next(progress, reporter);
+        if (!file || !progress.step(file->path, file->place, file->count))
+            break;
         bool keep = false;
         ErrorTrap trap;
         trap.run([&] { keep = filter->keeps(file->path); });
-        if (trap.pending() && !std::exchange(wasReported, true))
-            reportPending(reporter, Message::CheckingContents, trap);
+        if (trap.pending())
+            failed.add(trap.error());
         if (keep)
             found.push_back(std::move(file->path));
     }
+    const std::optional<Error> failure = failed.summary();
+    if (!failure)
+        return;
+    progress.endOfFiles(); // a message must not hold up the scan
+    ErrorReport(reporter, Message::CheckingContents, *failure);
 }
 
 } // namespace ovisto

@@ -28,7 +28,8 @@ public:
     /// Appends the full paths of the files found to `found` in the order of FolderWalk, even if it already has them.
     /// Clears `found` first unless the options say append. Call only once. `progress` is called for every file whose
     /// name matches, with its place in its folder; when it stops the scan, what was found stays. A folder that cannot
-    /// be read is reported with its path. A content search that fails, altogether or for some files, is reported once.
+    /// be read is reported with its path. A content search that fails, altogether or for some files, is reported once,
+    /// at the end; it ends when it failed for too many.
     void run(std::vector<std::string>& found, Progress& progress, ErrorReporter& reporter);
 
 private:

@@ -81,7 +81,10 @@ std::optional<FolderWalk::File> FolderWalk::next(Progress& progress, ErrorReport
 void FolderWalk::read(const std::string& folder)
 {
     FolderListing listing = listFolder(folder);
-    if (!m_seen.insert(listing.identity).second)
+    if (m_seen.empty())
+        m_firstFileSystem = listing.identity.first;
+    const bool isPassedOver = listing.showsSystem && listing.identity.first != m_firstFileSystem;
+    if (isPassedOver || !m_seen.insert(listing.identity).second)
         return;
     m_folder = folder;
     m_names.clear();

@@ -6,6 +6,7 @@
 #include "common/system/FileListing.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <set>
 #include <string>
@@ -15,7 +16,8 @@
 namespace ovisto {
 
 /// Walks the files of a folder and, if wanted, of its subfolders: first the files of a folder by name, then those of
-/// its subfolders. No folder is read twice, whatever links lead to it, so circular links end.
+/// its subfolders. No folder is read twice, whatever links lead to it, so circular links end. File systems that only
+/// show processes, devices and settings of the system are passed over, unless the walk began in one.
 class FolderWalk {
 public:
     /// When `folder` cannot be read, raises an error that is described by Message::FolderNotFound; only its number says
@@ -43,6 +45,7 @@ private:
     std::size_t m_place = 0;          ///< of the next of them
     std::vector<std::string> m_ahead; ///< folders to read, the next one at the end
     std::set<FileId> m_seen;
+    std::uint64_t m_firstFileSystem = 0;
 };
 
 } // namespace ovisto

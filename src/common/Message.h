@@ -194,6 +194,8 @@ enum class Message : std::uint8_t {
     NoFilesFound,
     FilesFound,
     CheckingContents,
+    FilesNotChecked,
+    SearchGivenUp,
     OpenFile,
     ReadFile,
     CreateFile,

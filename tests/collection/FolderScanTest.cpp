@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace ovisto::test {
@@ -153,6 +154,20 @@ TEST(FolderScan, EndsLinksInACircle)
     fs::create_symlink("nowhere", folder.path("dangling.jpg"));
     fs::create_symlink("one/a.jpg", folder.path("link.jpg"));
     EXPECT_EQ(Found().scan(folder), "link.jpg one/a.jpg one/other/b.jpg");
+}
+
+TEST(FolderScan, PassesOverWhatOnlyShowsTheSystem)
+{
+    const ScanFolder folder({"a.jpg"});
+    fs::create_directory_symlink("/proc/sys/kernel", folder.path("processes"));
+    fs::create_directory_symlink("/sys/kernel", folder.path("settings"));
+    ScanOptions options;
+    options.patterns = "*";
+    EXPECT_EQ(Found().scan(folder, options), "a.jpg");
+    options.folder = "/proc/sys/kernel";
+    Found chosen;
+    FolderScan(options).run(chosen.files, chosen.progress, chosen.reporter);
+    EXPECT_EQ(std::ranges::count(chosen.files, "/proc/sys/kernel/random/uuid"), 1);
 }
 
 TEST(FolderScan, ReportsASubFolderThatCannotBeReadAndGoesOn)
@@ -335,11 +350,20 @@ TEST(FolderScan, EndsRunawayExpressionsWithOneReport)
     Found found;
     EXPECT_EQ(found.scan(folder, withContent({"(a+)+~|APP0", false, false, true})), "c.jpg");
     EXPECT_EQ(found.reporter.numbers, std::vector<int>{kOutOfMemory});
+    EXPECT_EQ(found.reporter.reasons.at(0).find("2 files could not be checked. The first: " + folder.path("a.jpg")), 0U)
+        << "at the end";
     // One that goes back and forth over a long text does little at each step.
     folder.file("b.jpg", JpegBytes().segment(0xFFE2, Bytes(65000, 0x11)).end());
     Found second;
     EXPECT_EQ(second.scan(folder, withContent({"1.*1.*~|@@", false, false, true})), "");
     EXPECT_EQ(second.reporter.numbers, std::vector<int>{kOutOfMemory});
+    // On many files the scan gives up.
+    for (int i = 0; i < 20; ++i)
+        fs::create_symlink("a.jpg", folder.path("b" + std::to_string(i) + ".jpg"));
+    Found third;
+    EXPECT_EQ(third.scan(folder, withContent({"(a+)+~|APP0", false, false, true})), "");
+    EXPECT_EQ(third.progress.paths.size(), 11U) << "one of which was checked";
+    EXPECT_EQ(third.reporter.reasons.at(0).find("The search ended early, because 10 files "), 0U);
 }
 
 } // namespace ovisto::test

@@ -11,7 +11,8 @@ namespace ovisto {
 /// What is in one folder: names without the folder's path, sorted without regard to case. What is hidden, or neither
 /// file nor folder, is left out. A symbolic link counts as what it leads to.
 struct FolderListing {
-    FileId identity;
+    FileId identity;          ///< first, its file system
+    bool showsSystem = false; ///< what is in it are processes, devices and settings of the system
     std::vector<std::string> files;
     std::vector<std::string> folders;
 };

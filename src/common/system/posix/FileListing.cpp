@@ -8,7 +8,9 @@
 #include <memory>
 
 #include <dirent.h>
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/statfs.h>
 
 namespace ovisto {
 
@@ -34,6 +36,24 @@ Kind kindOf(int folder, const dirent& entry)
     return fstatat(folder, entry.d_name, &status, 0) == 0 ? kindOf(status.st_mode) : Kind::Other;
 }
 
+/// The file system of /dev says that it holds temporary files, as others do that people use.
+bool isThatOfDevices(const struct stat& folder)
+{
+    struct stat devices = {};
+    struct stat root = {};
+    return stat("/dev", &devices) == 0 && stat("/", &root) == 0 && folder.st_dev == devices.st_dev &&
+           folder.st_dev != root.st_dev;
+}
+
+bool showsSystem(int folder, const struct stat& status)
+{
+    struct statfs system = {};
+    if (fstatfs(folder, &system) != 0)
+        return false;
+    return system.f_type == PROC_SUPER_MAGIC || system.f_type == SYSFS_MAGIC ||
+           (system.f_type == TMPFS_MAGIC && isThatOfDevices(status));
+}
+
 void sortAsPeopleDo(std::vector<std::string>& names)
 {
     std::vector<std::pair<std::u32string, std::string>> keyed;
@@ -52,7 +72,10 @@ FolderListing listFolder(const std::string& folder)
     struct stat status = {};
     if (!opened || fstat(dirfd(opened.get()), &status) != 0)
         throw errorOf(errno);
-    FolderListing listing{.identity = {status.st_dev, status.st_ino}, .files = {}, .folders = {}};
+    FolderListing listing{.identity = {status.st_dev, status.st_ino},
+                          .showsSystem = showsSystem(dirfd(opened.get()), status),
+                          .files = {},
+                          .folders = {}};
     for (;;) {
         errno = 0;
         const dirent* entry = readdir(opened.get());
