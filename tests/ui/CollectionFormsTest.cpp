@@ -1,13 +1,16 @@
 #include "ControlFormFixture.h"
 
+#include "../support/CountingProgress.h"
 #include "common/system/File.h"
 #include "ui/BatchForm/BatchForm.h"
+#include "ui/BatchResultForm/BatchResultForm.h"
 #include "ui/BrowserCapForm/BrowserCapForm.h"
 #include "ui/ProgressForm/ProgressForm.h"
 
 #include <QAccessible>
 #include <QDir>
 #include <QFile>
+#include <QScopedValueRollback>
 
 namespace ovisto::test {
 
@@ -138,6 +141,8 @@ class CollectionFormsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { ProgressForm::shortestShow = 0; }
+
     void endsWhenTheFirstChoiceIsCancelled()
     {
         Window window;
@@ -186,11 +191,22 @@ private Q_SLOTS:
         scan.SearchAllWords = true;
         QCOMPARE(window.find(scan), u" > Ovisto"_s);
         QVERIFY(window.saysOf({kNothingFound}));
-        scan.SearchRegExp = true;
-        scan.SearchWords = u"("_s;
-        window.find(scan);
-        QVERIFY(window.saysOf({u"Checking file contents\r\n5 : "_s, kNothingFound}));
         window.openFolder();
+        int refused = 0;
+        whenOpen<BrowserCapForm>([&](BrowserCapForm& form) {
+            auto& words = controlOf<QLineEdit>(form, "SearchWords");
+            for (const bool isExpression : {false, true}) {
+                words.setText(u"lake, ("_s);
+                controlOf<QCheckBox>(form, "SearchRegExpOpt").setChecked(isExpression);
+                press(form, "FolderSelector");
+                refused += form.isVisible() && form.focusWidget() == &words && words.hasSelectedText() ? 1 : 0;
+            }
+            press(form, "FormCanceller");
+        });
+        window.click("FileFinder");
+        QCOMPARE(refused, 2);
+        QVERIFY(window.dialogs.messages.value(1).contains(u"missing closing parenthesis"_s));
+        QVERIFY(window.saysOf({u"Not a regular expression: "_s, u"Not a regular expression: "_s}));
         QVERIFY(window.find(jpegsIn(u"/nowhere/at/all"_s)).startsWith(u"1.jpg 2.jpg 3.jpg"_s));
         QVERIFY(window.saysOf({u"Folder not found"_s}));
     }
@@ -203,7 +219,8 @@ private Q_SLOTS:
         const QString hidden = folder.filePath(u".hidden/here"_s);
         QVERIFY(QDir().mkpath(hidden));
         for (const QString& start : {folder.filePath(u"folder 217"_s), hidden}) {
-            BrowserCapForm form(jpegsIn(start + u'/'), nullptr);
+            TestDialogs dialogs;
+            BrowserCapForm form(jpegsIn(start + u'/'), dialogs, nullptr);
             form.show();
             const auto& tree = controlOf<FolderTree>(form, "FolderTree");
             QTRY_VERIFY(start == hidden || tree.model()->rowCount(tree.currentIndex().parent()) == 300);
@@ -219,7 +236,8 @@ private Q_SLOTS:
         QVERIFY(QDir(folder.path()).mkpath(u"a/b"_s));
         const QString above = folder.filePath(u"a"_s);
         const QString below = folder.filePath(u"a/b"_s);
-        BrowserCapForm form(jpegsIn(below + u"/gone/for/good"_s), nullptr); // which starts above it
+        TestDialogs dialogs;
+        BrowserCapForm form(jpegsIn(below + u"/gone/for/good"_s), dialogs, nullptr); // which starts above it
         form.show();
         auto& path = controlOf<QLineEdit>(form, "FolderPath");
         auto& tree = controlOf<FolderTree>(form, "FolderTree");
@@ -268,7 +286,7 @@ private Q_SLOTS:
                                    return seen.size() == 3;
                                });
         QCOMPARE(window.find(jpegsIn(window.folder())), u"1.jpg 2.jpg > 1.jpg"_s);
-        QCOMPARE(seen.join(u' '), u"0/2 1/2 2/2"_s);
+        QCOMPARE(seen.join(u' '), u"0/3 1/3 2/3"_s);
     }
 
     void changesAllFiles()
@@ -293,7 +311,7 @@ private Q_SLOTS:
         QVERIFY(!form.isVisible());
         QCOMPARE(window.title() + window.text("NodeText"), u"3.jpg[*]batch"_s);
 
-        QCOMPARE(window.text("SavedLine"), QString()); // nothing was lost
+        QCOMPARE(window.text("SavedLine"), u"3 changed, 0 unchanged."_s); // and nothing was lost
         window.trigger("menuKeepUntouched");
         BatchForm& second = window.openBatch(u"Thumbnail"_s, {});
         QVERIFY(&second != &form);
@@ -301,7 +319,7 @@ private Q_SLOTS:
         QVERIFY(!controlOf<QLineEdit>(second, "NodeValue").isEnabled());
         press(second, "BatchStarter");
         QCOMPARE(window.inThree(kThumbnailIfd), u"-|-|-"_s);
-        QVERIFY(window.text("SavedLine").startsWith(u"Lost something in 3 of 3 files, "_s));
+        QVERIFY(window.text("SavedLine").startsWith(u"3 changed, 0 unchanged. Lost something in 3 of 3 files, "_s));
         QVERIFY(window.dialogs.messages.isEmpty());
     }
 
@@ -319,18 +337,77 @@ private Q_SLOTS:
         QVERIFY(controlOf<QListWidget>(window.openBatch(u"Exif Data"_s), "NodeList").count() > common);
     }
 
-    void endsABatchAtAFileThatCannotBeWritten()
+    void goesOnAfterAFileThatCannotBeWritten()
     {
         ThreeWindow window;
         window.select(kDescription);
-        QFile::remove(window.pathOf("1.jpg")); // which ends nothing
-        const OutputFile otherSave = blockSaving(window.path("2.jpg"));
+        QFile::remove(window.pathOf("1.jpg"));
+        std::optional<OutputFile> otherSave = blockSaving(window.path("2.jpg"));
+        window.dialogs.choices = {0};
+        whenOpen<BatchResultForm>([&](BatchResultForm& form) {
+            QCOMPARE(controlOf<QLabel>(form, "Summary").text(), u"1 changed, 0 unchanged, 2 failed."_s);
+            const auto& list = *controlOf<QTreeView>(form, "ResultList").model();
+            QCOMPARE(list.rowCount(), 3);
+            QCOMPARE(list.index(1, 0).data().toString(), window.pathOf("2.jpg"));
+            QVERIFY(list.index(1, 1).data().toString().startsWith(u"failed: "_s));
+            QCOMPARE(list.index(2, 1).data().toString(), u"changed"_s);
+            press(form, "FailedKeeper");
+        });
         BatchForm& form = window.openBatch(u"Image Description"_s);
         press(form, "BatchStarter");
-        QVERIFY(window.saysOf({window.pathOf("1.jpg") + u"\r\n"_s, window.pathOf("2.jpg") + u"\r\n"_s}));
-        QCOMPARE(inFile(window.path("2.jpg"), kDescription), inFile(window.path("3.jpg"), kDescription));
+        QVERIFY(window.saysOf({window.pathOf("1.jpg") + u"\r\n"_s}));
+        QCOMPARE(inFile(window.path("3.jpg"), kDescription), "batch");
         QVERIFY(!form.isVisible());
-        QCOMPARE(window.title(), u"2.jpg[*]"_s);
+        // The one that is gone goes as it always does.
+        QCOMPARE(window.listed() + window.title(), u"2.jpg2.jpg[*]"_s);
+        QCOMPARE(window.control<QWidget>("FilesFoundList").toolTip(), u"List of files found (1)"_s);
+
+        // Whoever stops keeps the list.
+        window.openFolder();
+        otherSave = blockSaving(window.path("3.jpg"));
+        window.dialogs.choices = {1};
+        whenOpen<BatchResultForm>([&](BatchResultForm& result) { press(result, "FormCloser"); });
+        press(window.openBatch(u"Image Description"_s), "BatchStarter");
+        QCOMPARE(window.listed() + window.title(), u"2.jpg 3.jpg2.jpg[*]"_s);
+    }
+
+    void asksOnceWhetherABatchGoesOn()
+    {
+        const std::vector<std::string> files = {"/1", "/2", "/1", "/3", "/4"};
+        const Error denied = systemError(kPermissionDenied);
+        const struct {
+            std::size_t steps;    // until Cancel
+            QString failing;      // at once
+            const char* failLate; // when it was to be put in place, or is not known to be on disk
+            std::deque<int> answers;
+            QString said;
+        } cases[] = {
+            {9, u"/2 /3"_s, "/2", {0}, u"2 changed, 0 unchanged, 2 failed. /2 /3 /1 /4"_s},
+            {9, u"/2"_s, "/1", {1}, u"0 changed, 0 unchanged, 2 failed, 2 not reached. /1 /2 /3 /4"_s},
+            {9, {}, "/4", {}, u"1 changed, 2 unchanged, 1 failed. /4 /2 /3 /1"_s},
+            {1, {}, "/1", {}, u"0 changed, 0 unchanged, 1 failed, 3 not reached. /1 /2 /3 /4"_s},
+        };
+        for (const auto& c : cases) {
+            CountingProgress progress(c.steps);
+            TestDialogs dialogs;
+            dialogs.choices = c.answers;
+            BatchWatch watch(files, progress, dialogs);
+            for (std::size_t i = 0; i < files.size() && watch.step(files[i], i, files.size()); ++i) {
+                if (c.failing.contains(QString::fromStdString(files[i])))
+                    watch.report(files[i], denied);
+            }
+            watch.saved("/1");
+            if (!c.failing.isEmpty())
+                watch.saved("/4");
+            watch.report(c.failLate, denied);
+            QStringList said(batchSummary(watch.results()));
+            for (const BatchResult& result : watch.results())
+                said << QString::fromStdString(result.path);
+            QCOMPARE(said.join(u' '), c.said);
+            const QStringList asked = dialogs.taken();
+            QVERIFY(dialogs.choices.empty() && asked.size() == static_cast<int>(c.answers.size()));
+            QVERIFY(asked.isEmpty() || asked.first().startsWith(u"/2\r\n70 : Permission denied\r\n"_s));
+        }
     }
 
     void stopsABatch()
@@ -339,21 +416,45 @@ private Q_SLOTS:
         cancelAt(u"3.jpg"_s);
         press(window.openBatch(u"Image Description"_s), "BatchStarter");
         QCOMPARE(window.inThree(), u"batch|batch|old"_s);
+        QCOMPARE(window.text("SavedLine"), u"2 changed, 0 unchanged, 1 not reached."_s);
         QVERIFY(window.dialogs.messages.isEmpty());
+    }
 
-        // Of those already on their way, one message tells.
-        window.copy("little-endian.jpg", "4.jpg");
-        window.openFolder();
-        whenProgressShows(u"4.jpg"_s, [&](ProgressForm&) {
-            for (const char* name : {"1.jpg", "2.jpg", "3.jpg"})
-                QFile::setPermissions(window.pathOf(name), QFile::ReadOwner);
-        });
-        press(window.openBatch(u"Image Description"_s, u"more"_s), "BatchStarter");
-        QCOMPARE(window.dialogs.messages.value(1).count(u"\r\n"_s), 2);
-        QVERIFY(window.dialogs.messages.value(1).contains(window.pathOf("2.jpg")));
-        QVERIFY(
-            window.saysOf({window.pathOf("1.jpg") + u"\r\n"_s, u"Other files that could not be changed (2):\r\n"_s}));
-        QCOMPARE(window.inThree(), u"batch|batch|old"_s);
+    void saysHowManyFilesABatchIsAbout()
+    {
+        ThreeWindow window;
+        window.click("BatchShower");
+        auto& form = *window.form().findChild<BatchForm*>();
+        auto& nodes = controlOf<QListWidget>(form, "NodeList");
+        nodes.setFocus(); // which makes a node current, but does not select it
+        nodes.setCurrentRow(3, QItemSelectionModel::NoUpdate);
+        QVERIFY(!controlOf<QPushButton>(form, "BatchStarter").isEnabled());
+        nodes.setCurrentRow(3);
+        QVERIFY(controlOf<QPushButton>(form, "BatchStarter").isEnabled());
+        QCOMPARE(controlOf<QLabel>(form, "FileCount").text(), u"The list has 3 files."_s);
+        QVERIFY(QDir(window.folder()).mkpath(u"below"_s));
+        window.copy("night.jpg", "below/4.jpg");
+        QVERIFY(window.find(jpegsIn(window.folder() + u"/below"_s)).endsWith(u"> 4.jpg"_s));
+        QCOMPARE(controlOf<QLabel>(form, "FileCount").text(), u"The list has 1 file."_s);
+        window.click("BatchShower"); // which closes the file
+        QCOMPARE(window.title(), u"Ovisto[*]"_s);
+        press(form, "FormCanceller");
+        QCOMPARE(window.title(), u"4.jpg[*]"_s);
+    }
+
+    void showsNotEveryOneOfManyFiles()
+    {
+        ProgressForm form(nullptr);
+        const auto& path = controlOf<QLabel>(form, "Label1");
+        constexpr int kHour = 3'600'000;
+        const QScopedValueRollback pause(ProgressForm::shortestShow, kHour);
+        QVERIFY(form.step("/first", 0, 3) && form.step("/second", 1, 3) && form.enter("/folder"));
+        QCOMPARE(path.text(), u"/first"_s);
+        form.reject();
+        QVERIFY(!form.step("/third", 2, 3) && !form.enter("/folder"));
+        ProgressForm::shortestShow = 0;
+        QVERIFY(!form.step("/third", 2, 3));
+        QCOMPARE(path.text(), u"/third"_s);
     }
 
     void reportsOnAllFiles()
@@ -391,11 +492,15 @@ private Q_SLOTS:
     {
         const TagDictionary Merovel(OVISTO_SOURCE_FOLDER "/data/Merovel.xml");
         Window window{"night.jpg"};
-        const BrowserCapForm chooser(jpegsIn(QDir::homePath()), nullptr);
+        const BrowserCapForm chooser(jpegsIn(QDir::homePath()), window.dialogs, nullptr);
+        const FoundFiles files;
         const BatchForm batch(
-            Merovel, true, [] { return Reading::Full; }, window.dialogs, nullptr);
+            Merovel, true, [] { return Reading::Full; }, files, window.dialogs, nullptr);
         const ProgressForm progress(nullptr);
-        for (const QWidget* form : std::initializer_list<const QWidget*>{&window.form(), &chooser, &batch, &progress}) {
+        BatchResults results({});
+        const BatchResultForm result(results, nullptr);
+        for (const QWidget* form :
+             std::initializer_list<const QWidget*>{&window.form(), &chooser, &batch, &progress, &result}) {
             QVERIFY(!form->windowTitle().isEmpty());
             for (QWidget* control : form->findChildren<QWidget*>()) {
                 const QString name = control->objectName();

@@ -1,12 +1,15 @@
 #include "ui/BrowserCapForm/BrowserCapForm.h"
 
+#include "ui/App/Text.h"
+
 #include <QDir>
 #include <QScopedValueRollback>
 #include <QStyle>
 
 namespace ovisto {
 
-BrowserCapForm::BrowserCapForm(const ScanSettings& scan, QWidget* owner) : QDialog(owner)
+BrowserCapForm::BrowserCapForm(const ScanSettings& scan, Dialogs& dialogs, QWidget* owner)
+    : QDialog(owner), m_dialogs(dialogs)
 {
     ui.setupUi(this);
     ui.FolderUp->setIcon(style()->standardIcon(QStyle::SP_FileDialogToParent));
@@ -16,7 +19,7 @@ BrowserCapForm::BrowserCapForm(const ScanSettings& scan, QWidget* owner) : QDial
     connect(ui.FolderUp, &QToolButton::clicked, this,
             [this] { ui.FolderTree->select(QFileInfo(m_selectedFolder).path()); });
     connect(ui.FolderHome, &QToolButton::clicked, this, [this] { ui.FolderTree->select(QDir::homePath()); });
-    connect(ui.FolderSelector, &QPushButton::clicked, this, &BrowserCapForm::accept);
+    connect(ui.FolderSelector, &QPushButton::clicked, this, &BrowserCapForm::selectFolder);
     connect(ui.FormCanceller, &QPushButton::clicked, this, &BrowserCapForm::reject);
     setSettings(scan);
     ui.FolderTree->setFocus();
@@ -64,6 +67,17 @@ void BrowserCapForm::folderTyped(const QString& text)
     const QScopedValueRollback typing(m_typing, true);
     m_selectedFolder = typedFolder(text);
     ui.FolderTree->select(m_selectedFolder);
+}
+
+/// Ends the choice, unless nothing can be searched for in the way chosen: what is listed stays until that is put right.
+void BrowserCapForm::selectFolder()
+{
+    const Phrase reason = objection(scanOptions(settings()).content);
+    if (reason.isEmpty())
+        return accept();
+    m_dialogs.show(toQString(reason));
+    ui.SearchWords->setFocus();
+    ui.SearchWords->selectAll();
 }
 
 } // namespace ovisto

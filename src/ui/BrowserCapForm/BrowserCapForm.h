@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/App/Dialogs.h"
 #include "ui/App/ScanSettings.h"
 #include "ui_BrowserCapForm.h"
 
@@ -13,8 +14,8 @@ class BrowserCapForm : public QDialog {
     Q_OBJECT
 
 public:
-    /// Starts with the settings in `scan`.
-    BrowserCapForm(const ScanSettings& scan, QWidget* owner);
+    /// Starts with the settings in `scan`. `dialogs` must outlive the form.
+    BrowserCapForm(const ScanSettings& scan, Dialogs& dialogs, QWidget* owner);
 
     /// Whether the user closed the dialog other than with "Select Folder".
     bool Cancelled() const { return result() != Accepted; }
@@ -29,8 +30,10 @@ private:
     void setSettings(const ScanSettings& scan);
     void selectionChanged(const QString& folder);
     void folderTyped(const QString& text);
+    void selectFolder();
 
     Ui::BrowserCapForm ui;
+    Dialogs& m_dialogs;
     QString m_selectedFolder;
     bool m_typing = false; ///< the tree is following what is typed, not the other way round
 };

@@ -64,6 +64,12 @@ void Editor::OpenSelectedFile()
     ui.NodeTree->setFocus();
 }
 
+void Editor::openIfNone()
+{
+    if (!m_file.isOpen())
+        OpenSelectedFile();
+}
+
 bool Editor::leaveShownFile()
 {
     const SaveResult saved = OfferSave(true);

@@ -32,6 +32,8 @@ public:
     WritingWay writingWay() const;
 
     void OpenSelectedFile();
+    /// Opens the file selected in the list if none is open.
+    void openIfNone();
     /// Closes the file shown, saving its changes if the user wants that. Returns false if they could not be saved, or
     /// were given up for what another program made of the file; the file then stays open.
     bool leaveShownFile();

@@ -38,13 +38,6 @@ QString leftOutMessage(const std::vector<FileFailure>& leftOut)
     return messageOf(QCoreApplication::translate("FailureMessages", "The report does not cover these files:"), leftOut);
 }
 
-QString notChangedMessage(const std::vector<FileFailure>& notChanged)
-{
-    return messageOf(QCoreApplication::translate("FailureMessages", "Other files that could not be changed (%1):")
-                         .arg(notChanged.size()),
-                     notChanged);
-}
-
 QString notReadMessage(const std::vector<FileFailure>& notRead)
 {
     return messageOf(QCoreApplication::translate("FailureMessages", "Other folders that could not be read (%1):")

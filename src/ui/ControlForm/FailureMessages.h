@@ -13,9 +13,6 @@ namespace ovisto {
 /// Which files are missing from a report.
 QString leftOutMessage(const std::vector<FileFailure>& leftOut);
 
-/// Which files a batch could not change, besides the one that ended it.
-QString notChangedMessage(const std::vector<FileFailure>& notChanged);
-
 /// Which folders a scan could not read, besides the first.
 QString notReadMessage(const std::vector<FileFailure>& notRead);
 

@@ -1,5 +1,7 @@
 #include "ui/ControlForm/FileListPane.h"
 
+#include "ui/App/Text.h"
+
 #include <QScopedValueRollback>
 
 #include <utility>
@@ -76,6 +78,11 @@ void FileListPane::append(std::vector<std::string> found)
 {
     const QScopedValueRollback updating(ControlsUpdating, true);
     m_found.append(std::move(found));
+}
+
+void FileListPane::showCount()
+{
+    ui.FilesFoundList->setToolTip(toQString(Phrase(Message::FilesFound, std::to_string(m_found.rowCount()))));
 }
 
 std::optional<std::string> FileListPane::existingSelection()

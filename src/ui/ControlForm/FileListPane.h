@@ -38,6 +38,8 @@ public:
     /// Removes all files from the list.
     void clear();
     void append(std::vector<std::string> found);
+    /// Says in the tool tip of the list how many files it has.
+    void showCount();
     /// The selected file. Files that no longer exist are removed from the list, and the next one is selected. Nothing
     /// if none is left or none is selected.
     std::optional<std::string> existingSelection();

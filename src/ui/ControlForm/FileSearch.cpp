@@ -16,7 +16,7 @@ namespace ovisto {
 bool FileSearch::findFiles()
 {
     {
-        BrowserCapForm chooser(settings, &m_parts.window);
+        BrowserCapForm chooser(settings, m_parts.surroundings.dialogs, &m_parts.window);
         chooser.exec();
         if (chooser.Cancelled())
             return false;
@@ -77,8 +77,7 @@ void FileSearch::listFiles(std::vector<std::string> found, const ScanReports& re
         list.open(0); // which leaves none when none of them is there any more
     if (list.files().rowCount() == 0)
         m_parts.surroundings.dialogs.show(toQString(Message::NoFilesFound));
-    m_parts.ui.FilesFoundList->setToolTip(
-        toQString(Phrase(Message::FilesFound, std::to_string(list.files().paths().size()))));
+    list.showCount();
 }
 
 } // namespace ovisto

@@ -5,9 +5,14 @@
 #include "ui/App/Text.h"
 #include "ui/BatchForm/BatchForm.h"
 #include "ui/BatchForm/BatchWatch.h"
+#include "ui/BatchResultForm/BatchResultForm.h"
 #include "ui/ControlForm/FailureMessages.h"
 #include "ui/ProgressForm/ProgressForm.h"
 #include "ui/SlideShowOptionForm/SlideShowOptionForm.h"
+
+#include <QStringList>
+
+#include <utility>
 
 namespace ovisto {
 
@@ -19,9 +24,10 @@ void ListActions::showBatch()
     if (m_batch == nullptr || !m_batch->isVisible()) { // one that was closed may not be gone yet
         m_batch = new BatchForm(
             m_parts.Merovel, m_parts.ui.menuShowTechnical->isChecked(), [this] { return m_editor.reading(); },
-            m_parts.surroundings.dialogs, &m_parts.window);
+            m_editor.list().files(), m_parts.surroundings.dialogs, &m_parts.window);
         m_batch->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_batch, &BatchForm::started, this, &ListActions::runBatch);
+        connect(m_batch, &BatchForm::rejected, &m_editor, &Editor::openIfNone);
     }
     m_batch->show();
     m_batch->activateWindow();
@@ -34,30 +40,47 @@ void ListActions::runBatch(const NodeChange& change)
     m_parts.boxes.moveFocusTo(*m_parts.ui.BatchShower);
     if (!m_editor.leaveShownFile())
         return;
-    std::vector<FileFailure> notChanged;
+    const std::vector<std::string>& files = m_editor.list().files().paths();
+    std::vector<BatchResult> became;
     int saved = 0;
     int hurt = 0;
-    const auto count = [&](const std::string& /*path*/, const SaveReceipt& receipt) {
-        ++saved;
-        hurt += receipt.losses.empty() ? 0 : 1;
-    };
     runWatched(m_parts.window, [&](ProgressForm& progress) {
         progress.show();
-        BatchWatch watch(progress, m_parts.reporter);
-        BatchAction(m_editor.list().files().paths(), change,
-                    {.way = m_editor.writingWay(), .reading = m_editor.reading()})
+        BatchWatch watch(files, progress, m_parts.surroundings.dialogs);
+        const auto count = [&](const std::string& path, const SaveReceipt& receipt) {
+            watch.saved(path);
+            ++saved;
+            hurt += receipt.losses.empty() ? 0 : 1;
+        };
+        BatchAction(files, change, {.way = m_editor.writingWay(), .reading = m_editor.reading()})
             .run(watch, watch, count);
-        notChanged = watch.failedToo();
+        became = watch.results();
     });
-    if (!notChanged.empty())
-        m_parts.surroundings.dialogs.show(notChangedMessage(notChanged));
+    m_batch->accept();
+    BatchResults results(std::move(became));
+    QStringList sentences(results.summary());
     if (hurt > 0)
-        m_editor.savedLine().show(tr("Lost something in %1 of %2 files, as \"Keep Untouched Data?\" is off. The "
-                                     "originals are kept as NAME.original.")
-                                      .arg(hurt)
-                                      .arg(saved));
-    m_batch->close();
-    m_editor.OpenSelectedFile();
+        sentences
+            << tr("Lost something in %1 of %2 files, as \"Keep Untouched Data?\" is off. The originals are kept as "
+                  "NAME.original.")
+                   .arg(hurt)
+                   .arg(saved);
+    m_editor.savedLine().show(sentences.join(u' '));
+    showResults(results);
+}
+
+/// Shows what became of each file if some failed, and the file shown before the batch, or what stays in the list.
+void ListActions::showResults(BatchResults& results)
+{
+    std::vector<std::string> failed = results.failed();
+    const bool keepsFailed = !failed.empty() && BatchResultForm(results, &m_parts.window).exec() == QDialog::Accepted;
+    if (!keepsFailed)
+        return m_editor.OpenSelectedFile();
+    FileListPane& list = m_editor.list();
+    list.clear();
+    list.append(std::move(failed));
+    list.open(0);
+    list.showCount();
 }
 
 void ListActions::generateReport()

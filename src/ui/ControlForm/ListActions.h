@@ -9,6 +9,7 @@
 namespace ovisto {
 
 class BatchForm;
+class BatchResults;
 
 /// What can be done with all files of the list: a batch, a report, a slide show.
 class ListActions : public QObject {
@@ -23,6 +24,7 @@ public:
 
 private:
     void runBatch(const NodeChange& change);
+    void showResults(BatchResults& results);
 
     const WindowParts& m_parts;
     Editor& m_editor;

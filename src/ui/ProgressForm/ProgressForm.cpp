@@ -18,23 +18,33 @@ ProgressForm::ProgressForm(QWidget* owner) : QDialog(owner)
 
 bool ProgressForm::step(const std::string& path, std::size_t done, std::size_t total)
 {
-    ui.ProgressBar->setRange(0, static_cast<int>(std::max<std::size_t>(total, 1)) - 1);
+    if (isTooEarly())
+        return !Canceled;
+    ui.ProgressBar->setRange(0, static_cast<int>(std::max<std::size_t>(total, 1)));
     ui.ProgressBar->setValue(static_cast<int>(done));
-    return showPath(path);
+    showPath(path);
+    return !Canceled;
 }
 
 bool ProgressForm::enter(const std::string& folder)
 {
-    return showPath(folder);
+    if (!isTooEarly())
+        showPath(folder);
+    return !Canceled;
 }
 
-bool ProgressForm::showPath(const std::string& path)
+bool ProgressForm::isTooEarly() const
+{
+    return m_shown.isValid() && m_shown.elapsed() < shortestShow;
+}
+
+void ProgressForm::showPath(const std::string& path)
 {
     if (!isVisible())
         show();
     ui.Label1->setText(pathText(path));
     QCoreApplication::processEvents();
-    return !Canceled;
+    m_shown.start();
 }
 
 void ProgressForm::endOfFiles()

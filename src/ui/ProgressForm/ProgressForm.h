@@ -4,6 +4,7 @@
 #include "ui_ProgressForm.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 
 #include <string>
 
@@ -19,7 +20,11 @@ public:
 
     bool Canceled = false; ///< the loop must stop before its next file
 
-    /// Shows the file and its place, and processes input. False after the user cancels.
+    /// How long a file is shown at least, in milliseconds. To show each of many would take longer than the work itself.
+    static inline int shortestShow = 25;
+
+    /// Shows the file and its place, and processes input, unless it is too early for that. False after the user
+    /// cancels.
     bool step(const std::string& path, std::size_t done, std::size_t total) override;
 
     /// The same for a folder whose files are not known yet.
@@ -31,9 +36,11 @@ public:
     void reject() override;
 
 private:
-    bool showPath(const std::string& path);
+    bool isTooEarly() const;
+    void showPath(const std::string& path);
 
     Ui::ProgressForm ui;
+    QElapsedTimer m_shown; ///< since the latest file was shown
 };
 
 /// Runs `loop`, a long loop over files, and shows its progress. Meanwhile `window` takes no input.
