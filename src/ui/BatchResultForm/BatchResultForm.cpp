@@ -10,7 +10,7 @@ BatchResultForm::BatchResultForm(BatchResults& results, QWidget* owner) : QDialo
     ui.Summary->setText(results.summary());
     ui.ResultList->setModel(&results);
     ui.ResultList->setCurrentIndex(results.index(0, 0));
-    ui.ResultList->header()->resizeSection(0, width() / 2);
+    ui.ResultList->header()->resizeSection(0, width() * 2 / 5);
     connect(ui.FailedKeeper, &QPushButton::clicked, this, &BatchResultForm::accept);
     connect(ui.FormCloser, &QPushButton::clicked, this, &BatchResultForm::reject);
 }
