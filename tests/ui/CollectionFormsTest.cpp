@@ -206,7 +206,7 @@ private Q_SLOTS:
         window.click("FileFinder");
         QCOMPARE(refused, 2);
         QVERIFY(window.dialogs.messages.value(1).contains(u"missing closing parenthesis"_s));
-        QVERIFY(window.saysOf({u"Not a regular expression: "_s, u"Not a regular expression: "_s}));
+        QVERIFY(window.saysOf({u"The words "_s, u"Not a regular expression: "_s}));
         QVERIFY(window.find(jpegsIn(u"/nowhere/at/all"_s)).startsWith(u"1.jpg 2.jpg 3.jpg"_s));
         QVERIFY(window.saysOf({u"Folder not found"_s}));
     }
