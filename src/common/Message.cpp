@@ -235,6 +235,21 @@ constexpr MessageText kTexts[] = {
     {Message::TellsNothing, QT_TRANSLATE_NOOP("Message", "Nothing was found that identifies a person or a place")},
     {Message::CutPicture, QT_TRANSLATE_NOOP("Message", "The picture up to its end")},
 
+    {Message::ValueWithNumber, QT_TRANSLATE_NOOP("Message", "%1 (%2)")},
+    {Message::ValueSeconds, QT_TRANSLATE_NOOP("Message", "%1 s")},
+    {Message::ValueFNumber, QT_TRANSLATE_NOOP("Message", "f/%1")},
+    {Message::ValueStops, QT_TRANSLATE_NOOP("Message", "%1 EV")},
+    {Message::ValueMillimetres, QT_TRANSLATE_NOOP("Message", "%1 mm")},
+    {Message::ValueMetres, QT_TRANSLATE_NOOP("Message", "%1 m")},
+    {Message::ValueInfinite, QT_TRANSLATE_NOOP("Message", "infinity")},
+    {Message::ValueDegrees, QT_TRANSLATE_NOOP("Message", "%1°")},
+    {Message::ValueAngle, QT_TRANSLATE_NOOP("Message", "%1° %2' %3\"")},
+    {Message::ValueCelsius, QT_TRANSLATE_NOOP("Message", "%1 °C")},
+    {Message::ValuePerCent, QT_TRANSLATE_NOOP("Message", "%1 %")},
+    {Message::ValueHectopascals, QT_TRANSLATE_NOOP("Message", "%1 hPa")},
+    {Message::ValueBytes, QT_TRANSLATE_NOOP("Message", "%1 bytes")},
+    {Message::ValueOneByte, QT_TRANSLATE_NOOP("Message", "1 byte")},
+
     {Message::RootIsNotJpeg, QT_TRANSLATE_NOOP("Message", "The root element is %1, not JPEG")},
     {Message::FolderNotFound, QT_TRANSLATE_NOOP("Message", "Folder not found")},
     {Message::NoFilesFound, QT_TRANSLATE_NOOP("Message", "No files found with search criteria specified.  Click 'Find "

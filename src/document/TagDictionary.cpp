@@ -9,6 +9,19 @@
 
 namespace ovisto {
 
+namespace {
+
+/// All elements but those that name single values of an entry.
+constexpr const char* kAllEntries = "//*[not(self::value or self::flag)]";
+
+bool isEntry(const ConstXmlNode& node)
+{
+    const std::string name = node.name();
+    return node.isElement() && name != "value" && name != "flag";
+}
+
+} // namespace
+
 std::string DictionaryEntry::label() const
 {
     return AttributeGet(m_node, "label");
@@ -17,6 +30,11 @@ std::string DictionaryEntry::label() const
 std::string DictionaryEntry::help() const
 {
     return AttributeGet(m_node, "help");
+}
+
+std::string DictionaryEntry::format() const
+{
+    return AttributeGet(m_node, "format");
 }
 
 Visibility DictionaryEntry::visibility() const
@@ -53,23 +71,29 @@ std::string DictionaryEntry::path() const
 TagDictionary::TagDictionary(const std::string& path)
 {
     XMLLoad(m_document, path);
-    for (const ConstXmlNode& node : std::as_const(m_document).selectNodes("//*"))
+    for (const ConstXmlNode& node : std::as_const(m_document).selectNodes(kAllEntries))
         m_entries.emplace(NodeXPath(node), node);
 }
 
 DictionaryEntry TagDictionary::entry(const std::string& nodePath) const
 {
-    const auto found = m_entries.find(nodePath);
-    if (found != m_entries.end())
-        return found->second;
+    if (const DictionaryEntry found = entryAt(nodePath))
+        return found;
     const ConstXmlNode selected = m_document.selectSingleNode(nodePath);
-    return selected.isElement() ? DictionaryEntry(selected) : DictionaryEntry();
+    return isEntry(selected) ? DictionaryEntry(selected) : DictionaryEntry();
+}
+
+DictionaryEntry TagDictionary::entryAt(const std::string& nodePath) const
+{
+    const auto found = m_entries.find(nodePath);
+    return found != m_entries.end() ? found->second : DictionaryEntry();
 }
 
 std::vector<DictionaryEntry> TagDictionary::entries(bool technical, Reading reading) const
 {
     std::vector<DictionaryEntry> entries;
-    for (const ConstXmlNode& node : m_document.selectNodes(technical ? "//*[not(@vis='2')]" : "//*[not(@vis>'0')]")) {
+    const char* visible = technical ? "[not(@vis='2')]" : "[not(@vis>'0')]";
+    for (const ConstXmlNode& node : m_document.selectNodes(std::string(kAllEntries) + visible)) {
         const DictionaryEntry entry(node);
         if (reading == Reading::Full || readingNeeded(entry.path()) == Reading::Basic)
             entries.push_back(entry);

@@ -28,8 +28,10 @@ public:
 
     /// The caption for people, in UTF-8.
     std::string label() const;
-    /// What the value means, in UTF-8, for people.
+    /// What the value is about, in UTF-8, for people.
     std::string help() const;
+    /// How values are put into words; the formats are those of valueText(). Empty for as they are.
+    std::string format() const;
     Visibility visibility() const;
     Protection protection() const;
 
@@ -57,6 +59,9 @@ public:
     /// The entry for a node path, as NodeXPath() writes it or any other that selects it; no entry where it selects
     /// no element. Raises kInvalidCall for what is no path.
     DictionaryEntry entry(const std::string& nodePath) const;
+
+    /// The entry for a node path exactly as NodeXPath() writes it, or no entry; the quickest way.
+    DictionaryEntry entryAt(const std::string& nodePath) const;
 
     /// The entries of nodes that a document read in this way may have, in the order of the dictionary: with `technical`
     /// all but the hidden ones, else the shown ones.

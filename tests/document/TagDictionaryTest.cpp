@@ -4,11 +4,13 @@
 #include "document/Directories.h"
 #include "document/NodePath.h"
 #include "document/NodePaths.h"
+#include "document/ValueText.h"
 #include "support/CommandRun.h"
 #include "support/Dictionary.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -17,7 +19,7 @@ namespace ovisto::test {
 TEST(TagDictionary, IsCompleteForEveryEntry)
 {
     std::set<std::string> paths;
-    for (const ConstXmlNode& node : dictionary().document().selectNodes("//*")) {
+    for (const ConstXmlNode& node : dictionary().document().selectNodes("//*[@vis]")) {
         const DictionaryEntry entry(node);
         const std::string path = entry.path();
         EXPECT_TRUE(paths.insert(path).second) << path << " stands twice";
@@ -38,6 +40,31 @@ TEST(TagDictionary, IsCompleteForEveryEntry)
             << path << " would never be seen";
     }
     EXPECT_GT(paths.size(), 300U);
+}
+
+TEST(TagDictionary, NamesValuesThatCanBeTold)
+{
+    std::size_t named = 0;
+    for (const ConstXmlNode& node : dictionary().document().selectNodes("//value | //flag")) {
+        const DictionaryEntry entry(node.parent());
+        const std::string path = entry.path();
+        const std::string raw = node.attribute("raw");
+        const std::string text = node.attribute("text");
+        EXPECT_FALSE(text.empty() || text.ends_with('.')) << path << " " << raw;
+        EXPECT_NE(valueText(entry, raw, englishValueWords()).find(text), std::string::npos) << path << " " << raw;
+        EXPECT_EQ(dictionary().entry(path), entry);
+        EXPECT_FALSE(dictionary().entry(path + "/" + node.name())) << "no entry of its own";
+        ++named;
+    }
+    EXPECT_GT(named, 200U);
+    const auto entries = dictionary().entries(true, Reading::Full);
+    EXPECT_FALSE(std::ranges::any_of(entries, [](const DictionaryEntry& entry) { return entry.label().empty(); }));
+
+    const DictionaryEntry source = dictionary().entry("/JPEG/Exif/IFDE/IFD[@id='A300']");
+    EXPECT_EQ(enumeratedValues(source, Reading::Full).back().raw, "03");
+    EXPECT_EQ(enumeratedValues(source, Reading::Basic).back().raw, "03000000");
+    EXPECT_EQ(enumeratedValues(source, Reading::Basic).back().text, "digital camera");
+    EXPECT_TRUE(enumeratedValues(dictionary().entry("/JPEG/Exif/IFDE/IFD[@id='9209']"), Reading::Full).empty());
 }
 
 TEST(TagDictionary, HoldsWhatTheProgramLooksUp)
