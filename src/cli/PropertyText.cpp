@@ -3,34 +3,48 @@
 #include "cli/TerminalText.h"
 #include "document/DataType.h"
 #include "document/PropertyTree.h"
+#include "document/ValueText.h"
 
 namespace ovisto {
 
 namespace {
 
+constexpr std::size_t kMostColumns = 1000;
+constexpr std::size_t kMostDigits = 64;
+
 /// The value on one line; of long byte values (thumbnails, tables) only the beginning and the size.
-std::string valueText(const ConstXmlNode& node, int dataType)
+std::string rawText(const std::string& text, int dataType)
 {
-    constexpr std::size_t kMostDigits = 64;
-    constexpr std::size_t kMostColumns = 1000;
-    const std::string text = node.text();
     if (dataType == kByte && text.size() > kMostDigits)
         return text.substr(0, kMostDigits) + "... " + std::to_string(text.size() / 2) + " bytes";
     return oneLine(text, kMostColumns);
 }
 
+/// The same with its meaning.
+std::string meantText(const DictionaryEntry& entry, const std::string& raw, int dataType)
+{
+    constexpr std::size_t kMostOfRaw = 64;
+    const std::string text = valueText(entry, raw, dataType, englishValueWords());
+    if (text == raw)
+        return rawText(raw, dataType);
+    const bool saysRaw = text.ends_with("(" + raw + ")");
+    return oneLine(text, kMostColumns) + (saysRaw ? "" : " [" + oneLine(raw, kMostOfRaw) + "]");
+}
+
 } // namespace
 
-std::string propertyText(const XmlDocument& document, const TagDictionary& dictionary, bool technical)
+std::string propertyText(const XmlDocument& document, const TagDictionary& dictionary, const PropertyOptions& options)
 {
     std::string lines;
-    for (const PropertyItem& item : propertyTree(document, dictionary, technical)) {
+    for (const PropertyItem& item : propertyTree(document, dictionary, options.technical)) {
         const std::string label = item.label.empty() ? item.node.name() : item.label;
         lines += std::string(2 * static_cast<std::size_t>(item.depth), ' ') + label;
         if (item.node.childElements().empty()) {
             const int dataType = shownDataType(item.node);
             const std::string type(shownDataTypeName(item.node));
-            lines += ": " + valueText(item.node, dataType) + (type.empty() ? "" : " (" + type + ")");
+            const std::string raw = item.node.text();
+            lines += ": " + (options.raw ? rawText(raw, dataType) : meantText(item.entry, raw, dataType)) +
+                     (type.empty() ? "" : " (" + type + ")");
         }
         lines += '\n';
     }

@@ -15,6 +15,7 @@ namespace {
 struct ShowOptions {
     FileOptions files;
     bool technical = false;
+    bool raw = false;
     bool onlyPrivate = false;
     Reading reading = Reading::Full;
 };
@@ -23,6 +24,7 @@ void addShowOptions(CLI::App& parser, ShowOptions& options)
 {
     addFiles(parser, options.files);
     parser.add_flag("--technical", options.technical, "Show technical properties too");
+    parser.add_flag("--raw", options.raw, "Show values only as they are in the document: 1/250, not 1/250 s");
     parser.add_flag("--private", options.onlyPrivate,
                     "Show what tells of people and places instead: its kind, size and place; see clean");
     addBasicOption(parser, options.reading);
@@ -44,9 +46,10 @@ int runShow(const ShowOptions& options)
     const std::vector<std::string> files = fileNames(options.files);
     const TagDictionary dictionary = loadDictionary(options.files);
     return runEach(files, options.files.jobs, [&](const std::string& path, FileResult& result, ErrorReporter&) {
-        const std::string text = options.onlyPrivate ? privateText(path, dictionary)
-                                                     : propertyText(loadDocument(path, {.reading = options.reading}),
-                                                                    dictionary, options.technical);
+        const std::string text = options.onlyPrivate
+                                     ? privateText(path, dictionary)
+                                     : propertyText(loadDocument(path, {.reading = options.reading}), dictionary,
+                                                    {.technical = options.technical, .raw = options.raw});
         result.output = oneLine(path) + "\n" + text;
     });
 }

@@ -71,9 +71,14 @@ TEST(CommandLine, ShowsLabelsValuesAndDataTypes)
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.output.find(path + "\nJPEG File\n  Exif Data\n    Camera Make: Acme (String)\n"), 0U) << run.output;
     EXPECT_NE(run.output.find("\n    Title: Héllo (Unicode String)\n"), std::string::npos);
-    EXPECT_NE(run.output.find("\n      Exposure Time: 1/250 (Rational)\n"), std::string::npos);
+    EXPECT_NE(run.output.find("\n      Exposure Time: 1/250 s [1/250] (Rational)\n"), std::string::npos);
     EXPECT_EQ(run.output.find("Exif Version"), std::string::npos);
-    EXPECT_NE(ovisto({"show", "--technical", path}).output.find("Exif Version: 0220 (Undefined)\n"), std::string::npos);
+    EXPECT_NE(ovisto({"show", "--technical", "--raw", path}).output.find("Exif Version: 0220 (Undefined)\n"),
+              std::string::npos);
+    const CommandRun sample = ovisto({"show", OVISTO_OWN_SAMPLES "little-endian.jpg"});
+    for (const char* line : {"Orientation: upright (1) (Short)\n", "Flash: not fired, forced off (0x10) [16] (Short)\n",
+                             "Thumbnail: 4,475 bytes [FFD8FFE000104A464946000101000001", "F-number: f/8 [8/1] (Rat"})
+        EXPECT_NE(sample.output.find(line), std::string::npos) << line << sample.output;
 }
 
 TEST(CommandLine, SendsNoControlsToATerminal)
