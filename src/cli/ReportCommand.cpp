@@ -7,7 +7,6 @@
 #include "common/system/NewTextFile.h"
 #include "common/system/TemporaryFile.h"
 #include "common/xml/XmlLoad.h"
-#include "common/xml/XmlTransform.h"
 
 #include <CLI/CLI.hpp>
 
@@ -66,14 +65,16 @@ Transformation transformed(const ReportCommandOptions& options, XmlDocument styl
                            const std::vector<std::string>& files, CommandOutput& output)
 {
     XmlDocument document;
+    const TagDictionary dictionary = loadDictionary(options.files);
     TemporaryFile combined;
     for (const FileFailure& failure : combineDocuments(files, options.keep, combined.file(), output.progress()))
         ErrorReport(output, failure.path, failure.error);
     if (interrupted())
         return {};
     XMLLoad(document, combined.path());
-    return transformNode(document, std::move(style),
-                         options.encoding == "utf-16" ? TextEncoding::Utf16 : TextEncoding::Utf8);
+    return transformDocuments(document, std::move(style),
+                              options.encoding == "utf-16" ? TextEncoding::Utf16 : TextEncoding::Utf8,
+                              {.dictionary = &dictionary});
 }
 
 /// Makes the report and writes it to `file`, to standard output without one.

@@ -5,7 +5,6 @@
 #include "common/text/PathText.h"
 #include "common/text/Unicode.h"
 #include "common/xml/XmlLoad.h"
-#include "common/xml/XmlTransform.h"
 #include "document/MetadataDocument.h"
 
 #include <algorithm>
@@ -85,6 +84,15 @@ std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files,
     return leftOut;
 }
 
+Transformation transformDocuments(XmlDocument& documents, XmlDocument styleSheet, TextEncoding encoding,
+                                  const ValueTexts& values)
+{
+    const NodeFunction text{.nameSpace = "urn:ovisto:values", .name = "text", .text = [&](const ConstXmlNode& element) {
+                                return values.of(element);
+                            }};
+    return transformNode(documents, std::move(styleSheet), encoding, {text});
+}
+
 ReportResult makeReport(const std::vector<std::string>& files, const ReportOptions& options, Progress& progress,
                         ErrorReporter& reporter)
 {
@@ -103,7 +111,7 @@ ReportResult makeReport(const std::vector<std::string>& files, const ReportOptio
             XMLLoad(document, combined);
         }))
         return result;
-    const Transformation report = transformNode(document, std::move(style), TextEncoding::Utf16);
+    const Transformation report = transformDocuments(document, std::move(style), TextEncoding::Utf16, options.values);
     // What a style sheet made before it failed is worth a look.
     if (report.error)
         ErrorReport(reporter, Message::TransformXml, *report.error);

@@ -3,6 +3,8 @@
 #include "common/ErrorReport.h"
 #include "common/Progress.h"
 #include "common/system/File.h"
+#include "common/xml/XmlTransform.h"
+#include "document/ValueText.h"
 #include "reader/JpegXml.h"
 
 #include <string>
@@ -24,11 +26,17 @@ struct FileFailure {
 std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files, const KeepOptions& keep,
                                           OutputFile& combined, Progress& progress);
 
+/// Transforms combined documents with a style sheet. The function text(), of a node, in the name space
+/// "urn:ovisto:values" gives it the texts of values.
+Transformation transformDocuments(XmlDocument& documents, XmlDocument styleSheet, TextEncoding encoding,
+                                  const ValueTexts& values);
+
 /// How a report is made.
 struct ReportOptions {
     std::string styleSheet;
     std::string folder; ///< for the report and "Report.xml", the combined documents; ends with a separator
     KeepOptions keep;
+    ValueTexts values = {};
 };
 
 /// The result of making a report.

@@ -12,6 +12,7 @@ namespace ovisto {
 
 class XmlDocument;
 enum class TextEncoding;
+struct NodeFunction;
 struct Transformation;
 
 /// A node of an XmlDocument for reading, or no node. No node answers every query with an empty result. A handle stays
@@ -55,7 +56,8 @@ public:
     std::vector<ConstXmlNode> selectNodes(const std::string& xpath) const;
 
 protected:
-    friend Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding);
+    friend Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding,
+                                        const std::vector<NodeFunction>& functions);
     _xmlNode* m_node = nullptr;
 };
 

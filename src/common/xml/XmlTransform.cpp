@@ -7,6 +7,7 @@
 
 #include <libexslt/exslt.h>
 #include <libxml/uri.h>
+#include <libxml/xpathInternals.h>
 #include <libxslt/documents.h>
 #include <libxslt/extensions.h>
 #include <libxslt/extra.h>
@@ -15,6 +16,7 @@
 #include <libxslt/xsltInternals.h>
 #include <libxslt/xsltutils.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdarg>
 #include <cstdio>
@@ -218,6 +220,40 @@ Error tooMuchMemory()
     return {kOutOfMemory, Message::StyleSheetTooLarge};
 }
 
+const xmlNode* firstNode(xmlXPathObject& argument)
+{
+    if (argument.type != XPATH_NODESET && argument.type != XPATH_XSLT_TREE)
+        return nullptr;
+    if (xmlXPathNodeSetGetLength(argument.nodesetval) > 1)
+        xmlXPathNodeSetSort(argument.nodesetval);
+    return xmlXPathNodeSetItem(argument.nodesetval, 0);
+}
+
+/// Is called where a style sheet calls any of the functions.
+void callFunction(xmlXPathParserContext* parser, int argumentCount)
+{
+    if (argumentCount != 1) {
+        xmlXPathSetArityError(parser);
+        return;
+    }
+    const auto& functions =
+        *static_cast<const std::vector<NodeFunction>*>(xsltXPathGetTransformContext(parser)->_private);
+    const auto function = std::ranges::find_if(functions, [&](const NodeFunction& one) {
+        return one.name == toString(parser->context->function) &&
+               one.nameSpace == toString(parser->context->functionURI);
+    });
+    const XmlPtr<xmlXPathObject> argument(valuePop(parser));
+    if (!argument || function == functions.end())
+        return;
+    const xmlNode* node = firstNode(*argument);
+    if (node == nullptr || node->type != XML_ELEMENT_NODE) {
+        valuePush(parser, xmlXPathConvertString(xmlXPathObjectCopy(argument.get())));
+        return;
+    }
+    const std::string text = function->text(ConstXmlNode(const_cast<xmlNode*>(node)));
+    valuePush(parser, xmlXPathNewString(xmlText(text.c_str())));
+}
+
 std::string resultText(xmlDoc* result, xsltStylesheet* style)
 {
     xmlChar* bytes = nullptr;
@@ -230,7 +266,8 @@ std::string resultText(xmlDoc* result, xsltStylesheet* style)
 
 } // namespace
 
-Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding)
+Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding,
+                             const std::vector<NodeFunction>& functions)
 {
     initialiseTransformer();
     importsLeft = kMostImports;
@@ -255,6 +292,10 @@ Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEnco
     const XsltPtr<xsltTransformContext> context(xsltNewTransformContext(style.get(), doc));
     limitSteps(*context, elements);
     reading.transformation = context.get();
+    context->_private = const_cast<std::vector<NodeFunction>*>(&functions);
+    for (const NodeFunction& function : functions)
+        xsltRegisterExtFunction(context.get(), xmlText(function.name.c_str()), xmlText(function.nameSpace.c_str()),
+                                callFunction);
     const XmlPtr<xmlDoc> result(xsltApplyStylesheetUser(style.get(), doc, nullptr, nullptr, nullptr, context.get()));
     const bool tookTooMuch = memory->wasExceeded();
     memory.reset();

@@ -3,8 +3,10 @@
 #include "common/Error.h"
 #include "common/xml/XmlDocument.h"
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace ovisto {
 
@@ -17,12 +19,21 @@ struct Transformation {
     std::optional<Error> error;
 };
 
+/// A function for style sheets, of a node set: the text for its first node in document order, if that is an element.
+/// Another node, or another value, is converted to a string as XPath does.
+struct NodeFunction {
+    std::string nameSpace;
+    std::string name;
+    std::function<std::string(const ConstXmlNode& element)> text; ///< must not raise anything
+};
+
 /// Transforms `data` with an XSLT 1.0 style sheet that loadStyleSheet() loaded; EXSLT functions and msxsl:node-set()
-/// are available. White space that the style sheet strips is removed from `data`. A style sheet can read regular files
-/// below the folders that it was loaded with, and it cannot write. One that tries to read another file is stopped with
-/// kPermissionDenied. One that never ends is stopped after far more steps than
-/// the data needs. An error in the style sheet is kInvalidCall, with reason and position. One that needs far more
-/// memory than the data (128 MB, plus 2 KB per element, plus four times the texts) is kOutOfMemory.
-Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding);
+/// are available, and `functions`. White space that the style sheet strips is removed from `data`. A style sheet can
+/// read regular files below the folders that it was loaded with, and it cannot write. One that tries to read another
+/// file is stopped with kPermissionDenied. One that never ends is stopped after far more steps than the data needs. An
+/// error in the style sheet is kInvalidCall, with reason and position. One that needs far more memory than the data
+/// (128 MB, plus 2 KB per element, plus four times the texts) is kOutOfMemory.
+Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding,
+                             const std::vector<NodeFunction>& functions = {});
 
 } // namespace ovisto
