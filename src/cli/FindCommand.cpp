@@ -19,6 +19,7 @@ namespace {
 struct FindOptions {
     ScanOptions scan;
     FileOptions files; ///< those of the list only
+    bool values = false;
 };
 
 void addFindOptions(CLI::App& parser, FindOptions& options)
@@ -37,6 +38,7 @@ void addFindOptions(CLI::App& parser, FindOptions& options)
     parser.add_flag("--all-words", scan.content.allWords, "All of the words");
     parser.add_flag("--whole-words", scan.content.wholeWords, "Not as parts of longer words");
     parser.add_flag("--regexp", scan.content.regExp, "W is a regular expression, not a list of words");
+    parser.add_flag("--values", options.values, "Search the values as show prints them, too: 1/125 s, turned right");
     addBasicOption(parser, scan.content.reading);
     parser.add_flag("!--no-subfolders", scan.subFolders, "Only in FOLDER itself");
     addFileList(parser, options.files);
@@ -92,8 +94,13 @@ int runFind(const FindOptions& options)
     CommandOutput output;
     ContentSearch content = options.scan.content;
     content.words = decodedText(content.words);
+    std::optional<TagDictionary> dictionary;
     std::optional<ContentFilter> filter;
-    if (!attempt(output, "", [&] { filter.emplace(content); })) {
+    if (!attempt(output, "", [&] {
+            if (options.values)
+                content.values.dictionary = &dictionary.emplace(loadDictionary(options.files));
+            filter.emplace(content);
+        })) {
         output.finish();
         return kWrongUsage;
     }

@@ -57,8 +57,9 @@ void addFileList(CLI::App& parser, FileOptions& options)
     parser.add_flag("-0", options.zeroSeparated,
                     "Names end with NUL bytes, not line ends: those in --files-from, those that find prints");
     parser
-        .add_option("--dictionary", options.dictionary,
-                    "Another tag dictionary for the commands that need one: show, set, delete, add")
+        .add_option(
+            "--dictionary", options.dictionary,
+            "Another tag dictionary for the commands that need one: show, set, delete, add, report, find --values")
         ->option_text("FILE");
     options.jobs = std::max(1U, std::thread::hardware_concurrency());
     parser.add_option("--jobs", options.jobs, "Files worked on at the same time (default: one a core)")

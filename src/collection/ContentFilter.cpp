@@ -5,6 +5,7 @@
 #include "common/Error.h"
 #include "common/text/CaseFolding.h"
 #include "common/text/Splitting.h"
+#include "document/MetadataDocument.h"
 #include "reader/JpegXml.h"
 
 #include <algorithm>
@@ -74,6 +75,27 @@ std::vector<RegularExpression> expressionsFor(const ContentSearch& search)
     return expressions;
 }
 
+void appendTexts(std::string& texts, const ConstXmlNode& node, const ValueTexts& values)
+{
+    const std::vector<ConstXmlNode> below = node.childElements();
+    for (const ConstXmlNode& child : below)
+        appendTexts(texts, child, values);
+    if (below.empty())
+        texts += "\n" + values.of(node);
+}
+
+/// The texts of all values, one a line, each after a line break; none of a document that is not well-formed.
+std::string textsOfValues(const std::string& documentText, const ValueTexts& values)
+{
+    std::string texts;
+    ErrorTrap trap;
+    trap.run([&] {
+        const XmlDocument document = documentOf(documentText);
+        appendTexts(texts, document.documentElement(), values);
+    });
+    return texts;
+}
+
 } // namespace
 
 Phrase objection(const ContentSearch& search)
@@ -99,8 +121,8 @@ std::optional<Error> FailedChecks::summary() const
 }
 
 ContentFilter::ContentFilter(const ContentSearch& search)
-    : m_reading(search.reading), m_foldsText(search.reading == Reading::Full && !search.regExp),
-      m_expressions(expressionsFor(search))
+    : m_reading(search.reading), m_values(search.values),
+      m_foldsText(search.reading == Reading::Full && !search.regExp), m_expressions(expressionsFor(search))
 {
 }
 
@@ -125,9 +147,10 @@ bool ContentFilter::keeps(const std::string& path) const
 
 std::string ContentFilter::searchedText(std::string documentText) const
 {
+    const std::string texts = m_values.dictionary != nullptr ? textsOfValues(documentText, m_values) : std::string();
     if (m_reading == Reading::Basic)
-        return documentText;
-    std::string text = visibleText(std::move(documentText));
+        return documentText + texts;
+    std::string text = visibleText(std::move(documentText)) + texts;
     return m_foldsText ? foldedText(std::move(text)) : text;
 }
 

@@ -3,6 +3,7 @@
 #include "common/Error.h"
 #include "common/text/RegularExpression.h"
 #include "document/Reading.h"
+#include "document/ValueText.h"
 
 #include <optional>
 #include <string>
@@ -17,6 +18,7 @@ struct ContentSearch {
     bool wholeWords = false; ///< only whole words; ignored for a regular expression
     bool regExp = false;     ///< `words` is a regular expression
     Reading reading = Reading::Full;
+    ValueTexts values = {}; ///< with a dictionary, the texts of values are searched, too
 };
 
 /// Why nothing can be searched for in this way: what was typed is not a regular expression. Empty when it is one.
@@ -48,7 +50,8 @@ public:
     /// characters, with their special meaning.
     explicit ContentFilter(const ContentSearch& search);
 
-    /// True if the document text of the JPEG file at `path`, markup included, matches. False for a file that the reader
+    /// True if the document text of the JPEG file at `path`, markup included, matches, with the texts of its values
+    /// behind it if the search asks for them. False for a file that the reader
     /// cannot translate. With nothing to search for, true without opening the file. Raises the errors of
     /// RegularExpression::matches(), with the file's name.
     ///
@@ -63,6 +66,7 @@ private:
     std::string searchedText(std::string documentText) const;
 
     Reading m_reading;
+    ValueTexts m_values;
     bool m_foldsText;                             // as words in full documents need it
     std::vector<RegularExpression> m_expressions; // all of them must match
 };
