@@ -33,16 +33,18 @@
           <xsl:for-each select="JPEG"><value><xsl:apply-templates select="." mode="camera"/></value></xsl:for-each>
         </xsl:variable>
         <xsl:variable name="focals">
-          <xsl:for-each select="JPEG"><value><xsl:apply-templates select="." mode="focal"/></value></xsl:for-each>
+          <xsl:for-each select="JPEG">
+            <xsl:variable name="focal" select="Exif/IFDE/IFD[@id='920A']"/>
+            <value number="{substring-before($focal, '/') div substring-after($focal, '/')}"><xsl:apply-templates select="." mode="focal"/></value>
+          </xsl:for-each>
         </xsl:variable>
         <xsl:variable name="isos">
-          <xsl:for-each select="JPEG"><value><xsl:apply-templates select="." mode="iso"/></value></xsl:for-each>
+          <xsl:for-each select="JPEG">
+            <value number="{Exif/IFDE/IFD[@id='8827']}"><xsl:apply-templates select="." mode="iso"/></value>
+          </xsl:for-each>
         </xsl:variable>
         <xsl:variable name="months">
-          <xsl:for-each select="JPEG">
-            <xsl:variable name="date"><xsl:apply-templates select="." mode="date"/></xsl:variable>
-            <value><xsl:value-of select="substring($date, 1, 7)"/></value>
-          </xsl:for-each>
+          <xsl:for-each select="JPEG"><value><xsl:apply-templates select="." mode="month"/></value></xsl:for-each>
         </xsl:variable>
         <xsl:apply-templates select="exsl:node-set($cameras)" mode="chart">
           <xsl:with-param name="title" select="'Camera'"/>
@@ -76,7 +78,7 @@
             <xsl:choose>
               <xsl:when test="normalize-space(.) = ''">999999999</xsl:when>
               <xsl:when test="$order = 'count'"><xsl:value-of select="-$count"/></xsl:when>
-              <xsl:when test="$order = 'number'"><xsl:value-of select="number(translate(., translate(., '0123456789.', ''), ''))"/></xsl:when>
+              <xsl:when test="$order = 'number'"><xsl:value-of select="number(@number)"/></xsl:when>
               <xsl:otherwise>0</xsl:otherwise>
             </xsl:choose>
           </xsl:attribute>

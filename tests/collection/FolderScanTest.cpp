@@ -1,6 +1,7 @@
 #include "collection/FolderScan.h"
 #include "common/text/Unicode.h"
 #include "support/CountingProgress.h"
+#include "support/Dictionary.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 
@@ -219,6 +220,16 @@ TEST(ContentFilter, ReadsWordsAndExpressionsAsPeopleTypeThem)
         EXPECT_EQ(ContentFilter(search).keeps(path), c.keeps) << c.search.words;
         search.reading = Reading::Basic;
         EXPECT_EQ(ContentFilter(search).keeps(path), c.keeps) << c.search.words << " in a basic document";
+    }
+    for (const Reading reading : {Reading::Full, Reading::Basic}) {
+        ContentSearch meant{.words = "1/250 S", .reading = reading};
+        EXPECT_FALSE(ContentFilter(meant).keeps(path));
+        meant.values.dictionary = &dictionary();
+        EXPECT_TRUE(ContentFilter(meant).keeps(path));
+        meant.words = "acme";
+        EXPECT_TRUE(ContentFilter(meant).keeps(path));
+        const Bytes illFormed = JpegBytes().segment(0xFFE1, bytes("x") + Bytes{0} + bytes("<acme ]]>")).end();
+        EXPECT_TRUE(ContentFilter(meant).keeps(folder.file("ill-formed.jpg", illFormed)));
     }
     EXPECT_FALSE(ContentFilter({"JPEG"}).keeps(folder.file("broken.jpg", "text")));
     EXPECT_TRUE(ContentFilter({}).keeps(folder.path("none.jpg"))) << "not even opened";

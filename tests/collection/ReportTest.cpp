@@ -4,6 +4,7 @@
 #include "common/xml/XmlTransform.h"
 #include "support/CommandRun.h"
 #include "support/CountingProgress.h"
+#include "support/Dictionary.h"
 #include "support/JpegBytes.h"
 #include "support/RecordingReporter.h"
 
@@ -144,6 +145,34 @@ TEST_F(ReportTest, NamesWhatFailed)
     report(textStyle("text"), {});
     EXPECT_EQ(reporter.contexts.back(), folder.path("Report.xml"));
     EXPECT_EQ(reporter.contexts.size(), 6U);
+}
+
+TEST_F(ReportTest, GivesStyleSheetsTheTextsOfValues)
+{
+    ExifBytes exif;
+    exif.ifd0({exif.shorts(0x0112, {6}), exif.shorts(0x0128, {2})});
+    const std::string file = folder.file("a.jpg", JpegBytes().exif(exif).end());
+    const std::pair<const char*, const char*> cases[] = {
+        {"//IFD[@id='0112']", "turned right (6)"},
+        {"//IFD[@id='0128'] | //IFD[@id='0112']", "turned right (6)"},
+        {"//IFD[@id='0112']/@id", "0112"},
+        {"//IFD[@id='0112']/text()", "6"},
+        {"//none", ""},
+        {"'6'", "6"},
+        {"document('')/*/*[1]", ""},
+    };
+    std::string style;
+    std::string texts;
+    for (const auto& [argument, text] : cases) {
+        style += "<xsl:value-of select=\"v:text(" + std::string(argument) + ")\" xmlns:v='urn:ovisto:values'/>!";
+        texts += std::string(text) + "!";
+    }
+    const ReportOptions options{folder.file("a.xsl", textStyle(style)), folder.path(""), {}, {&dictionary()}};
+    EXPECT_EQ(contentOf(makeReport({file}, options, progress, reporter).path), utf16File(texts));
+    EXPECT_TRUE(reporter.contexts.empty());
+    for (const char* wrong : {"v:text()", "v:text(1, 2)", "v:texts(1)"})
+        report(textStyle("<xsl:value-of select='" + std::string(wrong) + "' xmlns:v='urn:ovisto:values'/>"), {file});
+    EXPECT_EQ(reporter.contexts, std::vector<std::string>(3, "Transform XML"));
 }
 
 TEST(XmlTransform, EndsStyleSheetsThatWouldNot)
@@ -324,7 +353,7 @@ TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
         const char* name;
         std::vector<const char*> texts;
     } cases[] = {
-        {"table.xsl", "Report.htm", {"<td>Castelmar Lumetra 35</td>", ">1/125 s<", ">f/8<", ">2023-05-14 06:42<"}},
+        {"table.xsl", "Report.htm", {"<td>Castelmar Lumetra 35</td>", ">1/125 s<", ">f/8<", ">2023-05-14 06:42:18<"}},
         {"csv.xsl",
          "Report.txt",
          {"little-endian.jpg,Mountain lake,2023-05-14 06:42,Castelmar Lumetra 35,Castelmar Zoom 24-70mm "
@@ -334,13 +363,18 @@ TEST(ReportStyles, SayTheSameOfTheSamplesInEveryForm)
         {"list.xsl", "Report.txt", {"\r\n  1/125 s f/8 ISO 100 24 mm\r\n"}},
         {"statistics.xsl",
          "Report.htm",
-         {"Castelmar Lumetra 35</text><rect x=\"290\" y=\"3\" width=\"480\"", ">not known</text>", ">2023-12</text>"}},
+         {"Castelmar Lumetra 35</text><rect x=\"290\" y=\"3\" width=\"480\"", ">24 mm</text>", ">not known</text>",
+          ">2023-12</text>"}},
     };
     for (const auto& c : cases) {
         RecordingReporter reporter;
         CountingProgress progress;
-        const ReportResult result = makeReport(
-            files, {OVISTO_DATA_FOLDER + std::string("reports/") + c.style, folder.path(""), {}}, progress, reporter);
+        const ReportResult result = makeReport(files,
+                                               {OVISTO_DATA_FOLDER + std::string("reports/") + c.style,
+                                                folder.path(""),
+                                                {},
+                                                {.dictionary = &dictionary()}},
+                                               progress, reporter);
         EXPECT_EQ(result.path, folder.path(c.name));
         EXPECT_TRUE(reporter.contexts.empty());
         const Bytes report = contentOf(result.path);

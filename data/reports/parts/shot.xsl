@@ -2,8 +2,8 @@
 <!-- How a photograph was taken, in readable form. For style sheets to import; apply each template but the first to a
      JPEG element. -->
 <xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform"
-                xmlns:math="http://exslt.org/math" xmlns:str="http://exslt.org/strings"
-                exclude-result-prefixes="math str">
+                xmlns:str="http://exslt.org/strings" xmlns:values="urn:ovisto:values"
+                exclude-result-prefixes="str values">
 
   <xsl:variable name="smallLetters" select="'abcdefghijklmnopqrstuvwxyz'"/>
   <xsl:variable name="capitals" select="'ABCDEFGHIJKLMNOPQRSTUVWXYZ'"/>
@@ -40,11 +40,20 @@
     <xsl:value-of select="normalize-space(Exif/IFDE/IFD[@id='A434'])"/>
   </xsl:template>
 
-  <!-- 2023:05:14 06:42:18 as 2023-05-14 06:42. -->
   <xsl:template match="JPEG" mode="date">
+    <xsl:variable name="shot" select="Exif/IFDE/IFD[@id='9003'][1]"/>
+    <xsl:variable name="meant"><xsl:apply-templates select="$shot" mode="meant"/></xsl:variable>
+    <xsl:choose>
+      <xsl:when test="string($meant)"><xsl:value-of select="$meant"/></xsl:when>
+      <xsl:when test="translate(substring($shot, 1, 4), '0: ', '')"><xsl:value-of select="normalize-space($shot)"/></xsl:when>
+    </xsl:choose>
+  </xsl:template>
+
+  <!-- 2023-05. -->
+  <xsl:template match="JPEG" mode="month">
     <xsl:variable name="shot" select="normalize-space(Exif/IFDE/IFD[@id='9003'])"/>
     <xsl:if test="translate(substring($shot, 1, 4), '0 ', '')">
-      <xsl:value-of select="concat(translate(substring($shot, 1, 10), ':', '-'), substring($shot, 11, 6))"/>
+      <xsl:value-of select="translate(substring($shot, 1, 7), ':', '-')"/>
     </xsl:if>
   </xsl:template>
 
@@ -75,38 +84,22 @@
     </xsl:if>
   </xsl:template>
 
-  <!-- 1/125 s; 8 s; 10/1250 as 1/125 s. Some cameras give it only as a power of two. -->
-  <xsl:template match="JPEG" mode="time">
-    <xsl:variable name="time" select="Exif/IFDE/IFD[@id='829A']"/>
-    <xsl:variable name="power" select="Exif/IFDE/IFD[@id='9201']"/>
-    <xsl:variable name="given" select="substring-before($time, '/') div substring-after($time, '/')"/>
-    <xsl:variable name="halvings" select="substring-before($power, '/') div substring-after($power, '/')"/>
-    <xsl:variable name="meant" select="math:power(2, -$halvings)"/>
+  <!-- What a value means, as the program says it; nothing for one that makes no sense, such as 0/0. Other programs do not
+       have the function, and give the value as it is. -->
+  <xsl:template match="IFD" mode="meant">
     <xsl:choose>
-      <xsl:when test="$given &gt; 0"><xsl:call-template name="seconds"><xsl:with-param name="number" select="$given"/></xsl:call-template></xsl:when>
-      <xsl:when test="not($time) and $meant &gt; 0"><xsl:call-template name="seconds"><xsl:with-param name="number" select="$meant"/></xsl:call-template></xsl:when>
+      <xsl:when test="not(function-available('values:text'))"><xsl:value-of select="."/></xsl:when>
+      <xsl:when test="values:text(.) != string(.)"><xsl:value-of select="values:text(.)"/></xsl:when>
     </xsl:choose>
   </xsl:template>
 
-  <xsl:template name="seconds">
-    <xsl:param name="number"/>
-    <xsl:choose>
-      <xsl:when test="$number &lt; 0.00001 or $number &gt; 1000000"/>
-      <xsl:when test="$number * 3 &lt; 1"><xsl:value-of select="concat('1/', round(1 div $number), ' s')"/></xsl:when>
-      <xsl:otherwise><xsl:value-of select="concat(format-number($number, '0.#'), ' s')"/></xsl:otherwise>
-    </xsl:choose>
+  <!-- Some cameras give it only as a power of two. -->
+  <xsl:template match="JPEG" mode="time">
+    <xsl:apply-templates select="(Exif/IFDE/IFD[@id='829A'] | Exif/IFDE[not(IFD/@id='829A')]/IFD[@id='9201'])[1]" mode="meant"/>
   </xsl:template>
 
   <xsl:template match="JPEG" mode="aperture">
-    <xsl:variable name="aperture" select="Exif/IFDE/IFD[@id='829D']"/>
-    <xsl:variable name="power" select="Exif/IFDE/IFD[@id='9202']"/>
-    <xsl:variable name="given" select="substring-before($aperture, '/') div substring-after($aperture, '/')"/>
-    <xsl:variable name="doublings" select="substring-before($power, '/') div substring-after($power, '/')"/>
-    <xsl:variable name="meant" select="math:power(2, $doublings div 2)"/>
-    <xsl:choose>
-      <xsl:when test="$given &gt; 0 and $given &lt; 1000">f/<xsl:value-of select="format-number($given, '0.#')"/></xsl:when>
-      <xsl:when test="not($aperture) and $meant &gt; 0 and $meant &lt; 1000">f/<xsl:value-of select="format-number($meant, '0.#')"/></xsl:when>
-    </xsl:choose>
+    <xsl:apply-templates select="(Exif/IFDE/IFD[@id='829D'] | Exif/IFDE[not(IFD/@id='829D')]/IFD[@id='9202'])[1]" mode="meant"/>
   </xsl:template>
 
   <xsl:template match="JPEG" mode="iso">
@@ -115,9 +108,7 @@
   </xsl:template>
 
   <xsl:template match="JPEG" mode="focal">
-    <xsl:variable name="focal" select="Exif/IFDE/IFD[@id='920A']"/>
-    <xsl:variable name="number" select="substring-before($focal, '/') div substring-after($focal, '/')"/>
-    <xsl:if test="$number &gt; 0 and $number &lt; 100000"><xsl:value-of select="format-number($number, '0.#')"/> mm</xsl:if>
+    <xsl:apply-templates select="Exif/IFDE/IFD[@id='920A'][1]" mode="meant"/>
   </xsl:template>
 
 </xsl:stylesheet>

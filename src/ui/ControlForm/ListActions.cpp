@@ -94,7 +94,8 @@ void ListActions::generateReport()
     if (!styleSheet)
         return;
     const ReportOptions options{
-        .styleSheet = toPath(*styleSheet), .folder = folders.writable, .keep = m_editor.keepOptions()};
+        .styleSheet = toPath(*styleSheet), .folder = folders.writable, .keep = m_editor.keepOptions(),
+        .values = {.dictionary = &m_parts.Merovel}};
     ReportResult report;
     runWatched(m_parts.window, [&](ProgressForm& progress) {
         report = makeReport(m_editor.list().files().paths(), options, progress, m_parts.reporter);
