@@ -9,26 +9,27 @@ namespace ovisto {
 
 namespace {
 
-constexpr std::size_t kMostColumns = 1000;
 constexpr std::size_t kMostDigits = 64;
 
 /// The value on one line; of long byte values (thumbnails, tables) only the beginning and the size.
 std::string rawText(const std::string& text, int dataType)
 {
+    constexpr std::size_t kMostColumns = 1000;
     if (dataType == kByte && text.size() > kMostDigits)
         return text.substr(0, kMostDigits) + "... " + std::to_string(text.size() / 2) + " bytes";
     return oneLine(text, kMostColumns);
 }
 
-/// The same with its meaning.
+/// The meaning of the value, and the beginning of what the document has, unless the former ends with it.
 std::string meantText(const DictionaryEntry& entry, const std::string& raw, int dataType)
 {
-    constexpr std::size_t kMostOfRaw = 64;
-    const std::string text = valueText(entry, raw, dataType, englishValueWords());
-    if (text == raw)
+    const auto meaning = valueMeaning(entry, raw, dataType, englishValueWords());
+    if (!meaning)
         return rawText(raw, dataType);
-    const bool saysRaw = text.ends_with("(" + raw + ")");
-    return oneLine(text, kMostColumns) + (saysRaw ? "" : " [" + oneLine(raw, kMostOfRaw) + "]");
+    std::string text = oneLine(*meaning);
+    if (raw.size() > kMostDigits)
+        return text + " [" + oneLine(raw.substr(0, kMostDigits)) + "...]";
+    return meaning->ends_with("(" + raw + ")") ? text : text + " [" + oneLine(raw) + "]";
 }
 
 } // namespace

@@ -113,14 +113,22 @@ void AttributeSet(XmlNode node, const char* name, const std::string& value)
         node.setAttribute(name, value);
 }
 
+std::string nodeStep(const ConstXmlNode& element)
+{
+    const std::string id = AttributeGet(element, "id");
+    std::string step = "/" + element.name();
+    if (!id.empty())
+        step.append("[@id='").append(id).append("']");
+    return step;
+}
+
 std::string NodeXPath(const ConstXmlNode& node)
 {
     std::string path;
     for (ConstXmlNode level = node; level && level.name() != "#document"; level = level.parent()) {
         if (level.name() == "#text")
             continue;
-        const std::string id = AttributeGet(level, "id");
-        path.insert(0, "/" + level.name() + (id.empty() ? "" : "[@id='" + id + "']"));
+        path.insert(0, nodeStep(level));
     }
     return path;
 }

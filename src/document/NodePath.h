@@ -18,6 +18,9 @@ void AttributeSet(XmlNode node, const char* name, const std::string& value);
 /// selects the node in a metadata document and its entry in the tag dictionary.
 std::string NodeXPath(const ConstXmlNode& node);
 
+/// The last level of the path of an element, such as /IFD[@id='9003'].
+std::string nodeStep(const ConstXmlNode& element);
+
 /// What a text means as a node path.
 enum class PathMeaning {
     NotAPath,   ///< it is not written as NodeXPath() writes paths

@@ -9,25 +9,25 @@ namespace ovisto {
 
 namespace {
 
+/// `path` is that of the node, as NodeXPath() writes it.
 template <class Node>
-void appendItems(std::vector<ShownNode<Node>>& items, Node node, const TagDictionary& dictionary, bool technical,
-                 int depth)
+void appendItems(std::vector<ShownNode<Node>>& items, Node node, const std::string& path,
+                 const TagDictionary& dictionary, bool technical, int depth)
 {
-    const std::string path = NodeXPath(node);
     const DictionaryEntry entry = dictionary.entry(path);
     const Visibility visibility = entry.visibility();
     if (visibility == Visibility::Hidden || (visibility == Visibility::Technical && !technical))
         return;
     items.push_back({node, entry, path, entry ? entry.label() : AttributeGet(node, "id"), depth});
     for (const Node& child : node.childElements())
-        appendItems(items, child, dictionary, technical, depth + 1);
+        appendItems(items, child, path + nodeStep(child), dictionary, technical, depth + 1);
 }
 
 template <class Node> std::vector<ShownNode<Node>> itemsFrom(Node root, const TagDictionary& dictionary, bool technical)
 {
     std::vector<ShownNode<Node>> items;
     if (root)
-        appendItems(items, root, dictionary, technical, 0);
+        appendItems(items, root, NodeXPath(root), dictionary, technical, 0);
     return items;
 }
 

@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <optional>
 
 namespace ovisto {
 
@@ -480,6 +479,8 @@ constexpr Format kFormats[] = {
 const Format* formatOf(const DictionaryEntry& entry)
 {
     const std::string name = entry.format();
+    if (name == "plain") // as many are
+        return nullptr;
     const auto* format = std::ranges::find(kFormats, name, &Format::name);
     return format != std::end(kFormats) ? format : nullptr;
 }
@@ -496,7 +497,9 @@ Text textOf(const Value& value, const Format& format)
     if (value.raw.empty())
         return std::nullopt;
     Text text = namedText(value);
-    return text ? text : format.text(value);
+    if (!text)
+        text = format.text(value);
+    return text ? Text(cut(*std::move(text), value.words)) : std::nullopt;
 }
 
 /// The numbers of bytes, which stand where other numbers are expected.
@@ -517,19 +520,19 @@ std::string valueText(const DictionaryEntry& entry, std::string_view raw, const 
 {
     const Format* format = formatOf(entry);
     Text text = format != nullptr ? textOf({entry, raw, words}, *format) : std::nullopt;
-    return cut(text ? *std::move(text) : std::string(raw), words);
+    return text ? *std::move(text) : cut(std::string(raw), words);
 }
 
-std::string valueText(const DictionaryEntry& entry, std::string_view raw, int dataType, const ValueWords& words)
+std::optional<std::string> valueMeaning(const DictionaryEntry& entry, std::string_view raw, int dataType,
+                                        const ValueWords& words)
 {
     const Format* format = formatOf(entry);
     const bool isDigits = dataType == kByte || dataType == kSignedByte;
-    Text text;
-    if (format != nullptr && isDigits && format->takes == Takes::Numbers)
-        text = textOf({entry, decimalNumbers(raw), words}, *format);
-    else if (format != nullptr && (isDigits || format->takes != Takes::Digits))
-        text = textOf({entry, raw, words}, *format);
-    return cut(text ? *std::move(text) : std::string(raw), words);
+    if (format == nullptr || (!isDigits && format->takes == Takes::Digits))
+        return std::nullopt;
+    if (isDigits && format->takes == Takes::Numbers)
+        return textOf({entry, decimalNumbers(raw), words}, *format);
+    return textOf({entry, raw, words}, *format);
 }
 
 std::vector<EnumeratedValue> enumeratedValues(const DictionaryEntry& entry, Reading reading)
@@ -545,12 +548,14 @@ std::vector<EnumeratedValue> enumeratedValues(const DictionaryEntry& entry, Read
 std::string ValueTexts::of(const ConstXmlNode& node) const
 {
     constexpr std::string_view kCombined = "/JPEGs/";
+    std::string raw = node.text();
     if (dictionary == nullptr)
-        return node.text();
+        return raw;
     std::string path = NodeXPath(node);
     if (path.starts_with(kCombined))
         path.erase(0, kCombined.size() - 1);
-    return valueText(dictionary->entryAt(path), node.text(), shownDataType(node), *words);
+    auto meaning = valueMeaning(dictionary->entryAt(path), raw, shownDataType(node), *words);
+    return meaning ? *std::move(meaning) : cut(std::move(raw), *words);
 }
 
 } // namespace ovisto

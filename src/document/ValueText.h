@@ -4,6 +4,7 @@
 #include "document/TagDictionary.h"
 #include "document/ValueWords.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,7 +17,9 @@ namespace ovisto {
 std::string valueText(const DictionaryEntry& entry, std::string_view raw, const ValueWords& words);
 
 /// The same for a value of a document, whose data type (see shownDataType()) may be another than the entry expects.
-std::string valueText(const DictionaryEntry& entry, std::string_view raw, int dataType, const ValueWords& words);
+/// None for what stays as it is.
+std::optional<std::string> valueMeaning(const DictionaryEntry& entry, std::string_view raw, int dataType,
+                                        const ValueWords& words);
 
 /// A value that an entry names.
 struct EnumeratedValue {

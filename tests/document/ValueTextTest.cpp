@@ -59,6 +59,7 @@ TEST(ValueText, IsWhatTheCameraMeantOrTheRawText)
         {"829D", "4.294967E+09/10", "4.294967E+09/10"},
         {"9201", "4000000/1", "4000000/1"},
         {"9204", "4.294967E+09/3", "4.294967E+09/3"},
+        {"9403", "4.294967E+09/1000", "4.294967E+09/1000"},
         {"9003", "    :  :     :  :  ", "    :  :     :  :  "},
         {"9003", "2023:02:29 06:42:18", "2023:02:29 06:42:18"},
         {"9003", "2023:257:01 06:42:18", "2023:257:01 06:42:18"},
@@ -169,12 +170,12 @@ TEST(ValueText, TakesWordsAndFormsFromItsCaller)
 TEST(ValueText, KnowsBytesFromNumbersAndTexts)
 {
     const ValueWords& words = englishValueWords();
-    EXPECT_EQ(valueText(entryOf("9209"), "10", kByte, words), "not fired, forced off (0x10)");
-    EXPECT_EQ(valueText(entryOf("9209"), "10", kShort, words), "10");
-    EXPECT_EQ(valueText(entryOf("IFDG/0005"), "1", kShort, words), "below sea level (1)");
+    EXPECT_EQ(valueMeaning(entryOf("9209"), "10", kByte, words), "not fired, forced off (0x10)");
+    EXPECT_FALSE(valueMeaning(entryOf("9209"), "10", kShort, words));
+    EXPECT_EQ(valueMeaning(entryOf("IFDG/0005"), "1", kShort, words), "below sea level (1)");
     const std::string digits(20, '0');
-    EXPECT_EQ(valueText(entryOf("8828"), digits, kByte, words), "10 bytes");
-    EXPECT_EQ(valueText(entryOf("8828"), digits, kUndefined, words), digits) << "a text of digits";
+    EXPECT_EQ(valueMeaning(entryOf("8828"), digits, kByte, words), "10 bytes");
+    EXPECT_FALSE(valueMeaning(entryOf("8828"), digits, kUndefined, words)) << "a text of digits";
 }
 
 TEST(ValueText, FindsTheEntriesOfNodesInAnyDocument)

@@ -220,13 +220,11 @@ Error tooMuchMemory()
     return {kOutOfMemory, Message::StyleSheetTooLarge};
 }
 
-const xmlNode* firstNode(xmlXPathObject& argument)
+/// The first node of an argument, which has been sorted; null if it is no node set.
+const xmlNode* firstNode(const xmlXPathObject& argument)
 {
-    if (argument.type != XPATH_NODESET && argument.type != XPATH_XSLT_TREE)
-        return nullptr;
-    if (xmlXPathNodeSetGetLength(argument.nodesetval) > 1)
-        xmlXPathNodeSetSort(argument.nodesetval);
-    return xmlXPathNodeSetItem(argument.nodesetval, 0);
+    const bool isNodeSet = argument.type == XPATH_NODESET || argument.type == XPATH_XSLT_TREE;
+    return isNodeSet ? xmlXPathNodeSetItem(argument.nodesetval, 0) : nullptr;
 }
 
 /// Is called where a style sheet calls any of the functions.
