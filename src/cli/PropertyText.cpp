@@ -39,13 +39,14 @@ std::string propertyText(const XmlDocument& document, const TagDictionary& dicti
     std::string lines;
     for (const PropertyItem& item : propertyTree(document, dictionary, options.technical)) {
         const std::string label = item.label.empty() ? item.node.name() : item.label;
-        lines += std::string(2 * static_cast<std::size_t>(item.depth), ' ') + label;
+        lines.append(2 * static_cast<std::size_t>(item.depth), ' ').append(label);
         if (item.node.childElements().empty()) {
             const int dataType = shownDataType(item.node);
-            const std::string type(shownDataTypeName(item.node));
+            const std::string_view type = shownDataTypeName(item.node);
             const std::string raw = item.node.text();
-            lines += ": " + (options.raw ? rawText(raw, dataType) : meantText(item.entry, raw, dataType)) +
-                     (type.empty() ? "" : " (" + type + ")");
+            lines.append(": ").append(options.raw ? rawText(raw, dataType) : meantText(item.entry, raw, dataType));
+            if (!type.empty())
+                lines.append(" (").append(type).append(")");
         }
         lines += '\n';
     }

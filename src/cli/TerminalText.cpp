@@ -3,6 +3,8 @@
 #include "common/text/Columns.h"
 #include "common/text/Unicode.h"
 
+#include <algorithm>
+
 namespace ovisto {
 
 namespace {
@@ -28,6 +30,9 @@ std::string errorLine(const Phrase& context, const Phrase& message)
 
 std::string oneLine(const std::string& text, std::size_t mostColumns)
 {
+    const bool isPlain = std::ranges::all_of(text, [](char character) { return character >= ' ' && character < 0x7F; });
+    if (isPlain && text.size() <= mostColumns)
+        return text; // as most are
     std::string line;
     std::size_t columns = 0;
     bool blank = false;
