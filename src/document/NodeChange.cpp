@@ -8,6 +8,7 @@
 #include "document/NodeCreation.h"
 #include "document/NodePath.h"
 #include "document/NodePaths.h"
+#include "document/NodeValue.h"
 
 #include <algorithm>
 #include <iterator>
@@ -16,6 +17,9 @@
 namespace ovisto {
 
 namespace {
+
+/// The element of a segment that is known by its marker alone.
+constexpr const char* kSegmentName = "APP1";
 
 /// The path of what has no meaning without `part`; empty when there is nothing.
 std::string companionPath(const ExifPart& part)
@@ -59,6 +63,13 @@ bool isPartOfImage(const DictionaryEntry& entry)
     return entry.protection() == Protection::Required && !entry.path().starts_with(kAnyExifPath);
 }
 
+/// Whether a node that is described as part of the image is a segment without contents, which no image needs and many
+/// viewers stumble over.
+bool isSurplus(const ConstXmlNode& node)
+{
+    return node.name() == kSegmentName && nodeValue(node).empty();
+}
+
 std::string pathOf(const NodeChange& change)
 {
     if (!change.path.empty())
@@ -66,17 +77,24 @@ std::string pathOf(const NodeChange& change)
     return change.node ? NodeXPath(change.node) : change.entry.path();
 }
 
-/// The node to change; no node where the document does not have it.
+/// The node to change; no node where the document does not have it. Of parts of the image only a surplus one is
+/// deleted; others are refused.
 XmlNode nodeToChange(XmlDocument& document, const NodeChange& change, const std::string& path)
 {
     if (change.node)
         return change.node;
-    if (change.path.empty())
-        return document.selectSingleNode(path);
     const std::vector<XmlNode> nodes = document.selectNodes(path);
-    if (nodes.size() > 1)
+    if (nodes.empty())
+        return {};
+    if (change.action == NodeAction::Delete && isPartOfImage(change.entry)) {
+        const auto surplus = std::ranges::find_if(nodes, isSurplus);
+        if (surplus == nodes.end())
+            throw Error{kInvalidCall, {Message::InContext, path, Message::NodeOfTheImage}};
+        return *surplus;
+    }
+    if (!change.path.empty() && nodes.size() > 1)
         throw Error{kInvalidCall, {Message::SeveralNodes, std::to_string(nodes.size())}};
-    return nodes.empty() ? XmlNode() : nodes.front();
+    return nodes.front();
 }
 
 /// Raises an error where the new value of a node without an entry could not be written as it is.
@@ -88,6 +106,13 @@ void checkValue(const NodeChange& change, const XmlNode& node, const std::string
 }
 
 } // namespace
+
+Protection protectionOf(const ConstXmlNode& node, const DictionaryEntry& entry)
+{
+    if (isPartOfImage(entry) && isSurplus(node))
+        return Protection::Protected;
+    return holdsNodes(node) ? std::max(entry.protection(), Protection::Protected) : entry.protection();
+}
 
 std::optional<char32_t> characterLost(int dataType, std::string_view value)
 {
@@ -118,8 +143,10 @@ Phrase objection(const NodeChange& change, Reading reading)
         return Message::NodeOfFullReading;
     if (change.action == NodeAction::Set && change.entry && !change.entry.hasDataType())
         return Message::NoDataType;
-    if (isPartOfImage(change.entry))
-        return Message::NodeOfTheImage;
+    if (isPartOfImage(change.entry)) {
+        const bool mayBeSurplus = change.action == NodeAction::Delete && change.entry.node().name() == kSegmentName;
+        return mayBeSurplus ? Phrase() : Message::NodeOfTheImage;
+    }
     if (change.action == NodeAction::Delete && change.entry.protection() == Protection::Required)
         return Message::NodeRequired;
     return {};
@@ -143,10 +170,10 @@ ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorR
     if (change.action == NodeAction::Add)
         return {.changed = isNew};
     // A new node without a text is as good as none for a value that is empty: nothing is written for it.
-    if (node.text() == change.value)
+    if (nodeValue(node) == change.value)
         return {};
     checkValue(change, node, path);
-    node.setText(change.value);
+    setNodeValue(node, change.value);
     return {.changed = true};
 }
 

@@ -39,12 +39,17 @@ std::optional<char32_t> characterLost(int dataType, std::string_view value);
 /// Says so of a node with this label.
 Phrase lossOf(char32_t character, const std::string& label);
 
+/// How a node in a document is protected: as its entry says, but the value of one that holds others is never free, and
+/// an empty segment that claims to be part of the image can be deleted.
+Protection protectionOf(const ConstXmlNode& node, const DictionaryEntry& entry);
+
 /// Why the change cannot be made to any file that is read in this way; empty when it can.
 Phrase objection(const NodeChange& change, Reading reading);
 
 /// Makes the change to a document, creating the node where Set or Add misses it. Deleting a node removes the entry that
 /// pointed to it too, what it pointed to, or the directory that was there for it. A node that cannot be created is
-/// reported, and the error raised; the document is then of no more use.
+/// reported, and the error raised; the document is then of no more use. Raises kInvalidCall for a value of a node that
+/// holds others, and for deleting a part of the image that the change's entry stands for unless it is empty.
 ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter);
 
 } // namespace ovisto

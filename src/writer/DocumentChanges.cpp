@@ -148,13 +148,20 @@ std::string wholeText(const ConstXmlNode& element, LongLoop& elements)
     return text;
 }
 
+/// What a segment has in common with the one that it was before an edit. An Exif element that was deleted and created
+/// anew has no data type, other than the one that was read: nothing of the old segment is to be kept for it.
+std::string segmentName(const ConstXmlNode& segment)
+{
+    const std::string created = segment.name() == "Exif" && AttributeGet(segment, "d").empty() ? "\ncreated" : "";
+    return segment.name() + "\n" + AttributeGet(segment, "id") + created;
+}
+
 Identities segmentIdentities(const std::vector<ConstXmlNode>& segments)
 {
     Identities identities;
     LongLoop elements;
-    for (const ConstXmlNode& segment : segments) {
-        identities.push_back({wholeText(segment, elements), segment.name() + "\n" + AttributeGet(segment, "id")});
-    }
+    for (const ConstXmlNode& segment : segments)
+        identities.push_back({wholeText(segment, elements), segmentName(segment)});
     return identities;
 }
 

@@ -3,6 +3,7 @@
 #include "common/Error.h"
 #include "common/text/Unicode.h"
 #include "document/NodePath.h"
+#include "document/NodeValue.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -69,13 +70,7 @@ std::string app1Text(const ConstXmlNode& element)
 {
     if (!element.childElements().empty())
         throw Error{kInvalidCall, Message::TextHasElements};
-    std::string text = element.text();
-    const std::vector<ConstXmlNode> children = element.children();
-    const bool mayHaveLayout = !children.empty() && !children.front().isCData();
-    const std::size_t lineBreak = text.starts_with("\r\n") ? 2 : text.starts_with('\n') ? 1 : 0;
-    if (mayHaveLayout)
-        text.erase(0, lineBreak);
-    return text;
+    return nodeValue(element);
 }
 
 } // namespace ovisto

@@ -13,8 +13,8 @@ namespace ovisto {
 /// such as IMG. Errors are reported and raised.
 void writePlainSegment(SegmentWriter& writer, const ConstXmlNode& element);
 
-/// The text of a non-Exif APP1 element: what follows the identifier in the segment, in a CDATA section or not. The one
-/// line break that the text of the element may begin with is layout. Raises kInvalidCall if the element has others.
+/// The value of a non-Exif APP1 element: what follows the identifier in the segment, in a CDATA section or not. Raises
+/// kInvalidCall if there are elements in it.
 std::string app1Text(const ConstXmlNode& element);
 
 } // namespace ovisto

@@ -3,6 +3,7 @@
 #include "collection/DocumentLoad.h"
 #include "collection/XmlExport.h"
 #include "document/MetadataDocument.h"
+#include "document/NodePath.h"
 #include "document/NodePaths.h"
 #include "document/PropertyTree.h"
 #include "support/CountingProgress.h"
@@ -99,14 +100,44 @@ TEST(NodeChange, ObjectsToValuesWithoutATypeAndToSpoilingTheImage)
 {
     EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE"), Reading::Basic), Phrase(Message::NoDataType));
     EXPECT_EQ(objection(changeOf(NodeAction::Delete, kExif + "/IFDE"), Reading::Basic), "");
+    XmlDocument permissive; // a dictionary that gives a directory a type
+    ASSERT_FALSE(permissive.loadText("<JPEG><Exif id='FFE1'><IFD1 d='2'/></Exif></JPEG>"));
+    const NodeChange value{NodeAction::Set, DictionaryEntry(permissive.selectSingleNode("//IFD1")), "x"};
+    EXPECT_EQ(objection(value, Reading::Full), Phrase(Message::NoDataType));
+    RecordingReporter reporter;
+    XmlDocument document = documentOf("<JPEG><Exif id='FFE1'><IFD1><THUM/></IFD1></Exif></JPEG>");
+    EXPECT_EQ(errorNumberOf([&] { applyChange(document, value, reporter); }), kInvalidCall);
+    EXPECT_TRUE(document.selectSingleNode("//THUM"));
+    EXPECT_EQ(protectionOf(document.selectSingleNode("//IFD1"), value.entry), Protection::Protected);
     EXPECT_EQ(objection(changeOf(NodeAction::Set, kExif + "/IFDE/IFD[@id='A001']"), Reading::Basic), "")
         << "required, but metadata";
-    for (const char* path : {"/JPEG", "/JPEG/SOS", "/JPEG/IMG", "/JPEG/APP1[@id='FFDB']"})
+    for (const char* path : {"/JPEG", "/JPEG/SOS", "/JPEG/IMG"})
         EXPECT_NE(objection(changeOf(NodeAction::Delete, path), Reading::Basic), "") << path;
     EXPECT_EQ(objection(changeOf(NodeAction::Delete, "/JPEG/APP1[@id='FFFE']"), Reading::Basic), "");
-    EXPECT_NE(objection(changeOf(NodeAction::Add, "/JPEG/APP1[@id='FFC1']"), Reading::Basic), "");
+    for (const char* path : {"/JPEG/APP1[@id='FFC1']", "/JPEG/APP1[@id='FFF0']", "/JPEG"})
+        EXPECT_NE(objection(changeOf(NodeAction::Add, path), Reading::Basic), "") << path;
     EXPECT_NE(objection(changeOf(NodeAction::Delete, kExif + "/IFD[@id='8769']"), Reading::Basic), "")
         << "it would take IFDE along";
+}
+
+TEST(NodeChange, DeletesAPartOfTheImageOnlyWhereItIsEmpty)
+{
+    XmlDocument document = documentOf("<JPEG><APP1 id='FFDB'>00</APP1><APP1 id='FFDB'/><SOS/><IMG/></JPEG>");
+    const auto& entry = dictionary().entry("/JPEG/APP1[@id='FFDB']");
+    const auto protections = [&] {
+        std::string text;
+        for (const XmlNode& node : document.selectNodes("/JPEG/*"))
+            text += std::to_string(static_cast<int>(protectionOf(node, dictionary().entry(NodeXPath(node)))));
+        return text;
+    };
+    RecordingReporter reporter;
+    const NodeChange deletion{.action = NodeAction::Delete, .entry = entry};
+    EXPECT_EQ(objection(deletion, Reading::Full), "");
+    EXPECT_EQ(protections(), "2122");
+    EXPECT_TRUE(applyChange(document, deletion, reporter));
+    EXPECT_EQ(errorNumberOf([&] { applyChange(document, deletion, reporter); }), kInvalidCall);
+    EXPECT_EQ(protections(), "222");
+    EXPECT_FALSE(applyChange(document, changeOf(NodeAction::Delete, "/JPEG/APP1[@id='FFC1']"), reporter));
 }
 
 TEST(XmlExport, WritesTheDocumentWithoutBookkeeping)

@@ -75,6 +75,7 @@ TEST(TagDictionary, HoldsWhatTheProgramLooksUp)
     for (const ExifPart& part : kExifParts) {
         const DictionaryEntry entry = dictionary().entry(partPath(part));
         EXPECT_EQ(exifPartAt(entry.path()), &part) << part.element;
+        EXPECT_FALSE(part.kind == PartKind::Directory && entry.protection() == Protection::Free) << part.element;
         for (const std::uint16_t tag : {part.pointer.offset, part.pointer.length}) {
             // Basic documents have the position of the GPS directory, but not the directory: there it can be deleted.
             if (tag != 0 && part.reading == Reading::Basic)
@@ -115,7 +116,7 @@ TEST(TagDictionary, HoldsWhatTheProgramLooksUp)
         const bool hasElement = marker == 0xFFDA || marker == 0xFFE0 || marker == 0xFFE1;
         const DictionaryEntry entry = dictionary().entry("/JPEG/APP1[@id='" + hexNumber(marker) + "']");
         EXPECT_EQ(static_cast<bool>(entry), !hasElement) << hexNumber(marker);
-        const bool isOfImage = (marker < 0xFFE0 && !hasElement) || marker == 0xFFF7 || marker == 0xFFF8; // JPEG-LS
+        const bool isOfImage = (marker < 0xFFE0 && !hasElement) || (marker >= 0xFFF0 && marker != 0xFFFE);
         EXPECT_EQ(entry.protection() == Protection::Required, isOfImage) << hexNumber(marker);
     }
 }

@@ -151,6 +151,7 @@ inline constexpr const char* kMakerNote = "/JPEG/Exif[@id='FFE1']/IFDE/MAKE";
 inline constexpr const char* kTitle = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']";
 inline constexpr const char* kComments = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9C']";
 inline constexpr const char* kKeywords = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9E']";
+inline constexpr const char* kSubject = "/JPEG/Exif[@id='FFE1']/IFD[@id='9C9F']";
 inline constexpr const char* kComment = "/JPEG/APP1[@id='FFFE']";
 
 } // namespace ovisto::test

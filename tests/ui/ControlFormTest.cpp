@@ -20,6 +20,7 @@
 namespace ovisto::test {
 
 using namespace Qt::StringLiterals;
+using namespace std::string_literals;
 
 namespace {
 
@@ -279,11 +280,9 @@ private Q_SLOTS:
     {
         Window window{"no-exif.jpg"};
         window.select("/JPEG");
-        for (const auto& [label, button] : {std::pair("Thumbnail", "FormCanceller"), {"JPEG File", "NodeAdder"}}) {
-            pickNode(QLatin1String(label), button);
-            window.click("NodeAdder");
-            QVERIFY(!window.isChanged() && !window.item(kThumbnail));
-        }
+        pickNode(u"Thumbnail"_s, "FormCanceller");
+        window.click("NodeAdder");
+        QVERIFY(!window.isChanged() && !window.item(kThumbnail));
         pickNode(u"Thumbnail"_s, "NodeAdder");
         window.click("NodeAdder");
         QVERIFY(window.isChanged() && window.item(kThumbnail) && window.item(kThumbnailIfd));
@@ -292,6 +291,78 @@ private Q_SLOTS:
         window.click("FileSaver");
         QVERIFY(window.dialogs.messages.isEmpty());
         QCOMPARE(inFile(window.path("no-exif.jpg"), "/JPEG/Exif/IFD1/IFD[@id='0103']").value(), std::string("6"));
+    }
+
+    void offersNoPartOfTheImage()
+    {
+        Window window;
+        const std::string path = window.copy("no-exif.jpg");
+        const std::string original = readTextFile(path);
+        writeTextFile(path, std::string(original).insert(2, "\xFF\xC1\x00\x02"s)); // as an older version added it
+        window.settings().saveChoice(u"ShowTechnical"_s, true);
+        window.open({path});
+        window.dialogs.taken(); // the picture cannot be shown
+        whenOpen<NodeAddForm>([](NodeAddForm& form) {
+            const auto& list = controlOf<QListWidget>(form, "NodeList");
+            for (const auto& label : {u"JPEG File"_s, u"Scan Header"_s, u"Restart Marker 0"_s, u"Huffman Tables"_s})
+                QVERIFY2(list.findItems(label, Qt::MatchExactly).isEmpty(), qPrintable(label));
+            QVERIFY(!list.findItems(u"JPEG Comment"_s, Qt::MatchExactly).isEmpty());
+            form.reject();
+        });
+        window.click("NodeAdder");
+        window.select("/JPEG/SOS");
+        QVERIFY(!window.isEnabled("NodeDeleter"));
+        window.select("/JPEG/APP1[@id='FFC1']");
+        QCOMPARE(window.text("NodeDataType"), u"Byte Protected"_s);
+        window.click("NodeDeleter");
+        window.click("FileSaver");
+        QVERIFY(readTextFile(path) == original && window.dialogs.messages.isEmpty());
+    }
+
+    void changesNothingThatIsOnlyVisited()
+    {
+        Window window;
+        const std::string path = window.copy("xmp.jpg");
+        std::string bytes = readTextFile(path);
+        bytes.replace(bytes.find("\n  xmlns:"), 3, "\r\n "); // both kinds of line break
+        writeTextFile(path, bytes);
+        window.settings().saveChoice(u"ShowTechnical"_s, true);
+        window.open({path});
+        for (int i = 0; i < 3; ++i) {
+            for (QTreeWidgetItemIterator at(&window.control<QTreeWidget>("NodeTree")); *at != nullptr; ++at) {
+                window.control<QTreeWidget>("NodeTree").setCurrentItem(*at);
+                window.visit("NodeText");
+                for (const char* box : {"FileTitle", "FileComments", "FileSubject", "FileKeywords"})
+                    window.visit(box);
+                QVERIFY2(!window.isChanged(), qPrintable((*at)->text(0)));
+            }
+            window.click("FileSaver");
+            QVERIFY(readTextFile(path) == bytes);
+        }
+        window.select("/JPEG/Exif1[@id='FFE1']");
+        auto& packet = window.control<TextBox>("NodeText");
+        packet.setFocus();
+        packet.moveCursor(QTextCursor::End);
+        QTest::keyClick(&packet, Qt::Key_Space);
+        window.click("FileSaver");
+        const std::string edited = readTextFile(path);
+        const std::size_t end = bytes.find("<?xpacket end=") + 19;
+        QCOMPARE(edited.size(), bytes.size() + 1);
+        QCOMPARE(edited.substr(end - 200, 201), bytes.substr(end - 200, 200) + " ");
+        QVERIFY(edited.find("\r\n xmlns:") != std::string::npos && edited.substr(end + 1) == bytes.substr(end));
+    }
+
+    void emptiesThePropertiesThatAreDeleted()
+    {
+        Window window{"little-endian.jpg"};
+        const std::string path = window.path("little-endian.jpg");
+        window.select("/JPEG/Exif[@id='FFE1']");
+        window.click("NodeDeleter");
+        QCOMPARE(window.texts("FileTitle FileComments FileSubject FileKeywords"), u"|||"_s);
+        window.type("FileSubject", u"Anew"_s);
+        window.click("FileSaver");
+        QCOMPARE(window.texts("FileTitle FileComments FileSubject FileKeywords"), u"||Anew|"_s);
+        QVERIFY(window.dialogs.messages.isEmpty() && !inFile(path, kExifIfd) && !inFile(path, kDescription));
     }
 
     void deletesANodeWithItsCompanions()

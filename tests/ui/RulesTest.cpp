@@ -49,9 +49,19 @@ private Q_SLOTS:
         QCOMPARE(dataTypeCaption("Undefined", Protection::Required).value(), u"Undefined Required"_s);
         QVERIFY(!dataTypeCaption("", Protection::Free));
         XmlDocument JpegDoc;
-        JpegDoc.loadText("<JPEG><IFD>one\ntwo</IFD></JPEG>");
-        for (const auto& [dataType, text] : {std::pair(2, "one\r\ntwo"), {11, "one\r\ntwo"}, {7, "one\ntwo"}})
-            QCOMPARE(valueText(JpegDoc.documentElement().childElement("IFD"), dataType), std::string(text));
+        JpegDoc.loadText("<JPEG><IFD>one\ntwo&#13;\n</IFD><IFDE/><Exif1>\n<![CDATA[\nx]]></Exif1></JPEG>");
+        const struct {
+            const char* element;
+            int dataType;
+            const char* text;
+        } cases[] = {{"IFD", 2, "one\r\ntwo\r\n"},
+                     {"IFD", 11, "one\r\ntwo\r\n"},
+                     {"IFD", 7, "one\ntwo\r\n"},
+                     {"Exif1", 2, "\nx"},
+                     {"IFDE", 7, ""}};
+        for (const auto& c : cases)
+            QCOMPARE(valueText(JpegDoc.documentElement().childElement(c.element), c.dataType), std::string(c.text));
+        QCOMPARE(valueText(JpegDoc.documentElement(), 1), std::string());
     }
 
     void buildsTheTree()
@@ -95,6 +105,16 @@ private Q_SLOTS:
         box.putText(u"a\r\nb"_s);
         QTest::keyClick(&box, Qt::Key_Return);
         QCOMPARE(box.exactText(), u"\r\na\r\nb"_s);
+        const QString mixed = u"\u2028a\r\nb\nc\r\r\n"_s;
+        box.putText(mixed);
+        box.moveCursor(QTextCursor::Down);
+        box.moveCursor(QTextCursor::Down);
+        QTest::keyClicks(&box, u"x"_s);
+        QTest::keyClick(&box, Qt::Key_Return);
+        QCOMPARE(box.exactText(), u"\u2028a\r\nx\r\nb\nc\r\r\n"_s);
+        for (int i = 0; i < 2; ++i)
+            QTest::keyClick(&box, Qt::Key_Backspace);
+        QCOMPARE(box.exactText(), mixed);
     }
 
     void stepsRoundTheList()

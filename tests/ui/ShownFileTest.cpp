@@ -201,7 +201,6 @@ private Q_SLOTS:
         };
         const char* own = "little-endian.jpg";
         const char* none = "no-exif.jpg";
-        const auto title = box(OsProperty::Title, "Storm");
         const auto keywords = box(OsProperty::Keywords, "a\r\nb");
         const struct {
             const char* sample;
@@ -215,10 +214,8 @@ private Q_SLOTS:
             {own, box(OsProperty::Title, "Mountain lake"), false, kTitle, "Mountain lake"},
             {own, box(OsProperty::Title, ""), true, kTitle, ""},
             {none, keywords, true, kKeywords, "a\r\nb"},
-            // The node of a first title counts as that of the keywords, so its text waits for the next tree.
-            {none, title, true, kTitle, ""},
-            {none, twice(title, title), true, kTitle, "Storm"},
-            {none, twice(title, keywords), true, kKeywords, "a\r\nb"},
+            {none, twice(keywords, keywords), true, kKeywords, "a\r\nb"},
+            {own, set(kExifIfd, "no value of a directory"), false, kTitle, "Mountain lake"},
             {own, add(kExifIfd, ""), false, kTitle, "Mountain lake"},
             {none, add(kThumbnail, kThumbnail), true, "/JPEG/Exif/IFD1/IFD[@id='0103']", "6"},
             {none, add(kThumbnail, kThumbnail), true, "//*[@leafIndex]", ""},
@@ -237,6 +234,40 @@ private Q_SLOTS:
         }
     }
 
+    void writesFirstPropertiesToTheirOwnTags()
+    {
+        const std::pair<OsProperty, const char*> properties[] = {{OsProperty::Title, kTitle},
+                                                                 {OsProperty::Subject, kSubject},
+                                                                 {OsProperty::Comments, kComments},
+                                                                 {OsProperty::Keywords, kKeywords}};
+        const KeepOptions everything{.reading = Reading::Full};
+        const struct {
+            const char* sample;
+            bool isDeletedBefore; ///< the Exif data, with all that there is
+            const char* byteOrder;
+        } cases[] = {{"no-exif.jpg", false, "II"}, {"big-endian.jpg", false, "MM"}, {"big-endian.jpg", true, "II"}};
+        for (const auto& [sample, isDeletedBefore, byteOrder] : cases) {
+            for (std::size_t first = 0; first < std::size(properties); ++first) {
+                Opened opened(sample);
+                opened.open(everything);
+                if (isDeletedBefore)
+                    opened.file.deleteNode(opened.node("/JPEG/Exif"));
+                for (std::size_t i = 0; i < std::size(properties); ++i) {
+                    const auto& [property, path] = properties[(first + i) % std::size(properties)];
+                    QCOMPARE(opened.file.boxText(property), std::string());
+                    opened.file.setBoxText(property, path);
+                    QCOMPARE(opened.text(path), std::string(path));
+                }
+                QVERIFY(opened.file.SaveDocument() == SaveResult::Saved);
+                opened.open(everything);
+                for (const auto& [property, path] : properties)
+                    QCOMPARE(opened.file.boxText(property), std::string(path));
+                QCOMPARE(AttributeGet(opened.node("/JPEG/Exif"), "byteSeq"), std::string(byteOrder));
+                QVERIFY(opened.file.document().selectNodes("/JPEG/Exif//*").size() == 4 || !isDeletedBefore);
+            }
+        }
+    }
+
     void showsLinesAsTheBoxesNeedThem()
     {
         Opened opened("little-endian.jpg");
@@ -245,7 +276,10 @@ private Q_SLOTS:
         opened.open();
         QCOMPARE(opened.file.boxText(OsProperty::Title), std::string("up\n\tdown\u00A0"));
         QCOMPARE(opened.file.boxText(OsProperty::Comments), std::string("first\r\nsecond"));
-        for (const auto property : {OsProperty::Title, OsProperty::Comments})
+        setInFile(opened.path, kKeywords, "first\r\nsecond"); // as an edited box leaves them
+        opened.open();
+        QCOMPARE(opened.file.boxText(OsProperty::Keywords), std::string("first\r\nsecond"));
+        for (const auto property : {OsProperty::Title, OsProperty::Comments, OsProperty::Keywords})
             opened.file.setBoxText(property, opened.file.boxText(property));
         QVERIFY(!opened.file.isChanged());
     }

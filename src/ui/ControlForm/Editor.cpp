@@ -17,6 +17,7 @@ Editor::Editor(const WindowParts& parts)
 {
     connect(&m_list, &FileListPane::selected, this, &Editor::OpenSelectedFile);
     connect(&m_properties, &PropertyPane::nodeAdded, this, &Editor::nodeAdded);
+    connect(&m_properties, &PropertyPane::nodeDeleted, &m_osPane, &OsPane::showTexts);
     connect(ui.FileSaver, &QPushButton::clicked, this, &Editor::saveAndReopen);
     connect(ui.FileReset, &QPushButton::clicked, this, &Editor::reset);
     connect(ui.Image1, &PictureBox::clicked, this,

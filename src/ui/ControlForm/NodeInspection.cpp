@@ -8,6 +8,7 @@
 #include "document/DataType.h"
 #include "document/Directories.h"
 #include "document/NodePaths.h"
+#include "document/NodeValue.h"
 #include "ui/ControlForm/OsProperties.h"
 
 #include <QCoreApplication>
@@ -31,8 +32,8 @@ std::optional<QString> dataTypeCaption(std::string_view typeName, Protection pro
 
 std::string valueText(const ConstXmlNode& node, int dataType)
 {
-    const bool isText = dataType == kString || dataType == kUnicodeString;
-    return isText ? withCrLf(node.text()) : node.text();
+    const bool isText = (dataType == kString || dataType == kUnicodeString) && !isSegmentText(node);
+    return isText ? withCrLf(nodeValue(node)) : nodeValue(node);
 }
 
 std::string translatedText(const std::string& hexadecimal)

@@ -25,7 +25,7 @@ constexpr bool isDeletable(Protection protection)
 /// The translated name of a data type, which may be empty, and how the value is protected. Nothing without a name.
 std::optional<QString> dataTypeCaption(std::string_view typeName, Protection protection);
 
-/// The value of a node as the box first shows it; lines of text end with CR LF.
+/// The value of a node as the box first shows it. The lines of a text end with CR LF; those of a segment as they do.
 std::string valueText(const ConstXmlNode& node, int dataType);
 
 /// The characters of the bytes in a hexadecimal text, for display only. Bytes 0 and 10 are dropped, 13 becomes CR LF,

@@ -5,6 +5,7 @@
 #include "document/NodePaths.h"
 
 #include <cstddef>
+#include <vector>
 
 namespace ovisto {
 
@@ -66,22 +67,30 @@ bool OsProperties::leave(OsProperty property, const std::string& boxText, XmlDoc
     if (!node) {
         if (boxText.empty())
             return false;
-        // Whichever of the four is created, its node is kept as that of the keywords. So a first title, subject or
-        // comment has its node now, but its text only once the document was opened and the box was filled again.
-        KeywordsNode = CreateNode(JpegDoc, Merovel.entry(row.path), reporter);
-        if (!KeywordsNode.parent())
+        CreateNode(JpegDoc, Merovel.entry(row.path), reporter);
+        lookUp(JpegDoc);
+        if (!node) // it could not be created, which was reported
             return false;
     }
-    if ((row.lines ? withLf(boxText) : boxText) == node.text())
+    const std::string text = node.text();
+    const bool isSame = row.lines ? withLf(boxText) == withLf(text) : boxText == text;
+    if (isSame)
         return false;
-    if (node)
-        applyChange(JpegDoc, {.action = NodeAction::Set, .value = boxText, .node = node}, reporter);
+    applyChange(JpegDoc, {.action = NodeAction::Set, .value = boxText, .node = node}, reporter);
     return true;
+}
+
+void OsProperties::lookUp(XmlDocument& JpegDoc)
+{
+    for (const Row& row : kRows) {
+        const std::vector<XmlNode> nodes = JpegDoc.selectNodes(row.path);
+        this->*row.node = nodes.empty() ? XmlNode() : nodes.back(); // the last one, as in the tree
+    }
 }
 
 std::string withCrLf(const std::string& text)
 {
-    return replaced(text, "\n", "\r\n");
+    return replaced(withLf(text), "\n", "\r\n");
 }
 
 std::string withLf(const std::string& text)

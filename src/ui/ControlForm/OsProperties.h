@@ -25,13 +25,16 @@ public:
     /// The text for the box. Comments and keywords may have several lines, which end with CR LF.
     std::string boxText(OsProperty property) const;
 
+    /// Finds the nodes again, in a document that has more of them now, or fewer.
+    void lookUp(XmlDocument& JpegDoc);
+
     /// Writes the text of a box that the focus leaves into the document, creating a missing node. Returns whether the
     /// document changed.
     bool leave(OsProperty property, const std::string& boxText, XmlDocument& JpegDoc, const TagDictionary& Merovel,
                ErrorReporter& reporter);
 };
 
-/// `text` with each LF replaced by CR LF (withCrLf) or each CR LF by LF (withLf).
+/// `text` with each line break that is LF or CR LF as CR LF (withCrLf) or as LF (withLf).
 std::string withCrLf(const std::string& text);
 std::string withLf(const std::string& text);
 

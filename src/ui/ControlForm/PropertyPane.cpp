@@ -3,6 +3,7 @@
 #include "common/system/File.h"
 #include "document/DataType.h"
 #include "document/NodePath.h"
+#include "document/NodeValue.h"
 #include "document/PropertyTree.h"
 #include "ui/App/PictureFit.h"
 #include "ui/App/Text.h"
@@ -171,7 +172,7 @@ void PropertyPane::nodeClicked(const QTreeWidgetItem* item)
 /// Shows what the dictionary says of the node.
 void PropertyPane::showEntry(const DictionaryEntry& entry)
 {
-    CurrentProt = entry.protection();
+    CurrentProt = protectionOf(CurrentNode, entry);
     ui.NodeDeleter->setEnabled(isDeletable(CurrentProt));
     ui.NodeText->setReadOnly(isLocked(CurrentProt));
     ui.NodeHelp->setPlainText(toQString(entry.help()));
@@ -182,13 +183,13 @@ void PropertyPane::ShowNodeValue()
 {
     const QScopedValueRollback updating(ControlsUpdating, true);
     if (ui.ViewHexOpt->isChecked()) {
-        ui.NodeText->putText(toQString(CurrentNode.text()));
+        ui.NodeText->putText(toQString(nodeValue(CurrentNode)));
         ui.NodeText->setReadOnly(isLocked(CurrentProt));
         ui.ValueStack->setCurrentWidget(ui.NodeText);
     } else if (isThumbnail(CurrentNode)) {
         ui.ValueStack->setCurrentWidget(ui.Image2);
     } else {
-        ui.NodeText->putText(toQString(translatedText(CurrentNode.text())));
+        ui.NodeText->putText(toQString(translatedText(nodeValue(CurrentNode))));
         ui.NodeText->setReadOnly(true);
     }
 }
@@ -279,6 +280,7 @@ void PropertyPane::deleteNode()
             removeItem(companionKey);
         ui.NodeTree->setCurrentItem(ui.NodeTree->currentItem());
     }
+    Q_EMIT nodeDeleted();
     nodeClicked(selectedItem());
 }
 

@@ -24,6 +24,8 @@ public:
 Q_SIGNALS:
     /// A node was added; show the tree again.
     void nodeAdded();
+    /// A node was deleted with all below it; show the OS properties again.
+    void nodeDeleted();
 
 private:
     QTreeWidgetItem* LoadLeaf(const Leaf& leaf, QTreeWidgetItem* parent);

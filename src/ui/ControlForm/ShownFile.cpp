@@ -4,6 +4,7 @@
 #include "common/KeptReports.h"
 #include "common/xml/XmlLoad.h"
 #include "document/NodePath.h"
+#include "document/NodeValue.h"
 
 namespace ovisto {
 
@@ -60,7 +61,8 @@ std::vector<Leaf> ShownFile::loadTree(bool technical)
 
 void ShownFile::setText(const XmlNode& node, const std::string& text)
 {
-    apply({.action = NodeAction::Set, .value = text, .node = node});
+    if (!holdsNodes(node))
+        apply({.action = NodeAction::Set, .value = text, .node = node});
 }
 
 void ShownFile::setBoxText(OsProperty property, const std::string& text)
@@ -85,6 +87,7 @@ std::string ShownFile::addNode(const DictionaryEntry& entry)
 std::string ShownFile::deleteNode(const XmlNode& node)
 {
     const XmlNode companion = apply({.action = NodeAction::Delete, .node = node}).companion;
+    m_osProperties.lookUp(JpegDoc);
     return companion.name() == "IFD" ? std::string() : AttributeGet(companion, "leafIndex");
 }
 

@@ -83,6 +83,7 @@ public:
 
     // Changes. The file counts as changed after each one that changes the document.
 
+    /// Sets the value of a node; one that holds others stays as it is.
     void setText(const XmlNode& node, const std::string& text);
     /// Sets the property to the text of its box, creating a missing node.
     void setBoxText(OsProperty property, const std::string& text);
@@ -91,7 +92,8 @@ public:
     /// path.
     std::string addNode(const DictionaryEntry& entry);
     /// Removes the node with its companion. Returns the key of the companion whose item must be removed too; empty if
-    /// there is none. The item of an entry that pointed to a directory stays.
+    /// there is none. The item of an entry that pointed to a directory stays. The boxes of OS properties that went with
+    /// the node are to be emptied.
     std::string deleteNode(const XmlNode& node);
     /// Whether the file as it would be saved still tells of a finding, which is of the file as it is.
     bool tells(const PrivateFinding& finding);

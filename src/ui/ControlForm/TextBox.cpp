@@ -4,7 +4,51 @@
 #include <QMimeData>
 #include <QTextDocument>
 
+#include <algorithm>
+
 namespace ovisto {
+
+namespace {
+
+constexpr bool isLineBreak(QChar character)
+{
+    return character == u'\n' || character == u'\r' || character == QChar::LineSeparator ||
+           character == QChar::ParagraphSeparator;
+}
+
+/// How many characters at the start of `text`, or with `fromEnd` at its end, the document of the box has as one: two of
+/// CR LF.
+qsizetype stepLength(QStringView text, bool fromEnd)
+{
+    const QStringView pair =
+        fromEnd ? text.last(std::min<qsizetype>(2, text.size())) : text.first(std::min<qsizetype>(2, text.size()));
+    return pair == u"\r\n" ? 2 : 1;
+}
+
+/// What `put` and `shown` have in common at their start, or with `fromEnd` at their end, in characters of each. The
+/// line breaks of `shown` are all LF.
+struct CommonStretch {
+    qsizetype put = 0;
+    qsizetype shown = 0;
+};
+
+CommonStretch commonStretch(QStringView put, QStringView shown, bool fromEnd)
+{
+    CommonStretch common;
+    while (!put.isEmpty() && !shown.isEmpty()) {
+        const QChar character = fromEnd ? put.back() : put.front();
+        if ((isLineBreak(character) ? QChar(u'\n') : character) != (fromEnd ? shown.back() : shown.front()))
+            break;
+        const qsizetype step = stepLength(put, fromEnd);
+        put = fromEnd ? put.chopped(step) : put.sliced(step);
+        shown = fromEnd ? shown.chopped(1) : shown.sliced(1);
+        common.put += step;
+        ++common.shown;
+    }
+    return common;
+}
+
+} // namespace
 
 TextBox::TextBox(QWidget* parent) : QPlainTextEdit(parent)
 {
@@ -26,10 +70,15 @@ QString TextBox::exactText() const
         return m_put;
     // toPlainText() would turn no-break spaces into common ones.
     QString text = document()->toRawText();
-    for (const auto lineBreak : {QChar::ParagraphSeparator, QChar::LineSeparator})
-        text.replace(QChar(lineBreak), QLatin1Char('\n'));
-    const bool bareLf = m_put.contains(QLatin1Char('\n')) && !m_put.contains(QLatin1Char('\r'));
-    return bareLf ? text : text.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    std::replace_if(text.begin(), text.end(), isLineBreak, QChar(u'\n'));
+    const CommonStretch start = commonStretch(m_put, text, false);
+    const QStringView putRest = QStringView(m_put).sliced(start.put);
+    const CommonStretch end = commonStretch(putRest, QStringView(text).sliced(start.shown), true);
+    QString edited = text.mid(start.shown, text.size() - start.shown - end.shown);
+    const bool bareLf = m_put.contains(u'\n') && !m_put.contains(u'\r');
+    if (!bareLf)
+        edited.replace(u'\n', QLatin1String("\r\n"));
+    return m_put.first(start.put) + edited + m_put.last(end.put);
 }
 
 /// Files that are dropped are for the window.

@@ -5,8 +5,8 @@
 
 namespace ovisto {
 
-/// A box for text of several lines that returns exactly the text put in until it is edited: line breaks keep their
-/// kind, and no character is replaced. In an edited text all line breaks are the same: LF if the text put in had only
+/// A box for text of several lines that returns exactly the text put in, as far as it was not edited: line breaks keep
+/// their kind, and no character is replaced. The line breaks in an edited stretch are LF if the text put in had only
 /// those, else CR LF.
 class TextBox : public QPlainTextEdit {
     Q_OBJECT

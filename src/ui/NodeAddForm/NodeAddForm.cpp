@@ -1,13 +1,28 @@
 #include "ui/NodeAddForm/NodeAddForm.h"
 
+#include "document/NodeChange.h"
 #include "ui/App/Text.h"
 
 #include <utility>
 
 namespace ovisto {
 
+namespace {
+
+/// What may be added to a document that was read in this way.
+std::vector<DictionaryEntry> offeredEntries(const TagDictionary& Merovel, bool technical, Reading reading)
+{
+    std::vector<DictionaryEntry> entries = Merovel.entries(technical, reading);
+    std::erase_if(entries, [reading](const DictionaryEntry& entry) {
+        return !objection({.action = NodeAction::Add, .entry = entry}, reading).isEmpty();
+    });
+    return entries;
+}
+
+} // namespace
+
 NodeAddForm::NodeAddForm(const TagDictionary& Merovel, bool technical, Reading reading, Add add, QWidget* owner)
-    : QDialog(owner), m_add(std::move(add)), m_entries(Merovel.entries(technical, reading))
+    : QDialog(owner), m_add(std::move(add)), m_entries(offeredEntries(Merovel, technical, reading))
 {
     ui.setupUi(this);
     for (const DictionaryEntry& entry : m_entries)

@@ -19,8 +19,8 @@ public:
     /// Adds the node of an entry to the document. Returns its path; empty if it already exists.
     using Add = std::function<std::string(const DictionaryEntry& entry)>;
 
-    /// Offers what a document read in this way may have; with `technical`, technical nodes too. The dictionary must
-    /// outlive the form.
+    /// Offers what may be added to a document read in this way, so no part of the image; with `technical`, technical
+    /// nodes too. The dictionary must outlive the form.
     NodeAddForm(const TagDictionary& Merovel, bool technical, Reading reading, Add add, QWidget* owner);
 
     /// The path of the added node; empty if none was added.
