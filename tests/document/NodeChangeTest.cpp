@@ -5,6 +5,7 @@
 #include "document/MetadataDocument.h"
 #include "document/NodePath.h"
 #include "document/NodePaths.h"
+#include "document/NodeValue.h"
 #include "document/PropertyTree.h"
 #include "support/CountingProgress.h"
 #include "support/Dictionary.h"
@@ -45,6 +46,8 @@ TEST(NodeChange, SetsDeletesAndAddsInAFile)
     EXPECT_FALSE(loadDocument(path).selectSingleNode("//IFD[@id='9C9B']"));
     changeFile(path, changeOf(NodeAction::Add, kExif + "/IFD1/THUM"), reporter);
     EXPECT_EQ(loadDocument(path).selectNodes("//IFD1/IFD").size(), 3U);
+    changeFile(path, changeOf(NodeAction::Set, "/JPEG/Exif1[@id='FFE1']", "\n<x/>"), reporter);
+    EXPECT_EQ(nodeValue(loadDocument(path).selectSingleNode("/JPEG/Exif1")), "\n<x/>") << "its line break is no layout";
     EXPECT_EQ(imageData(contentOf(path)), imageData(JpegBytes().app0().end()));
     EXPECT_TRUE(reporter.contexts.empty());
 }
