@@ -47,7 +47,7 @@ void checkTags(const XmlDocument& document)
         const std::string id = AttributeGet(entry, "id");
         const bool isTag = id.size() == kDigits && id.find_first_not_of("0123456789ABCDEFabcdef") == std::string::npos;
         if (!isTag)
-            throw Error{kInvalidCall, {Message::TagNotHexadecimal, id}};
+            throw Error{kInvalidCall, {Message::TagNotHexadecimal, id}, NodeXPath(entry)};
     }
 }
 

@@ -3,6 +3,7 @@
 #include "common/Phrase.h"
 
 #include <optional>
+#include <string>
 #include <utility>
 
 namespace ovisto {
@@ -11,6 +12,7 @@ namespace ovisto {
 struct Error {
     int number = 0;
     Phrase description;
+    std::string node{}; ///< the path of the node that cannot be written, where one is at fault
 };
 
 // Failures of the system and of conversions.

@@ -12,6 +12,9 @@ class KeptReports : public ErrorReporter {
 public:
     void report(const Phrase& context, const Error& error) override { m_reports.emplace_back(context, error); }
 
+    /// What was reported in which context, in this order.
+    const std::vector<std::pair<Phrase, Error>>& all() const { return m_reports; }
+
     /// Reports all of them to `reporter`.
     void passTo(ErrorReporter& reporter) const
     {

@@ -22,6 +22,7 @@ public:
     }
 
     Message message() const { return m_message; }
+    const std::vector<Phrase>& details() const { return m_details; }
     bool isEmpty() const { return m_message == Message::AsItIs && m_text.empty(); }
 
     /// The details of this phrase in another message.

@@ -6,6 +6,7 @@
 #include "document/DataType.h"
 #include "document/NodePath.h"
 #include "document/TagNumbers.h"
+#include "writer/AboutNode.h"
 #include "writer/ByteClaims.h"
 #include "writer/EntryBytes.h"
 #include "writer/ShownExif.h"
@@ -229,7 +230,7 @@ private:
         if (change.isDeleted())
             remove(change);
         else if (change.part->kind == PartKind::Bytes)
-            applyBytes(change);
+            aboutNode(change.after, [&] { applyBytes(change); });
         else if (change.isAdded() && !isFirst)
             addDirectory(change);
         if (change.part->kind == PartKind::Directory && !change.isDeleted())
@@ -264,11 +265,17 @@ private:
         for (const DocumentPair& pair : change.entries) {
             if (pair.isDeleted())
                 deleteEntry(*index, *pair.before);
-            else if (pair.isAdded())
-                addEntry(*index, change, change.entriesAfter[*pair.after]);
             else if (!pair.isSame)
-                changeEntry(*index, change, pair);
+                aboutNode(change.entriesAfter[*pair.after], [&] { putEntry(*index, change, pair); });
         }
+    }
+
+    void putEntry(std::size_t index, const PartChange& change, const DocumentPair& pair)
+    {
+        if (pair.isAdded())
+            addEntry(index, change, change.entriesAfter[*pair.after]);
+        else
+            changeEntry(index, change, pair);
     }
 
     /// The directory of a part: that in the old block, or the one that was added for it.

@@ -7,6 +7,7 @@
 #include "document/Directories.h"
 #include "document/NodePath.h"
 #include "document/TagNumbers.h"
+#include "writer/AboutNode.h"
 #include "writer/ExifLayout.h"
 
 #include <algorithm>
@@ -88,8 +89,10 @@ void writeEntryValue(SegmentWriter& writer, const ConstXmlNode& entry, int dataT
     reported(
         writer.reporter(), [&] { return Phrase(Message::ValueFailed, std::to_string(dataType), text); },
         [&] {
-            writeLaidOut(writer, laidOutSize(entry),
-                         [&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
+            aboutNode(entry, [&] {
+                writeLaidOut(writer, laidOutSize(entry),
+                             [&] { WriteValue(writer, text, dataType, AttributeGet(entry, "id")); });
+            });
         });
 }
 
@@ -124,7 +127,7 @@ void WriteExif(SegmentWriter& writer, XmlNode exif)
 
     for (const ExifPart& part : kExifParts) {
         if (const XmlNode node = partNode(exif, part))
-            trap.run([&] { writePart(writer, part, node); });
+            trap.run([&] { aboutNode(node, [&] { writePart(writer, part, node); }); });
     }
 
     if (!trap.pending())

@@ -6,6 +6,7 @@
 #include "jpeg/FileIdentity.h"
 #include "jpeg/Markers.h"
 #include "jpeg/ScanData.h"
+#include "writer/AboutNode.h"
 #include "writer/DocumentChanges.h"
 #include "writer/ExifPatch.h"
 #include "writer/FileSegments.h"
@@ -96,8 +97,16 @@ private:
         const bool isCleared = m_clearance.leftovers && isExif(after);
         if (segment != nullptr && pair.isSame && !isCleared)
             copySegment(*segment);
-        else if (isExif(after))
-            writeExif(segment, segment != nullptr ? m_before[*pair.before] : ConstXmlNode(), after);
+        else
+            aboutNode(after, [&] {
+                changeSegment(segment, segment != nullptr ? m_before[*pair.before] : ConstXmlNode(), after);
+            });
+    }
+
+    void changeSegment(const Segment* segment, const ConstXmlNode& before, const ConstXmlNode& after)
+    {
+        if (isExif(after))
+            writeExif(segment, before, after);
         else if (after.name() == "Exif1" && readingOf(after) == Reading::Full)
             writeFullApp1(segment, after);
         else if (segment != nullptr && after.name() == "Exif1")

@@ -6,6 +6,7 @@
 #include "document/NodePath.h"
 #include "jpeg/FileIdentity.h"
 #include "jpeg/Segments.h"
+#include "writer/AboutNode.h"
 #include "writer/ExifSegment.h"
 #include "writer/PlainSegment.h"
 #include "writer/SegmentWriter.h"
@@ -49,10 +50,12 @@ void writeSegments(XmlDocument& document, OutputFile& file, ErrorReporter& repor
     for (const XmlNode& element : document.node().childElement("JPEG").childElements()) {
         segments.step();
         writer.IntelOrder = false;
-        if (element.name() == kFirstDirectory)
-            WriteExif(writer, element);
-        else
-            writePlainSegment(writer, element);
+        aboutNode(element, [&] {
+            if (element.name() == kFirstDirectory)
+                WriteExif(writer, element);
+            else
+                writePlainSegment(writer, element);
+        });
     }
 }
 

@@ -103,7 +103,7 @@ void NewVersion::compare(const DocumentSave& save)
     m_receipt = compareVersions(m_oldFile, newFile, m_temporaryName, save.before, save.after, save.read,
                                 save.clearance.afterPicture ? ImageEnd::Marker : ImageEnd::File);
     if (save.way == WritingWay::Keep && !m_receipt.losses.empty())
-        throw Error{kInvalidCall, m_receipt.losses.front()};
+        throw Error{kInvalidCall, m_receipt.losses.front(), m_receipt.lostNode};
 }
 
 void NewVersion::bringToDisk()

@@ -184,6 +184,8 @@ private:
             const bool hasOwnType = hasOwnBytes && readingOf(node) == Reading::Full;
             const bool isSame = (hasOwnType || AttributeGet(node, "d") == AttributeGet(entries[i], "d")) &&
                                 (hasOwnBytes || node.text() == entries[i].text());
+            if (!isSame && m_receipt.losses.empty())
+                m_receipt.lostNode = NodeXPath(node);
             if (!isSame)
                 lose({Message::WouldRead, name + " " + AttributeGet(node, "id"),
                       Phrase(entries[i].text()).shortened(kMostShown), Phrase(node.text()).shortened(kMostShown)});

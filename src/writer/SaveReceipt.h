@@ -28,6 +28,7 @@ struct SaveReceipt {
     std::size_t changed = 0;    ///< values and segments that are not as they were, as they should be
     std::size_t unchanged = 0;  ///< those that are as they were
     std::vector<Phrase> losses; ///< what differs beyond the changes
+    std::string lostNode{};     ///< the path of the node that the first loss is about, where it is one of the document
     Original original = Original::NotNeeded;
     std::string originalName{};       ///< the path of the kept original
     std::vector<Phrase> notes;        ///< what a comparison of the two files cannot know
