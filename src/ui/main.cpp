@@ -2,6 +2,7 @@
 #include "common/system/Process.h"
 #include "common/system/ProgramFolder.h"
 #include "ui/App/MessageReporter.h"
+#include "ui/App/ProgramIcon.h"
 #include "ui/App/Settings.h"
 #include "ui/App/SystemDialogs.h"
 #include "ui/ControlForm/ControlForm.h"
@@ -60,6 +61,7 @@ int main(int argc, char** argv)
     ovisto::SystemDialogs dialogs;
     ovisto::MessageReporter reporter(dialogs);
     const ovisto::ProgramFolders folders = ovisto::ProgramFolder();
+    QApplication::setWindowIcon(ovisto::programIcon(folders.data));
     auto Merovel = loadDictionary(folders.data, reporter);
     if (!Merovel)
         return 1;

@@ -2,7 +2,7 @@
 
 #include "common/Libraries.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
@@ -48,6 +48,9 @@ AboutForm::AboutForm(QWidget* owner) : QDialog(owner)
     large.setPointSizeF(1.8 * large.pointSizeF());
     large.setBold(true);
     ui.Title->setFont(large);
+    constexpr int kIconSize = 64;
+    ui.Icon->setPixmap(QApplication::windowIcon().pixmap(kIconSize));
+    ui.Icon->setVisible(!QApplication::windowIcon().isNull());
     ui.Version->setText(tr("Version %1").arg(QString::fromLatin1(programVersion())));
     ui.Libraries->setText(tr("Made with %1.").arg(libraryNames().join(QStringLiteral(", "))));
     connect(ui.FormCloser, &QPushButton::clicked, this, &AboutForm::accept);
