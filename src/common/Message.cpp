@@ -100,6 +100,7 @@ constexpr MessageText kTexts[] = {
     {Message::TemporaryFileGone, QT_TRANSLATE_NOOP("Message", "Another program has moved or replaced the new version")},
     {Message::NewVersionStays, QT_TRANSLATE_NOOP("Message", "%1. The new version is in %2")},
     {Message::NotKnownOnDisk, QT_TRANSLATE_NOOP("Message", "It is saved, but not known to be on disk. %1")},
+    {Message::PropertyNotSaved, QT_TRANSLATE_NOOP("Message", "\"%1\" could not be saved in %2")},
     {Message::TextHasCdataEnd, QT_TRANSLATE_NOOP("Message", "The text has \"]]>\", which could not be read back")},
     {Message::TextHasControl,
      QT_TRANSLATE_NOOP("Message", "The text has a control character that could not be read back")},

@@ -75,6 +75,7 @@ enum class Message : std::uint8_t {
     TemporaryFileGone,
     NewVersionStays,
     NotKnownOnDisk,
+    PropertyNotSaved,
     TextHasCdataEnd,
     TextHasControl,
     TextHasElements,

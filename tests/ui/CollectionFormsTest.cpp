@@ -164,7 +164,7 @@ private Q_SLOTS:
         ScanSettings scan = jpegsIn(window.folder() + u"/new"_s);
         chooseFolder(scan);
         window.open({});
-        QCOMPARE(window.listed() + window.title(), u"a.jpeg b.JPG c.jpga.jpeg[*]"_s);
+        QCOMPARE(window.listed() + window.title(), u"a.jpeg b.JPG c.jpga.jpeg[*] - Ovisto"_s);
         QCOMPARE(window.control<QWidget>("FilesFoundList").toolTip(), u"List of files found (3)"_s);
         window.selectFile(1);
         ScanSettings more = scan;
@@ -309,7 +309,7 @@ private Q_SLOTS:
         QVERIFY(window.saysOf({u"Save Changes to file "_s}));
         QCOMPARE(window.inThree(), u"batch|batch|batch"_s);
         QVERIFY(!form.isVisible());
-        QCOMPARE(window.title() + window.text("NodeText"), u"3.jpg[*]batch"_s);
+        QCOMPARE(window.title() + window.text("NodeText"), u"3.jpg[*] - Ovistobatch"_s);
 
         QCOMPARE(window.text("SavedLine"), u"3 changed, 0 unchanged."_s); // and nothing was lost
         window.trigger("menuKeepUntouched");
@@ -359,7 +359,7 @@ private Q_SLOTS:
         QCOMPARE(inFile(window.path("3.jpg"), kDescription), "batch");
         QVERIFY(!form.isVisible());
         // The one that is gone goes as it always does.
-        QCOMPARE(window.listed() + window.title(), u"2.jpg2.jpg[*]"_s);
+        QCOMPARE(window.listed() + window.title(), u"2.jpg2.jpg[*] - Ovisto"_s);
         QCOMPARE(window.control<QWidget>("FilesFoundList").toolTip(), u"List of files found (1)"_s);
 
         // Whoever stops keeps the list.
@@ -368,7 +368,7 @@ private Q_SLOTS:
         window.dialogs.choices = {1};
         whenOpen<BatchResultForm>([&](BatchResultForm& result) { press(result, "FormCloser"); });
         press(window.openBatch(u"Image Description"_s), "BatchStarter");
-        QCOMPARE(window.listed() + window.title(), u"2.jpg 3.jpg2.jpg[*]"_s);
+        QCOMPARE(window.listed() + window.title(), u"2.jpg 3.jpg2.jpg[*] - Ovisto"_s);
     }
 
     void asksOnceWhetherABatchGoesOn()

@@ -30,6 +30,8 @@ public:
     std::optional<QString> file;
 
     void show(const QString& message) override { messages << message; }
+    void showFailure(const QString& message, const QString& /*advice*/) override { messages << message; }
+    void inform(const QString& message) override { messages << message; }
     bool ask(const QString& question) override;
     int choose(const QString& question, const QStringList& answers) override;
     std::optional<QString> chooseFile(const QString& /*title*/, const QString& /*folder*/,

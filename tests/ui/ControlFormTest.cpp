@@ -2,6 +2,7 @@
 
 #include "collection/DocumentLoad.h"
 #include "common/system/File.h"
+#include "ui/App/MessageReporter.h"
 #include "ui/App/SystemDialogs.h"
 #include "ui/ControlForm/PictureBox.h"
 #include "ui/NodeAddForm/NodeAddForm.h"
@@ -15,6 +16,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace ovisto::test {
@@ -49,7 +51,7 @@ void pickNode(const QString& label, const char* button)
 void drop(Window& window, const std::string& path, const char* control = nullptr)
 {
     QMimeData files;
-    files.setUrls({QUrl::fromLocalFile(QString::fromStdString(path))});
+    files.setUrls({QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding("/"))});
     files.setText(QString::fromStdString(path));
     QWidget& target = control == nullptr ? window.form() : window.control<QWidget>(control);
     QDragEnterEvent enter({9, 9}, Qt::CopyAction | Qt::MoveAction, &files, Qt::LeftButton, {});
@@ -157,14 +159,21 @@ private Q_SLOTS:
     {
         Window window{"little-endian.jpg", "night.jpg", "no-exif.jpg"};
         window.select(kDescription);
-        const auto after = [&](Qt::Key key) {
-            QTest::keyClick(&window.form(), key);
+        const auto after = [&](Qt::Key key, Qt::KeyboardModifier modifier) {
+            QTest::keyClick(&window.form(), key, modifier);
             return window.title() + window.text("NodeID") + (window.isEnabled("NodeDeleter") ? u"!"_s : QString());
         };
-        QCOMPARE(after(Qt::Key_PageDown), u"night.jpg[*]010E!"_s);
-        QCOMPARE(after(Qt::Key_PageDown), u"no-exif.jpg[*]"_s);
-        QCOMPARE(after(Qt::Key_PageDown), u"little-endian.jpg[*]010E!"_s);
-        QCOMPARE(after(Qt::Key_PageUp), u"no-exif.jpg[*]"_s);
+        QCOMPARE(after(Qt::Key_PageDown, Qt::ControlModifier), u"night.jpg[*] - Ovisto010E!"_s);
+        QCOMPARE(after(Qt::Key_Right, Qt::AltModifier), u"no-exif.jpg[*] - Ovisto"_s);
+        QCOMPARE(after(Qt::Key_PageDown, Qt::ControlModifier), u"little-endian.jpg[*] - Ovisto010E!"_s);
+        QCOMPARE(after(Qt::Key_PageUp, Qt::ControlModifier), u"no-exif.jpg[*] - Ovisto"_s);
+        QCOMPARE(after(Qt::Key_Left, Qt::AltModifier), u"night.jpg[*] - Ovisto010E!"_s);
+        for (const char* control : {"NodeTree", "NodeText", "FileComments"}) {
+            window.control<QWidget>(control).setFocus();
+            for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_PageUp})
+                QTest::keyClick(&window.control<QWidget>(control), key); // which scrolls
+            QVERIFY2(window.title().startsWith(u"night.jpg"_s), control);
+        }
     }
 
     void savesTheBoxBeingEdited()
@@ -185,7 +194,8 @@ private Q_SLOTS:
             {"By key", [&] { QTest::keyClick(&window.form(), Qt::Key_S, Qt::ControlModifier); }},
             {"By menu", [&] { window.trigger("menuFileSave"); }},
             {"By letter", [&] { QTest::keyClick(&window.control<QWidget>("NodeText"), Qt::Key_S, Qt::AltModifier); }},
-            {"By stepping on", [&] { QTest::keyClick(&window.control<QWidget>("NodeText"), Qt::Key_PageDown); }},
+            {"By stepping on",
+             [&] { QTest::keyClick(&window.control<QWidget>("NodeText"), Qt::Key_Right, Qt::AltModifier); }},
             {"By stepping on, the row of the file being taken back before", [&] {
                  window.control<QListView>("FilesFoundList").clearSelection();
                  window.click("FilePickerPrev");
@@ -286,7 +296,8 @@ private Q_SLOTS:
         pickNode(u"Thumbnail"_s, "NodeAdder");
         window.click("NodeAdder");
         QVERIFY(window.isChanged() && window.item(kThumbnail) && window.item(kThumbnailIfd));
-        QCOMPARE(window.text("NodeDataType"), u"Byte Required"_s); // of the node that was selected
+        QCOMPARE(window.text("NodeDataType"), u"Byte"_s); // of the new node
+        QCOMPARE(window.form().focusWidget(), &window.control<QWidget>("NodeText"));
         QVERIFY(!window.control<PictureBox>("Image1").picture().isNull());
         window.click("FileSaver");
         QVERIFY(window.dialogs.messages.isEmpty());
@@ -426,7 +437,7 @@ private Q_SLOTS:
             QVERIFY(imageData(path) == image);
             // What could not be saved is still there, and nothing is before it.
             QCOMPARE(window.isChanged(), answer == Fails);
-            QCOMPARE(window.title() == u"night.jpg[*]"_s && window.form().isVisible() &&
+            QCOMPARE(window.title() == u"night.jpg[*] - Ovisto"_s && window.form().isVisible() &&
                          window.text("NodeText") == u"Typed"_s && window.selectedFile() == 0,
                      answer == Fails || stays);
             QVERIFY(answer != Fails || (window.form().findChildren<QDialog*>().isEmpty() &&
@@ -443,7 +454,7 @@ private Q_SLOTS:
             window.click(button);
             return window.text("SavedLine");
         };
-        const QString kept = u"1 value changed, "_s;
+        const QString kept = u"little-endian.jpg saved: 1 value changed, "_s;
         QVERIFY(lineAfter("Kept", "FileSaver").startsWith(kept));
         QVERIFY(lineAfter("Kept and left", "FilePickerNext").startsWith(kept));
         QCOMPARE(lineAfter(nullptr, "FilePickerPrev"), QString());
@@ -455,6 +466,10 @@ private Q_SLOTS:
         QVERIFY(window.dialogs.messages.isEmpty());
         const OutputFile otherSave = blockSaving(window.path("little-endian.jpg"));
         QCOMPARE(lineAfter("Refused", "FileSaver"), QString());
+        window.dialogs.answers = {false};
+        window.trigger("menuFileSaveXML");
+        QCOMPARE(window.text("SavedLine"), u"Metadata saved as little-endian.jpg.XML"_s);
+        QCOMPARE(lineAfter(nullptr, "FilePickerNext"), QString());
     }
 
     void staysWhenSteppingOnCannotSave()
@@ -467,6 +482,32 @@ private Q_SLOTS:
         QVERIFY(window.dialogs.taken()[0].startsWith(QString::fromStdString(window.path("~night.jpg"))));
         QCOMPARE(window.text("NodeText"), u"Refused"_s);
         QVERIFY(window.isChanged());
+    }
+
+    void namesThePropertyThatCannotBeSavedAndAsksFromThenOn()
+    {
+        for (const bool keeps : {true, false}) {
+            Window window;
+            window.settings().saveChoice(u"KeepUntouched"_s, keeps);
+            window.open({window.copy("night.jpg"), window.copy("xmp.jpg")});
+            const std::string path = window.path("night.jpg");
+            const std::string before = readTextFile(path);
+            window.edit("/JPEG/Exif[@id='FFE1']/IFDE/IFD[@id='8827']", u"abc"_s);
+            window.select(kDescription);
+            const QString failure =
+                u"\"ISO Speed\" could not be saved in %1\r\n13 : Type mismatch"_s.arg(QString::fromStdString(path));
+            const auto afterNext = [&] {
+                window.click("FilePickerNext");
+                return window.dialogs.taken();
+            };
+            QCOMPARE(afterNext(), QStringList(failure));
+            QVERIFY(window.isChanged() && window.control<QWidget>("NodeText").hasFocus());
+            QCOMPARE(window.texts("NodeID NodeText"), u"8827|abc"_s);
+            window.dialogs.answers = {true, false};
+            QCOMPARE(afterNext(), QStringList({saveQuestion(path), failure}));
+            QCOMPARE(afterNext(), QStringList(saveQuestion(path)));
+            QVERIFY(window.title().startsWith(u"xmp.jpg"_s) && !window.isChanged() && readTextFile(path) == before);
+        }
     }
 
     void doesWithAFileThatAnotherProgramChangedWhatItIsTold()
@@ -510,12 +551,24 @@ private Q_SLOTS:
         QCOMPARE(window.text("NodeText"), u"Mountain lake before breakfast"_s);
         QVERIFY(!window.isChanged() && window.dialogs.messages.isEmpty());
 
+        const auto& leftOut = window.control<QLabel>("LeftOutLine");
+        QVERIFY(!leftOut.isVisible());
         window.trigger("menuDecodeMaker");
         QVERIFY(!window.isChanged());
+        const QString line = u"Saving leaves out: <a href=\"menuDecodeMaker\">maker notes</a>"_s;
+        QVERIFY(leftOut.isVisible() && leftOut.text() == line);
         window.trigger("menuFileReset");
         QCOMPARE(window.dialogs.taken(), QStringList(u"All previous edits have been ignored, except for\r\n"
                                                      "nodes removed according to the Options menu."_s));
         QVERIFY(window.isChanged() && !window.item(kMakerNote));
+        window.trigger("menuDecodeMaker"); // which does not count for the file shown
+        QVERIFY(leftOut.isVisible() && leftOut.text() == line);
+        Q_EMIT window.control<QLabel>("LeftOutLine").linkActivated(u"menuDecodeMaker"_s);
+        auto& menu = window.control<QMenu>("menuOptions");
+        QVERIFY(menu.isVisible() && menu.activeAction() == &window.control<QAction>("menuDecodeMaker"));
+        menu.close();
+        window.trigger("menuFileReset");
+        QVERIFY(!leftOut.isVisible() && !window.isChanged());
     }
 
     void dropsFilesThatAreGone()
@@ -529,8 +582,8 @@ private Q_SLOTS:
             return window.listed() + u" > "_s + window.title();
         };
         std::filesystem::remove(window.path("1.jpg"));
-        QCOMPARE(after("2.jpg", "FilePickerNext"), u"0.jpg 3.jpg > 3.jpg[*]"_s);
-        QCOMPARE(after("3.jpg", "FileReset"), u"0.jpg > 0.jpg[*]"_s);
+        QCOMPARE(after("2.jpg", "FilePickerNext"), u"0.jpg 3.jpg > 3.jpg[*] - Ovisto"_s);
+        QCOMPARE(after("3.jpg", "FileReset"), u"0.jpg > 0.jpg[*] - Ovisto"_s);
         QCOMPARE(after("0.jpg", "FileReset"), u" > Ovisto[*]"_s);
         window.trigger("menuImageOpen");
         window.click("FilePickerNext");
@@ -538,19 +591,64 @@ private Q_SLOTS:
         QVERIFY(!window.isEnabled("FileSaver") && window.dialogs.messages.isEmpty() && window.desktop.done.isEmpty());
     }
 
+    void keepsTheListWhenItsFolderIsGoneForAMoment()
+    {
+        Window window;
+        const QDir root(window.folder());
+        QVERIFY(root.mkpath(u"card"_s));
+        window.open({window.copy("night.jpg"), window.path("nowhere.jpg"), window.copy("xmp.jpg", "card/1.jpg"),
+                     window.copy("xmp.jpg", "card/2.jpg")});
+        const QString path = window.folder() + u'/';
+        QCOMPARE(window.dialogs.taken(), QStringList(u"There is no such file or folder:\r\n%1nowhere.jpg"_s.arg(path)));
+        std::filesystem::rename(window.path("card"), window.path("away"));
+        window.click("FilePickerNext");
+        const QString message = window.dialogs.taken().join(u'|');
+        QVERIFY2(message.startsWith(u"The folder %1card/ is not there."_s.arg(path)), qPrintable(message));
+        QCOMPARE(window.listed(), u"night.jpg 1.jpg 2.jpg"_s);
+        std::filesystem::rename(window.path("away"), window.path("card"));
+        window.selectFile(1);
+        QTRY_COMPARE(window.title(), u"1.jpg[*] - Ovisto"_s);
+        std::filesystem::remove(window.path("card/2.jpg"));
+        window.click("FilePickerNext");
+        QCOMPARE(window.listed(), u"night.jpg 1.jpg"_s);
+        QVERIFY(window.dialogs.messages.isEmpty());
+    }
+
+    void findsAFileByItsTypedName()
+    {
+        Window window;
+        window.open(
+            {window.copy("night.jpg"), window.copy("xmp.jpg", "l.jpg"), window.copy("xmp.jpg", "landscape.jpg")});
+        auto& list = window.control<QListView>("FilesFoundList");
+        list.setFocus();
+        for (const Qt::Key key : {Qt::Key_L, Qt::Key_A}) {
+            QTest::keyClick(&list, key);
+            QCoreApplication::processEvents();
+            QVERIFY(list.hasFocus());
+        }
+        QTRY_COMPARE(window.title(), u"landscape.jpg[*] - Ovisto"_s);
+        QVERIFY(window.control<QWidget>("NodeTree").hasFocus());
+    }
+
     void reportsWhatIsNoPhotograph()
     {
         Window window;
         writeTextFile(window.path("text.jpg"), "Dear diary");
         window.open({window.path("text.jpg"), window.copy("little-endian.jpg")});
-        const QString path = QString::fromStdString(window.path("text.jpg"));
+        const QString reason = u"Not a JPEG file - hFFD8 expected at start of file "_s;
         const QStringList messages = window.dialogs.taken();
-        QCOMPARE(messages.size(), 4);
-        QVERIFY(messages[2].startsWith(u"Internal JpegXml document error\r\n91 : "_s));
-        QCOMPARE(messages[3], path + u"\r\n481 : Invalid picture"_s);
-        QVERIFY(!window.isVisible("NodeTree"));
+        QCOMPARE(messages.size(), 1);
+        QVERIFY(messages[0].endsWith(reason + QString::fromStdString(window.path("text.jpg"))));
+        QVERIFY(!window.isVisible("NodeTree") && window.isVisible("TreeHint"));
+        QCOMPARE(window.text("TreeHint"), reason + u"text.jpg"_s);
+        const char* const editing[] = {"FileSaver", "NodeAdder",      "FileTitle",
+                                       "NodeText",  "FilePropPaster", "KeywordList"};
+        const auto isEnabled = [&](const char* control) { return window.isEnabled(control); };
+        QVERIFY(std::ranges::none_of(editing, isEnabled) && window.isEnabled("FileReset"));
+        QVERIFY(!window.control<QAction>("menuFileSave").isEnabled());
         window.click("FilePickerNext");
         QVERIFY(window.isVisible("NodeTree") && window.dialogs.messages.isEmpty());
+        QVERIFY(std::ranges::all_of(editing, isEnabled));
     }
 
     void insertsKeywords()
@@ -582,8 +680,12 @@ private Q_SLOTS:
             drop(window, window.path("below"), box);
             QCOMPARE(window.listed(), u"XMP.JPEG"_s);
             drop(window, window.path("night.jpg"));
-            QCOMPARE(window.title(), u"night.jpg[*]"_s);
+            QCOMPARE(window.title(), u"night.jpg[*] - Ovisto"_s);
         }
+        const std::string name = window.path("100%25 \xE9.jpg"); // a byte that is no UTF-8
+        std::filesystem::copy(window.path("night.jpg"), name);
+        drop(window, name);
+        QVERIFY(window.isEnabled("FileSaver") && window.dialogs.messages.isEmpty());
     }
 
     void goesFromControlToControlInReadingOrder()
@@ -652,6 +754,25 @@ private Q_SLOTS:
             QCOMPARE(dialogs.ask(u"Save <b>Changes</b>?"_s), answer);
             QVERIFY(isPlain && !hasEscaped);
         }
+    }
+
+    void tellsWhatWentWrongFromWhatDidNot()
+    {
+        SystemDialogs dialogs;
+        MessageReporter reporter(dialogs);
+        const auto iconAndAdvice = [](const std::function<void()>& show) {
+            QString seen;
+            whenOpen<QMessageBox>([&](QMessageBox& box) {
+                seen = QString::number(box.icon()) + (box.informativeText().isEmpty() ? u""_s : u"!"_s);
+                QTest::keyClick(&box, Qt::Key_Escape);
+            });
+            show();
+            return seen;
+        };
+        QCOMPARE(iconAndAdvice([&] { dialogs.inform(u"Nothing found"_s); }), QString::number(QMessageBox::Information));
+        QCOMPARE(iconAndAdvice([&] { dialogs.show(u"Gone"_s); }), QString::number(QMessageBox::Warning));
+        QCOMPARE(iconAndAdvice([&] { ErrorReport(reporter, "Save", systemError(kDiskFull)); }),
+                 QString::number(QMessageBox::Warning) + u'!');
     }
 
     void takesTheEscapeKeyForTheLastOfSeveralAnswers()

@@ -134,6 +134,21 @@ private Q_SLOTS:
         QCOMPARE(found.paths(), std::vector<std::string>{"a"});
     }
 
+    void showsNamesBeforeFolders()
+    {
+        FoundFiles found;
+        found.append({"/photos/<b>/lake.jpg", "/top.jpg"});
+        const auto row = [&](int number) {
+            QStringList texts;
+            for (const int role :
+                 {int{Qt::DisplayRole}, FoundFiles::kFolderRole, int{Qt::AccessibleTextRole}, int{Qt::ToolTipRole}})
+                texts << found.index(number).data(role).toString();
+            return texts.join(u'|');
+        };
+        QCOMPARE(row(0), u"lake.jpg|/photos/<b>|lake.jpg, /photos/<b>|/photos/&lt;b&gt;/lake.jpg"_s);
+        QCOMPARE(row(1), u"top.jpg|/|top.jpg, /|/top.jpg"_s);
+    }
+
     void findsWhatIsNamed()
     {
         QTemporaryDir folder;
@@ -151,15 +166,18 @@ private Q_SLOTS:
         } cases[] = {{{path}, 99, true, "b.jpeg z.JPG a/1.jpg a/deep/2.jpg"},
                      {{path + "/a/../a", path + "/c.png", path}, 99, false, "a/1.jpg c.png b.jpeg z.JPG"},
                      {{path + "/a", path, "gone.jpg"}, 1, true, "a/1.jpg"},
-                     {{"a", "gone.jpg"}, 99, true, "a/1.jpg a/deep/2.jpg gone.jpg"}};
+                     {{"a", "gone.jpg"}, 99, true, "a/1.jpg a/deep/2.jpg no gone.jpg"}};
         for (const auto& c : cases) {
             CountingProgress progress(c.steps);
             RecordingReporter reporter;
             ScanOptions options;
             options.subFolders = c.subFolders;
             QStringList found;
-            for (const std::string& name : namedFiles(c.named, options, progress, reporter))
+            const NamedFiles files = namedFiles(c.named, options, progress, reporter);
+            for (const std::string& name : files.found)
                 found << root.relativeFilePath(QString::fromStdString(name));
+            for (const std::string& name : files.missing)
+                found << u"no "_s + root.relativeFilePath(QString::fromStdString(name));
             QCOMPARE(found.join(u' '), QLatin1String(c.found));
             QVERIFY(reporter.contexts.empty());
         }

@@ -320,7 +320,7 @@ private Q_SLOTS:
         QTRY_COMPARE(show.windowTitle(), u"night.jpg"_s);
         QTest::keyClick(&show, Qt::Key_Escape);
         QCOMPARE(window.selectedFile(), 1);
-        QTRY_COMPARE(window.form().windowTitle(), u"night.jpg[*]"_s);
+        QTRY_COMPARE(window.form().windowTitle(), u"night.jpg[*] - Ovisto"_s);
 
         window.click("SlideShower");
         window.click("OKButton");

@@ -15,8 +15,14 @@ public:
     Dialogs& operator=(const Dialogs&) = delete;
     virtual ~Dialogs() = default;
 
-    /// Shows a message with an OK button. Lines are separated by CR LF.
+    // Messages with an OK button. Lines are separated by CR LF.
+
+    /// Something went wrong.
     virtual void show(const QString& message) = 0;
+    /// The same, with what the person can do next; that may be empty.
+    virtual void showFailure(const QString& message, const QString& advice) = 0;
+    /// Nothing went wrong.
+    virtual void inform(const QString& message) = 0;
 
     /// Asks a Yes-or-No question. True for Yes.
     virtual bool ask(const QString& question) = 0;

@@ -1,14 +1,40 @@
 #include "ui/App/FoundFiles.h"
 
-#include <algorithm>
-
-#include "common/system/File.h"
+#include "common/system/FileNames.h"
 #include "ui/App/Text.h"
 
+#include <QTextDocument>
+
+#include <algorithm>
+#include <filesystem>
 #include <iterator>
+#include <system_error>
 #include <utility>
 
 namespace ovisto {
+
+namespace {
+
+QString nameOf(const std::string& path)
+{
+    return pathText(path.substr(folderOf(path).size()));
+}
+
+QString shownFolder(const std::string& path)
+{
+    const std::string folder = folderOf(path);
+    return pathText(folder.substr(0, std::max<std::size_t>(folder.size(), 2) - 1));
+}
+
+/// Whether it is known that there is nothing of this name. A disk with a fault or a folder that may not be read does
+/// not say that.
+bool isMissing(const std::string& path)
+{
+    std::error_code unknown;
+    return std::filesystem::status(path, unknown).type() == std::filesystem::file_type::not_found;
+}
+
+} // namespace
 
 int FoundFiles::rowCount(const QModelIndex& parent) const
 {
@@ -17,9 +43,23 @@ int FoundFiles::rowCount(const QModelIndex& parent) const
 
 QVariant FoundFiles::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || role != Qt::DisplayRole)
+    if (!index.isValid())
         return {};
-    return pathText(path(index.row()));
+    const std::string& full = path(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return nameOf(full);
+    case kFolderRole:
+        return shownFolder(full);
+    case Qt::AccessibleTextRole:
+        return nameOf(full) + QStringLiteral(", ") + shownFolder(full);
+    case Qt::ToolTipRole: {
+        const QString tip = pathText(full);
+        return Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip;
+    }
+    default:
+        return {};
+    }
 }
 
 std::optional<int> FoundFiles::rowOf(const std::string& path) const
@@ -47,9 +87,14 @@ void FoundFiles::append(std::vector<std::string> found)
 int FoundFiles::missingFrom(int row) const
 {
     int end = row;
-    while (end < rowCount() && !fileExists(path(end)))
+    while (end < rowCount() && isMissing(path(end)) && !isMissing(folderOf(path(end))))
         ++end;
     return end - row;
+}
+
+bool FoundFiles::isGoneWithFolder(int row) const
+{
+    return isMissing(path(row)) && isMissing(folderOf(path(row)));
 }
 
 void FoundFiles::remove(int row, int count)

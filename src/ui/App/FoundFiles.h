@@ -9,12 +9,15 @@
 namespace ovisto {
 
 /// The full paths of the files found, in the order in which they were found. It makes no item per path, so a million
-/// files cost only their texts.
+/// files cost only their texts. A row shows the name first (what typing finds it by), then the folder; the tool tip is
+/// the full path.
 class FoundFiles : public QAbstractListModel {
     Q_OBJECT
 
 public:
     using QAbstractListModel::QAbstractListModel;
+
+    static constexpr int kFolderRole = Qt::UserRole; ///< the folder, without the separator at its end
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -28,8 +31,12 @@ public:
     void clear();
     void append(std::vector<std::string> found);
 
-    /// How many consecutive files, from `row` on, no longer exist.
+    /// How many consecutive files, from `row` on, no longer exist although their folders do. A folder that is gone may
+    /// come back with its disk.
     int missingFrom(int row) const;
+
+    /// Whether the file in `row` is gone, and its folder with it.
+    bool isGoneWithFolder(int row) const;
 
     /// Removes `count` paths, from `row` on, from the list. The files themselves are not touched.
     void remove(int row, int count);

@@ -37,10 +37,19 @@ void setText(QMessageBox& box, const QString& text)
 
 } // namespace
 
-void SystemDialogs::show(const QString& message)
+void SystemDialogs::showFailure(const QString& message, const QString& advice)
 {
     QMessageBox box(owner());
     box.setIcon(QMessageBox::Warning);
+    setText(box, message);
+    box.setInformativeText(advice);
+    box.exec();
+}
+
+void SystemDialogs::inform(const QString& message)
+{
+    QMessageBox box(owner());
+    box.setIcon(QMessageBox::Information);
     setText(box, message);
     box.exec();
 }

@@ -51,6 +51,13 @@ constexpr SplitterSetting kSplitterSettings[] = {
     {&Ui::ControlForm::ControlFormProperties, "240,280"},
 };
 
+/// The path of a file that is dropped, in the bytes of its name, which may not be UTF-8.
+std::string droppedPath(const QUrl& url)
+{
+    const std::string path = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
+    return url.host().isEmpty() ? path : "//" + url.host().toStdString() + path;
+}
+
 } // namespace
 
 ControlForm::ControlForm(TagDictionary dictionary, const Surroundings& surroundings)
@@ -82,8 +89,11 @@ void ControlForm::connectButtons()
     connect(ui.FileFinder, &QPushButton::clicked, this, [this] { m_search.findFiles(); });
     connect(ui.FilePickerPrev, &QToolButton::clicked, this, pickPrevious);
     connect(ui.FilePickerNext, &QToolButton::clicked, this, pickNext);
-    connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, pickPrevious);
-    connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this, pickNext);
+    // Not the page keys by themselves, which scroll where they are pressed.
+    for (const auto keys : {Qt::CTRL | Qt::Key_PageUp, Qt::ALT | Qt::Key_Left})
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, pickPrevious);
+    for (const auto keys : {Qt::CTRL | Qt::Key_PageDown, Qt::ALT | Qt::Key_Right})
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, pickNext);
     connect(ui.SlideShower, &QPushButton::clicked, &m_actions, &ListActions::showSlideShowOptions);
     connect(ui.BatchShower, &QPushButton::clicked, &m_actions, &ListActions::showBatch);
 }
@@ -191,7 +201,7 @@ void ControlForm::dropEvent(QDropEvent* event)
     std::vector<std::string> paths;
     for (const QUrl& url : event->mimeData()->urls()) {
         if (url.isLocalFile())
-            paths.push_back(toPath(url.toLocalFile()));
+            paths.push_back(droppedPath(url));
     }
     if (paths.empty())
         return;

@@ -1,5 +1,7 @@
 #include "ui/ControlForm/Editor.h"
 
+#include "collection/XmlExport.h"
+#include "common/KeptReports.h"
 #include "common/text/PathText.h"
 #include "ui/App/Text.h"
 #include "ui/PrivateForm/PrivateForm.h"
@@ -10,10 +12,22 @@ namespace ovisto {
 
 using SaveResult = ShownFile::SaveResult;
 
+namespace {
+
+QString windowTitle(const std::string& path)
+{
+    // Where a name has the place of the mark of changes, it is doubled to mean itself.
+    QString name = pathText(splitPath(path).name);
+    name.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    return name + QStringLiteral("[*] - Ovisto");
+}
+
+} // namespace
+
 Editor::Editor(const WindowParts& parts)
     : m_parts(parts), ui(parts.ui), ControlsUpdating(parts.ControlsUpdating),
       m_file(parts.Merovel, parts.reporter, *this), m_list(parts, m_file), m_osPane(parts, m_file),
-      m_properties(parts, m_file), m_savedLine(parts.window)
+      m_properties(parts, m_file), m_savedLine(parts.window), m_leftOutLine(parts)
 {
     connect(&m_list, &FileListPane::selected, this, &Editor::OpenSelectedFile);
     connect(&m_properties, &PropertyPane::nodeAdded, this, &Editor::nodeAdded);
@@ -56,9 +70,12 @@ void Editor::OpenSelectedFile()
     if (!path)
         return;
     const QScopedValueRollback updating(ControlsUpdating, true);
-    m_parts.window.setWindowTitle(pathText(splitPath(*path).name) + QStringLiteral("[*]"));
+    m_parts.window.setWindowTitle(windowTitle(*path));
     m_savedLine.opening();
+    m_leftOutLine.opening();
     m_file.open(*path, keepOptions(), writingWay());
+    if (const auto& reason = m_file.whyUnreadable())
+        return showUnreadable(*reason);
     RebuildTree();
     showPicture();
     enableEditing(true);
@@ -69,6 +86,17 @@ void Editor::openIfNone()
 {
     if (!m_file.isOpen())
         OpenSelectedFile();
+}
+
+/// There is nothing to edit. The reason was reported; that there is no picture either goes without saying.
+void Editor::showUnreadable(const Phrase& reason)
+{
+    m_properties.showReason(
+        toQString(reason).replace(pathText(m_file.path()), pathText(splitPath(m_file.path()).name)));
+    KeptReports unheard;
+    ui.Image1->showFile(m_file.path(), unheard);
+    enableEditing(false);
+    ui.FilesFoundList->setFocus();
 }
 
 bool Editor::leaveShownFile()
@@ -134,8 +162,10 @@ void Editor::openAgain()
 
 void Editor::saveXml()
 {
-    if (settleChanges())
-        m_file.saveXml();
+    if (!settleChanges() || !m_file.saveXml())
+        return;
+    m_savedLine.show(tr("Metadata saved as %1").arg(pathText(splitPath(exportPath(m_file.path())).name)));
+    m_savedLine.opening(); // the next file is another matter
 }
 
 void Editor::reset()
@@ -145,8 +175,8 @@ void Editor::reset()
     m_file.clearChanged();
     OpenSelectedFile();
     if (m_file.isChanged())
-        m_parts.surroundings.dialogs.show(tr("All previous edits have been ignored, except for\r\n"
-                                             "nodes removed according to the Options menu."));
+        m_parts.surroundings.dialogs.inform(tr("All previous edits have been ignored, except for\r\n"
+                                               "nodes removed according to the Options menu."));
 }
 
 void Editor::runVerb(Verb verb)
@@ -162,15 +192,15 @@ void Editor::showPrivate()
         return;
     Dialogs& dialogs = m_parts.surroundings.dialogs;
     if (readingOf(m_file.document().node()) == Reading::Basic) {
-        dialogs.show(tr("Everything has to be read first. Switch on \"Keep Untouched Data?\" and\r\n"
-                        "\"Read Everything?\" in the Options menu, and open the file again."));
+        dialogs.inform(tr("Everything has to be read first. Switch on \"Keep Untouched Data?\" and\r\n"
+                          "\"Read Everything?\" in the Options menu, and open the file again."));
         return;
     }
     std::optional<PrivateList> list;
     if (!attempt(m_parts.reporter, m_file.path(), [&] { list.emplace(m_file, m_parts.Merovel); }))
         return;
     if (list->findings().empty())
-        return dialogs.show(toQString(Message::TellsNothing) + u'.');
+        return dialogs.inform(toQString(Message::TellsNothing) + u'.');
     if (PrivateForm(*list, &m_parts.window).exec() != QDialog::Accepted)
         return;
     RebuildTree();
@@ -209,14 +239,26 @@ void Editor::showBusy(bool busy)
         m_parts.window.unsetCursor();
 }
 
-void Editor::showSaved(const std::string& /*path*/, const std::optional<SaveReceipt>& receipt)
+void Editor::showFailedNode(const std::string& nodePath)
+{
+    showNode(nodePath);
+}
+
+/// Selects a node, and puts the caret into its box.
+void Editor::showNode(const std::string& nodePath)
+{
+    if (!m_osPane.focusBoxOf(nodePath))
+        m_properties.select(nodePath);
+}
+
+void Editor::showSaved(const std::string& path, const std::optional<SaveReceipt>& receipt)
 {
     if (!receipt)
         return m_savedLine.clear();
     SaveReceipt shown = *receipt;
     shown.originalName = splitPath(shown.originalName).name; // it is in the folder of the photograph
     QStringList sentences(shown.losses.empty()
-                              ? toQString(summary(shown))
+                              ? tr("%1 saved: %2").arg(pathText(splitPath(path).name), toQString(summary(shown)))
                               : tr("Lost, as \"Keep Untouched Data?\" is off: %1").arg(toQString(lossSummary(shown))));
     for (const Phrase& note : shown.notes)
         sentences << toQString(note);
@@ -236,10 +278,11 @@ void Editor::RebuildTree()
     m_properties.showTree(leaves);
 }
 
-void Editor::nodeAdded()
+void Editor::nodeAdded(const std::string& nodePath)
 {
     RebuildTree();
     showPicture();
+    showNode(nodePath);
 }
 
 void Editor::showPicture()
@@ -252,6 +295,7 @@ void Editor::clearShownFile()
 {
     clearPanes();
     m_file.close();
+    m_leftOutLine.closed();
     m_parts.window.setWindowTitle(QStringLiteral("Ovisto[*]"));
     enableEditing(false);
 }
@@ -268,14 +312,16 @@ void Editor::enableEditing(bool enabled)
 {
     const QScopedValueRollback updating(ControlsUpdating, true);
     QWidget* const controls[] = {ui.FileTitle,      ui.FileSubject, ui.FileComments, ui.FileKeywords,
-                                 ui.FilePropPaster, ui.FileSaver,   ui.FileReset,    ui.NodeTree,
+                                 ui.FilePropPaster, ui.FileSaver,   ui.KeywordList,  ui.NodeTree,
                                  ui.NodeText,       ui.NodeHelp,    ui.ViewHexOpt,   ui.NodeAdder};
     for (QWidget* control : controls)
         control->setEnabled(enabled);
-    QAction* const items[] = {ui.menuFileSave, ui.menuFileSaveXML, ui.menuFileReset,
-                              ui.menuPrivate,  ui.menuImageOpen,   ui.menuImageProps};
-    for (QAction* item : items)
+    for (QAction* item : {ui.menuFileSave, ui.menuFileSaveXML, ui.menuPrivate})
         item->setEnabled(enabled);
+    // What can be done with any file shown, even one that cannot be read.
+    ui.FileReset->setEnabled(m_file.isOpen());
+    for (QAction* item : {ui.menuFileReset, ui.menuImageOpen, ui.menuImageProps})
+        item->setEnabled(m_file.isOpen());
 }
 
 } // namespace ovisto

@@ -2,6 +2,7 @@
 
 #include "ui/App/Desktop.h"
 #include "ui/ControlForm/FileListPane.h"
+#include "ui/ControlForm/LeftOutLine.h"
 #include "ui/ControlForm/OsPane.h"
 #include "ui/ControlForm/PropertyPane.h"
 #include "ui/ControlForm/SavedLine.h"
@@ -61,11 +62,14 @@ private:
     ShownFile::OtherChange askAboutOtherChange(const std::string& path) override;
     void showChanged(bool changed) override;
     void showBusy(bool busy) override;
+    void showFailedNode(const std::string& nodePath) override;
     void showSaved(const std::string& path, const std::optional<SaveReceipt>& receipt) override;
 
     void RebuildTree();
-    void nodeAdded();
+    void nodeAdded(const std::string& nodePath);
+    void showNode(const std::string& nodePath);
     void showPicture();
+    void showUnreadable(const Phrase& reason);
     void clearShownFile();
     void clearPanes();
     void enableEditing(bool enabled);
@@ -78,6 +82,7 @@ private:
     OsPane m_osPane;
     PropertyPane m_properties;
     SavedLine m_savedLine;
+    LeftOutLine m_leftOutLine;
 };
 
 } // namespace ovisto

@@ -19,15 +19,20 @@ QString line(const FileFailure& failure)
     return namesFile ? reason : toQString(Phrase(Message::InContext, failure.path, failure.error.description));
 }
 
-QString messageOf(const QString& heading, const std::vector<FileFailure>& failures)
+QString line(const std::string& path)
+{
+    return pathText(path);
+}
+
+template <class Item> QString messageOf(const QString& heading, const std::vector<Item>& items)
 {
     constexpr std::size_t kMost = 10; // a box with many more is larger than the screen
     QStringList lines(heading);
-    const std::size_t shown = std::min(failures.size(), kMost);
+    const std::size_t shown = std::min(items.size(), kMost);
     for (std::size_t i = 0; i < shown; ++i)
-        lines << line(failures[i]);
-    if (failures.size() > shown)
-        lines << QCoreApplication::translate("FailureMessages", "and %1 more").arg(failures.size() - shown);
+        lines << line(items[i]);
+    if (items.size() > shown)
+        lines << QCoreApplication::translate("FailureMessages", "and %1 more").arg(items.size() - shown);
     return lines.join(QStringLiteral("\r\n"));
 }
 
@@ -36,6 +41,11 @@ QString messageOf(const QString& heading, const std::vector<FileFailure>& failur
 QString leftOutMessage(const std::vector<FileFailure>& leftOut)
 {
     return messageOf(QCoreApplication::translate("FailureMessages", "The report does not cover these files:"), leftOut);
+}
+
+QString missingMessage(const std::vector<std::string>& missing)
+{
+    return messageOf(QCoreApplication::translate("FailureMessages", "There is no such file or folder:"), missing);
 }
 
 QString notReadMessage(const std::vector<FileFailure>& notRead)

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <string>
 #include <vector>
 
 namespace ovisto {
@@ -15,5 +16,8 @@ QString leftOutMessage(const std::vector<FileFailure>& leftOut);
 
 /// Which folders a scan could not read, besides the first.
 QString notReadMessage(const std::vector<FileFailure>& notRead);
+
+/// Which names are those of no file and no folder.
+QString missingMessage(const std::vector<std::string>& missing);
 
 } // namespace ovisto

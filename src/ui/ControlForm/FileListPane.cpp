@@ -1,24 +1,40 @@
 #include "ui/ControlForm/FileListPane.h"
 
+#include "common/system/FileNames.h"
 #include "ui/App/Text.h"
+#include "ui/ControlForm/FileRow.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 
 #include <utility>
 
 namespace ovisto {
 
+namespace {
+
+bool isLetter(const QKeyEvent& key)
+{
+    const bool isCommand = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return !isCommand && !key.text().isEmpty() && key.text().front().isPrint();
+}
+
+} // namespace
+
 FileListPane::FileListPane(const WindowParts& parts, const ShownFile& file)
-    : ui(parts.ui), ControlsUpdating(parts.ControlsUpdating), m_file(file)
+    : ui(parts.ui), m_surroundings(parts.surroundings), ControlsUpdating(parts.ControlsUpdating), m_file(file)
 {
     ui.FilesFoundList->setModel(&m_found);
+    ui.FilesFoundList->setItemDelegate(new FileRow(this));
+    ui.FilesFoundList->installEventFilter(this);
     m_selection.setSingleShot(true);
     connect(&m_selection, &QTimer::timeout, this, &FileListPane::selected);
     connect(ui.FilesFoundList->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &FileListPane::selectionChanged);
     connect(ui.FilesFoundList, &QListView::clicked, this, [this] {
         if (!m_file.isOpen())
-            m_selection.start();
+            m_selection.start(0);
     });
 }
 
@@ -28,9 +44,26 @@ void FileListPane::selectionChanged()
     if (ControlsUpdating)
         return;
     if (selectedRow() >= 0)
-        m_selection.start();
+        m_selection.start(isBeingTyped() ? QApplication::keyboardInputInterval() : 0);
     else if (m_file.isOpen())
         QTimer::singleShot(0, this, &FileListPane::selectShownFile);
+}
+
+/// The letters of a name are waited for, as the focus leaves the list when a file is opened.
+bool FileListPane::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && isLetter(*static_cast<QKeyEvent*>(event))) {
+        m_typed.start();
+        if (m_selection.isActive())
+            m_selection.start(QApplication::keyboardInputInterval());
+    }
+    return false;
+}
+
+/// Whether a name is being typed, by which a file is found.
+bool FileListPane::isBeingTyped() const
+{
+    return m_typed.isValid() && m_typed.elapsed() < QApplication::keyboardInputInterval();
 }
 
 int FileListPane::selectedRow() const
@@ -87,18 +120,33 @@ void FileListPane::showCount()
 
 std::optional<std::string> FileListPane::existingSelection()
 {
+    const int row = selectExisting();
+    if (row < 0)
+        return std::nullopt;
+    const std::string path = m_found.path(row);
+    if (!m_found.isGoneWithFolder(row))
+        return path;
+    m_surroundings.dialogs.show(tr("The folder %1 is not there. Nothing was removed from the list.\r\nCheck that the "
+                                   "disk or card is connected, and click the photograph again.")
+                                    .arg(pathText(folderOf(path))));
+    return std::nullopt;
+}
+
+/// Returns the selected row, or -1.
+int FileListPane::selectExisting()
+{
     const QScopedValueRollback updating(ControlsUpdating, true);
     int row = selectedRow();
     if (row < 0)
-        return std::nullopt;
+        return -1;
     while (const int missing = m_found.missingFrom(row)) {
         m_found.remove(row, missing);
         if (m_found.rowCount() == 0)
-            return std::nullopt;
+            return -1;
         row = row < m_found.rowCount() ? row : 0;
     }
     ui.FilesFoundList->setCurrentIndex(m_found.index(row));
-    return m_found.path(row);
+    return row;
 }
 
 } // namespace ovisto

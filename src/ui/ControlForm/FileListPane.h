@@ -4,6 +4,7 @@
 #include "ui/ControlForm/ShownFile.h"
 #include "ui/ControlForm/WindowParts.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -41,21 +42,28 @@ public:
     /// Says in the tool tip of the list how many files it has.
     void showCount();
     /// The selected file. Files that no longer exist are removed from the list, and the next one is selected. Nothing
-    /// if none is left or none is selected.
+    /// if none is left or none is selected, or if its whole folder is gone, which is said: the list then stays.
     std::optional<std::string> existingSelection();
 
 Q_SIGNALS:
     /// The selected file is to be opened.
     void selected();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void selectionChanged();
+    int selectExisting();
+    bool isBeingTyped() const;
 
     Ui::ControlForm& ui;
+    const Surroundings& m_surroundings;
     bool& ControlsUpdating;
     const ShownFile& m_file;
     FoundFiles m_found;
-    QTimer m_selection; ///< fires when a selection in the list has settled
+    QTimer m_selection;    ///< fires when a selection in the list has settled
+    QElapsedTimer m_typed; ///< since the last letter
 };
 
 } // namespace ovisto

@@ -4,7 +4,6 @@
 #include "ui/App/Text.h"
 #include "ui/BrowserCapForm/BrowserCapForm.h"
 #include "ui/ControlForm/FailureMessages.h"
-#include "ui/ControlForm/NamedFiles.h"
 #include "ui/ControlForm/ScanReports.h"
 #include "ui/ProgressForm/ProgressForm.h"
 
@@ -44,7 +43,7 @@ void FileSearch::scanFolder()
         progress.show();
         scan->run(found, progress, reports);
     });
-    listFiles(std::move(found), reports);
+    listFiles({std::move(found), {}}, reports);
 }
 
 void FileSearch::findFilesAmong(const std::vector<std::string>& names)
@@ -53,11 +52,11 @@ void FileSearch::findFilesAmong(const std::vector<std::string>& names)
         return;
     ScanOptions options = scanOptions(settings);
     options.content = {};
-    std::vector<std::string> found;
+    NamedFiles files;
     clearList();
     ScanReports reports(m_parts.reporter);
-    runWatched(m_parts.window, [&](ProgressForm& progress) { found = namedFiles(names, options, progress, reports); });
-    listFiles(std::move(found), reports);
+    runWatched(m_parts.window, [&](ProgressForm& progress) { files = namedFiles(names, options, progress, reports); });
+    listFiles(std::move(files), reports);
 }
 
 /// Takes all files out of the list, unless those to be found are to be added to them.
@@ -67,16 +66,18 @@ void FileSearch::clearList()
         m_editor.list().clear();
 }
 
-void FileSearch::listFiles(std::vector<std::string> found, const ScanReports& reports)
+void FileSearch::listFiles(NamedFiles files, const ScanReports& reports)
 {
+    if (!files.missing.empty())
+        m_parts.surroundings.dialogs.show(missingMessage(files.missing));
     if (!reports.notReadToo().empty())
         m_parts.surroundings.dialogs.show(notReadMessage(reports.notReadToo()));
     FileListPane& list = m_editor.list();
-    list.append(std::move(found));
+    list.append(std::move(files.found));
     if (list.files().rowCount() > 0)
         list.open(0); // which leaves none when none of them is there any more
-    if (list.files().rowCount() == 0)
-        m_parts.surroundings.dialogs.show(toQString(Message::NoFilesFound));
+    if (list.files().rowCount() == 0 && files.missing.empty())
+        m_parts.surroundings.dialogs.inform(toQString(Message::NoFilesFound));
     list.showCount();
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/App/ScanSettings.h"
 #include "ui/ControlForm/Editor.h"
+#include "ui/ControlForm/NamedFiles.h"
 #include "ui/ControlForm/WindowParts.h"
 
 #include <string>
@@ -27,7 +28,7 @@ public:
 private:
     void scanFolder();
     void clearList();
-    void listFiles(std::vector<std::string> found, const ScanReports& reports);
+    void listFiles(NamedFiles files, const ScanReports& reports);
 
     const WindowParts& m_parts;
     Editor& m_editor;

@@ -42,10 +42,10 @@ std::string fullPath(const std::string& name)
 
 } // namespace
 
-std::vector<std::string> namedFiles(const std::vector<std::string>& names, const ScanOptions& options,
-                                    Progress& progress, ErrorReporter& reporter)
+NamedFiles namedFiles(const std::vector<std::string>& names, const ScanOptions& options, Progress& progress,
+                      ErrorReporter& reporter)
 {
-    std::vector<std::string> found;
+    NamedFiles files;
     ScanOptions folderOptions = options;
     folderOptions.append = true;
     RememberingProgress remembering(progress);
@@ -54,16 +54,17 @@ std::vector<std::string> namedFiles(const std::vector<std::string>& names, const
             break;
         std::error_code unknown;
         folderOptions.folder = fullPath(name);
-        if (!fs::is_directory(name, unknown)) {
-            found.push_back(folderOptions.folder);
+        const fs::file_type type = fs::status(name, unknown).type();
+        if (type != fs::file_type::directory) {
+            (type == fs::file_type::not_found ? files.missing : files.found).push_back(folderOptions.folder);
             continue;
         }
         ErrorTrap trap;
-        trap.run([&] { FolderScan(folderOptions).run(found, remembering, reporter); });
+        trap.run([&] { FolderScan(folderOptions).run(files.found, remembering, reporter); });
         if (trap.pending())
             ErrorReport(reporter, folderOptions.folder, trap.take());
     }
-    return found;
+    return files;
 }
 
 } // namespace ovisto

@@ -4,6 +4,7 @@
 #include "ui/App/Text.h"
 #include "ui/ControlForm/TextBox.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace ovisto {
@@ -60,6 +61,17 @@ void OsPane::ditto()
         leave(osBox);
     }
     m_file.MarkChanged();
+}
+
+bool OsPane::focusBoxOf(const std::string& nodePath)
+{
+    const auto property = osPropertyAt(nodePath);
+    const auto found =
+        std::ranges::find(m_osBoxes, property, [](const OsBox& each) { return std::optional(each.property); });
+    if (found == m_osBoxes.end())
+        return false;
+    found->box->setFocus();
+    return true;
 }
 
 void OsPane::insertKeyword(const QString& keyword)

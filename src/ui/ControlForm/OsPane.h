@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <array>
+#include <string>
 
 namespace ovisto {
 
@@ -22,6 +23,9 @@ public:
     void clear();
     /// Keeps what the boxes show for "Ditto".
     void keepTexts();
+
+    /// Puts the caret into the box of the property at a node path. Returns false if it is none of these properties.
+    bool focusBoxOf(const std::string& nodePath);
 
     /// Inserts a keyword into the Keywords box at the caret.
     void insertKeyword(const QString& keyword);

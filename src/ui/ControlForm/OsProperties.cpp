@@ -43,6 +43,15 @@ std::string replaced(const std::string& text, const std::string& from, const std
 
 } // namespace
 
+std::optional<OsProperty> osPropertyAt(const std::string& nodePath)
+{
+    for (const Row& row : kRows) {
+        if (nodePath == row.path)
+            return row.property;
+    }
+    return std::nullopt;
+}
+
 XmlNode* OsProperties::nodeOf(const std::string& path)
 {
     for (const Row& row : kRows) {

@@ -4,6 +4,7 @@
 #include "common/xml/XmlDocument.h"
 #include "document/TagDictionary.h"
 
+#include <optional>
 #include <string>
 
 namespace ovisto {
@@ -33,6 +34,9 @@ public:
     bool leave(OsProperty property, const std::string& boxText, XmlDocument& JpegDoc, const TagDictionary& Merovel,
                ErrorReporter& reporter);
 };
+
+/// The property whose node has this path; nothing if it is another node's.
+std::optional<OsProperty> osPropertyAt(const std::string& nodePath);
 
 /// `text` with each line break that is LF or CR LF as CR LF (withCrLf) or as LF (withLf).
 std::string withCrLf(const std::string& text);

@@ -55,7 +55,7 @@ void PropertyPane::clear()
 {
     CurrentNode = {};
     CurrentProt = Protection::Free;
-    ui.TreeStack->setCurrentWidget(ui.TreeHint);
+    showReason(tr("No properties to show."));
     ui.NodeTree->clear();
     ui.Image2->clear();
     ui.NodeID->clear();
@@ -66,6 +66,12 @@ void PropertyPane::clear()
     ui.ValueStack->setCurrentWidget(ui.NodeText);
     ui.ViewHexOpt->setChecked(false);
     ui.NodeDeleter->setEnabled(false);
+}
+
+void PropertyPane::showReason(const QString& reason)
+{
+    ui.TreeHint->setText(reason);
+    ui.TreeStack->setCurrentWidget(ui.TreeHint);
 }
 
 void PropertyPane::showTree(const std::vector<Leaf>& leaves)
@@ -118,15 +124,34 @@ QTreeWidgetItem* PropertyPane::selectedItem() const
     return selected.isEmpty() ? nullptr : selected.first();
 }
 
+/// The first item whose data of this role are `text`; null if there is none.
+QTreeWidgetItem* PropertyPane::itemWith(int role, const std::string& text) const
+{
+    for (QTreeWidgetItemIterator item(ui.NodeTree); *item != nullptr; ++item) {
+        if (textOf(**item, role) == text)
+            return *item;
+    }
+    return nullptr;
+}
+
 /// Removes the item with `key`, and those below it, from the tree.
 void PropertyPane::removeItem(const std::string& key)
 {
-    for (QTreeWidgetItemIterator item(ui.NodeTree); *item != nullptr; ++item) {
-        if (textOf(**item, kKeyRole) == key) {
-            delete *item;
-            return;
-        }
+    delete itemWith(kKeyRole, key);
+}
+
+void PropertyPane::select(const std::string& nodePath)
+{
+    QTreeWidgetItem* item = itemWith(kPathRole, nodePath);
+    if (item == nullptr)
+        return;
+    {
+        const QScopedValueRollback updating(ControlsUpdating, true);
+        ui.NodeTree->setCurrentItem(item);
+        ui.NodeTree->scrollToItem(item);
     }
+    nodeClicked(item);
+    (isLocked(CurrentProt) ? static_cast<QWidget*>(ui.NodeTree) : ui.NodeText)->setFocus();
 }
 
 void PropertyPane::selectionChanged()
@@ -234,7 +259,7 @@ void PropertyPane::nodeTextChanged()
 {
     showWarning();
     if (canEdit() && !CurrentNode)
-        m_parts.surroundings.dialogs.show(tr("Click on a node in the property NodeTree to select a value first."));
+        m_parts.surroundings.dialogs.inform(tr("Click on a node in the property NodeTree to select a value first."));
 }
 
 /// Says below the box what the value would lose when it is written.
@@ -263,7 +288,7 @@ void PropertyPane::addNode()
         [this](const DictionaryEntry& entry) { return m_file.addNode(entry); }, &m_parts.window);
     form.exec();
     if (!form.NodeAddedXpath.empty())
-        Q_EMIT nodeAdded();
+        Q_EMIT nodeAdded(form.NodeAddedXpath);
 }
 
 void PropertyPane::deleteNode()

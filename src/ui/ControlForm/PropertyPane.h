@@ -21,9 +21,14 @@ public:
     /// Fills the tree, which must be empty, and selects the node that was selected last, possibly in another file.
     void showTree(const std::vector<Leaf>& leaves);
 
+    /// Shows in place of the tree why there is none.
+    void showReason(const QString& reason);
+    /// Selects the node at a path, and puts the caret into its box. Nothing happens if the tree does not show it.
+    void select(const std::string& nodePath);
+
 Q_SIGNALS:
-    /// A node was added; show the tree again.
-    void nodeAdded();
+    /// A node was added; show the tree again, and this node in it.
+    void nodeAdded(const std::string& nodePath);
     /// A node was deleted with all below it; show the OS properties again.
     void nodeDeleted();
 
@@ -32,6 +37,7 @@ private:
     std::string LeafXPathForItem(const QTreeWidgetItem& item) const;
     XmlNode DocNodeForItem(const QTreeWidgetItem& item);
     QTreeWidgetItem* selectedItem() const;
+    QTreeWidgetItem* itemWith(int role, const std::string& text) const;
     void removeItem(const std::string& key);
 
     void selectionChanged();

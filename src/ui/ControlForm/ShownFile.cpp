@@ -1,12 +1,15 @@
 #include "ui/ControlForm/ShownFile.h"
 
 #include "collection/XmlExport.h"
-#include "common/KeptReports.h"
 #include "common/xml/XmlLoad.h"
 #include "document/NodePath.h"
 #include "document/NodeValue.h"
 
+#include <algorithm>
+
 namespace ovisto {
+
+using SaveResult = ShownFile::SaveResult;
 
 ShownFile::ShownFile(const TagDictionary& Merovel, ErrorReporter& reporter, Window& window)
     : m_merovel(Merovel), m_reporter(reporter), m_window(window)
@@ -30,18 +33,26 @@ void ShownFile::open(const std::string& path, const KeepOptions& keep, WritingWa
     });
     if (opening.pending())
         translation.error = opening.take();
-    if (translation.ChangesMade)
-        MarkChanged();
+    KeptReports reports;
     if (translation.error)
-        ErrorReport(m_reporter, "", *translation.error);
+        ErrorReport(reports, "", *translation.error);
     m_osProperties = {};
     ErrorTrap trap;
     trap.run([&] {
         if (const auto error = JpegDoc.loadText(translation.text))
-            ErrorReport(m_reporter, parseErrorText(*error), {});
+            ErrorReport(reports, parseErrorText(*error), {});
     });
     if (trap.pending())
-        ErrorReport(m_reporter, "loadXML", trap.take());
+        ErrorReport(reports, "loadXML", trap.take());
+    m_whyUnreadable.reset();
+    if (!reports.all().empty()) {
+        const auto& [context, error] = reports.all().front(); // the others only say what follows from it
+        ErrorReport(m_reporter, context, error);
+        if (!JpegDoc.documentElement())
+            m_whyUnreadable = error.description.isEmpty() ? context : error.description;
+    }
+    if (translation.ChangesMade && !m_whyUnreadable)
+        MarkChanged();
 }
 
 void ShownFile::close()
@@ -49,6 +60,7 @@ void ShownFile::close()
     m_osProperties = {};
     JpegDoc = XmlDocument();
     CurrentFileName.clear();
+    m_whyUnreadable.reset();
 }
 
 std::vector<Leaf> ShownFile::loadTree(bool technical)
@@ -131,38 +143,70 @@ void ShownFile::MarkChanged()
 void ShownFile::clearChanged()
 {
     ChangesMade = false;
+    m_askFirst = false;
     m_window.showChanged(false);
 }
 
-ShownFile::SaveResult ShownFile::OfferSave(bool ask)
+SaveResult ShownFile::OfferSave(bool ask)
 {
     if (!ChangesMade)
         return SaveResult::NotSaved;
-    if (ask && !m_window.wantsToSave(CurrentFileName)) {
+    if ((ask || m_askFirst) && !m_window.wantsToSave(CurrentFileName)) {
         clearChanged();
         return SaveResult::NotSaved;
     }
     return SaveDocument();
 }
 
-ShownFile::SaveResult ShownFile::SaveDocument()
+SaveResult ShownFile::SaveDocument()
 {
     KeptReports reports;
     const auto error =
         errorOfSave([&] { return saveDocument(JpegDoc, m_asRead, CurrentFileName, savingWay(), reports); });
     if (error && isFileWasChanged(*error))
         return settleOtherChange();
-    reports.passTo(m_reporter);
-    return error ? SaveResult::Failed : SaveResult::Saved;
+    return concludeSave(error, reports);
 }
 
-ShownFile::SaveResult ShownFile::settleOtherChange()
+/// Reports what is worth knowing. One failure causes several reports, and the one that names a node says most.
+SaveResult ShownFile::concludeSave(const std::optional<Error>& error, const KeptReports& reports)
+{
+    if (!error) {
+        reports.passTo(m_reporter);
+        return SaveResult::Saved;
+    }
+    const auto namesNode = [](const auto& report) { return !report.second.node.empty(); };
+    const auto named = std::ranges::find_if(reports.all(), namesNode);
+    if (named != reports.all().end()) {
+        const Error& failure = named->second;
+        const auto& details = failure.description.details();
+        const bool namesEntry = failure.description.message() == Message::InContext;
+        m_window.showFailedNode(failure.node);
+        ErrorReport(m_reporter, {Message::PropertyNotSaved, labelOf(failure.node), CurrentFileName},
+                    {failure.number, namesEntry ? details.back() : failure.description});
+    } else if (!reports.all().empty()) {
+        ErrorReport(m_reporter, reports.all().front().first, reports.all().front().second);
+    } else {
+        ErrorReport(m_reporter, CurrentFileName, *error);
+    }
+    return SaveResult::Failed;
+}
+
+/// What the window calls a node.
+std::string ShownFile::labelOf(const std::string& nodePath)
+{
+    const std::string label = m_merovel.entry(nodePath).label();
+    return label.empty() ? AttributeGet(node(nodePath), "label") : label;
+}
+
+SaveResult ShownFile::settleOtherChange()
 {
     switch (m_window.askAboutOtherChange(CurrentFileName)) {
-    case OtherChange::SaveOver:
-        return errorOfSave([&] { return saveOver(JpegDoc, CurrentFileName, savingWay(), m_reporter); })
-                   ? SaveResult::Failed
-                   : SaveResult::Saved;
+    case OtherChange::SaveOver: {
+        KeptReports reports;
+        return concludeSave(errorOfSave([&] { return saveOver(JpegDoc, CurrentFileName, savingWay(), reports); }),
+                            reports);
+    }
     case OtherChange::ReadAgain:
         clearChanged();
         return SaveResult::GivenUp;
@@ -182,19 +226,22 @@ std::optional<Error> ShownFile::errorOfSave(const std::function<SaveReceipt()>& 
     trap.run([&] { receipt = save(); });
     // The mark goes whatever became of the save; but what was typed and is not in the file is marked again.
     clearChanged();
-    if (trap.pending() && wasChanged)
+    if (trap.pending() && wasChanged) {
         MarkChanged();
+        m_askFirst = true;
+    }
     m_window.showBusy(false);
     m_window.showSaved(CurrentFileName, receipt);
     return trap.pending() ? std::optional(trap.take()) : std::nullopt;
 }
 
-void ShownFile::saveXml()
+bool ShownFile::saveXml()
 {
     m_window.showBusy(true);
     ErrorTrap trap; // what goes wrong has been reported when it gets here
     trap.run([&] { exportDocument(JpegDoc, CurrentFileName, m_reporter); });
     m_window.showBusy(false);
+    return !trap.pending();
 }
 
 ChangeResult ShownFile::apply(const NodeChange& change)

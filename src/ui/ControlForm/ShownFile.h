@@ -3,6 +3,7 @@
 #include "collection/DocumentSaving.h"
 #include "collection/PrivateData.h"
 #include "common/ErrorReport.h"
+#include "common/KeptReports.h"
 #include "common/xml/XmlDocument.h"
 #include "document/NodeChange.h"
 #include "document/TagDictionary.h"
@@ -46,6 +47,8 @@ public:
         virtual void showChanged(bool changed) = 0;
         /// Shows whether the program is busy writing the file.
         virtual void showBusy(bool busy) = 0;
+        /// Shows the node at a path, which could not be saved.
+        virtual void showFailedNode(const std::string& nodePath) = 0;
         /// Shows what became of the file at `path` by a save; nothing if it could not be saved.
         virtual void showSaved(const std::string& path, const std::optional<SaveReceipt>& receipt) = 0;
     };
@@ -68,9 +71,12 @@ public:
     /// The node that an XPath expression selects; to be changed by setText() and deleteNode() only.
     XmlNode node(const std::string& xpath) { return JpegDoc.selectSingleNode(xpath); }
     bool isChanged() const { return ChangesMade; }
+    /// Why the file has no document, which was reported. Nothing if it has one.
+    const std::optional<Phrase>& whyUnreadable() const { return m_whyUnreadable; }
 
     /// Opens the file at `path`, discarding the one shown before. It counts as changed if `keep` leaves out something
-    /// that it holds. If it cannot be read in full, the document has what could be read. It will be saved in this way.
+    /// that it holds. If it cannot be read in full, the document has what could be read, if anything: the first failure
+    /// is reported. It will be saved in this way.
     void open(const std::string& path, const KeepOptions& keep, WritingWay way);
     /// Closes the file, discarding its changes.
     void close();
@@ -107,18 +113,21 @@ public:
 
     // Saving
 
-    /// Saves the file if it is changed; with `ask`, only if the user says so, and otherwise gives up the changes.
+    /// Saves the file if it is changed; with `ask`, or if that failed before, only if the user says so, and otherwise
+    /// gives up the changes.
     SaveResult OfferSave(bool ask);
-    /// Saves the file, changed or not. If that fails, changes still count as changes. What another program made of the
-    /// file since it was opened is overwritten only if the user says so. Open it again after a save, because its image
-    /// data may have moved.
+    /// Saves the file, changed or not. If that fails, it is reported once, and changes still count as changes. What
+    /// another program made of the file since it was opened is overwritten only if the user says so. Open it again
+    /// after a save, because its image data may have moved.
     SaveResult SaveDocument();
-    /// Exports the document to an XML file beside the photograph.
-    void saveXml();
+    /// Exports the document to an XML file beside the photograph. Returns whether that worked; if not, it was reported.
+    bool saveXml();
 
 private:
     ChangeResult apply(const NodeChange& change);
     SaveResult settleOtherChange();
+    SaveResult concludeSave(const std::optional<Error>& error, const KeptReports& reports);
+    std::string labelOf(const std::string& nodePath);
     SavingWay savingWay() const { return {.writing = m_way, .isSpared = {}, .clearance = m_clearance}; }
     std::optional<Error> errorOfSave(const std::function<SaveReceipt()>& save);
 
@@ -128,9 +137,11 @@ private:
     XmlDocument JpegDoc;
     std::string CurrentFileName;
     WritingWay m_way = WritingWay::Keep;
-    FileIdentity m_asRead;    ///< the file that JpegDoc was read from
+    FileIdentity m_asRead; ///< the file that JpegDoc was read from
+    std::optional<Phrase> m_whyUnreadable;
     Clearance m_clearance;    ///< what the next save takes away beside
     bool ChangesMade = false; ///< JpegDoc differs from the file
+    bool m_askFirst = false;  ///< they could not be saved, so they are never saved unasked
     OsProperties m_osProperties;
 };
 

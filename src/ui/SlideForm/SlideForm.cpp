@@ -156,9 +156,9 @@ void SlideForm::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Space:
         return event->isAutoRepeat() ? void() : pause();
     default:
-        return m_surroundings.dialogs.show(tr("Press ESC or click the image to exit show,\r\n"
-                                              "left/right arrow to skip slides,\r\n"
-                                              "space to pause/unpause."));
+        return m_surroundings.dialogs.inform(tr("Press ESC or click the image to exit show,\r\n"
+                                                "left/right arrow to skip slides,\r\n"
+                                                "space to pause/unpause."));
     }
 }
 
