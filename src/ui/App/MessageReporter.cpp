@@ -26,7 +26,7 @@ constexpr Advice kAdvice[] = {
     {kPermissionDenied, QT_TRANSLATE_NOOP("Advice", "Check the permissions of the file and of its folder.")},
     {kPathNotFound, QT_TRANSLATE_NOOP("Advice", "Check that the disk or card is connected, and that the folder was not "
                                                 "renamed.")},
-    {kStructureError, QT_TRANSLATE_NOOP("Advice", "The file is no JPEG photograph, or it is damaged. If it was one, "
+    {kStructureError, QT_TRANSLATE_NOOP("Advice", "The file is not a JPEG photograph, or it is damaged. If it was one, "
                                                   "restore it from your backup.")},
 };
 

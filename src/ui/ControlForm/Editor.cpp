@@ -66,12 +66,12 @@ void Editor::OpenSelectedFile()
     m_list.settle();
     if (!leaveShownFile())
         return;
+    m_savedLine.opening();
     const auto path = m_list.existingSelection();
     if (!path)
         return;
     const QScopedValueRollback updating(ControlsUpdating, true);
     m_parts.window.setWindowTitle(windowTitle(*path));
-    m_savedLine.opening();
     m_leftOutLine.opening();
     m_file.open(*path, keepOptions(), writingWay());
     if (const auto& reason = m_file.whyUnreadable())
