@@ -682,9 +682,10 @@ private Q_SLOTS:
             drop(window, window.path("night.jpg"));
             QCOMPARE(window.title(), u"night.jpg[*] - Ovisto"_s);
         }
-        const std::string name = window.path("100%25 \xE9.jpg"); // a byte that is no UTF-8
+        const std::string name = window.folder().toStdString() + "/100%25 \xE9.jpg"; // a byte that is no UTF-8
         std::filesystem::copy(window.path("night.jpg"), name);
         drop(window, name);
+        QCOMPARE(window.title(), u"100%25 \uFFFD.jpg[*] - Ovisto"_s);
         QVERIFY(window.isEnabled("FileSaver") && window.dialogs.messages.isEmpty());
     }
 
