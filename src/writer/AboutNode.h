@@ -18,7 +18,7 @@ template <class Step> void aboutNode(const ConstXmlNode& node, Step&& step)
     Error error = trap.take();
     if (error.node.empty() && !isOfSystem(error))
         error.node = NodeXPath(node);
-    throw error;
+    throw Error(error);
 }
 
 } // namespace ovisto

@@ -66,7 +66,7 @@ void OsPane::ditto()
 bool OsPane::focusBoxOf(const std::string& nodePath)
 {
     const auto property = osPropertyAt(nodePath);
-    const auto found =
+    const auto* const found =
         std::ranges::find(m_osBoxes, property, [](const OsBox& each) { return std::optional(each.property); });
     if (found == m_osBoxes.end())
         return false;
