@@ -246,6 +246,7 @@ struct Measure {
 constexpr Measure kMeasures[] = {
     {"millimetres", Message::ValueMillimetres, 2, 0.01, 1e5},
     {"metres", Message::ValueMetres, 2, -1e6, 1e7},
+    {"distance", Message::ValueMetres, 2, 0, 1e7},
     {"seconds", Message::ValueSeconds, 2, 0, 1e6},
     {"degrees", Message::ValueDegrees, 2, -360, 360},
     {"celsius", Message::ValueCelsius, 1, -300, 1e5},
@@ -258,7 +259,7 @@ Text measureText(const Value& value)
 {
     const std::string format = value.entry.format();
     const auto* measure = std::ranges::find(kMeasures, format, &Measure::format);
-    if (measure->message == Message::ValueMetres && isInfinite(value.raw))
+    if (format == "distance" && isInfinite(value.raw))
         return value.words.phrase(Message::ValueInfinite);
     const auto number = numberOf(value.raw);
     if (!number || !(*number >= measure->least && *number <= measure->most))
@@ -462,6 +463,7 @@ constexpr Format kFormats[] = {
     {"apex-brightness", Takes::Numbers, measureText},
     {"millimetres", Takes::Numbers, measureText},
     {"metres", Takes::Numbers, measureText},
+    {"distance", Takes::Numbers, measureText},
     {"seconds", Takes::Numbers, measureText},
     {"degrees", Takes::Numbers, measureText},
     {"celsius", Takes::Numbers, measureText},
