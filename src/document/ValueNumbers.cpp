@@ -53,6 +53,7 @@ std::optional<std::vector<std::optional<double>>> numbersOf(std::string_view tex
     if (pieces.size() != count)
         return std::nullopt;
     std::vector<std::optional<double>> numbers;
+    numbers.reserve(count);
     for (const std::string_view piece : pieces)
         numbers.push_back(numberOf(piece));
     return numbers;

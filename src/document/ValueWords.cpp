@@ -1,5 +1,6 @@
 #include "document/ValueWords.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -42,7 +43,7 @@ std::string grouped(std::string text)
 }
 
 /// A whole number, or one with decimals, whose whole part has at least `digits`.
-std::string padded(std::string number, std::size_t digits)
+std::string padded(const std::string& number, std::size_t digits)
 {
     const std::size_t whole = std::min(number.find('.'), number.size());
     return std::string(digits > whole ? digits - whole : 0, '0') + number;
