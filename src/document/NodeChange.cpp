@@ -141,7 +141,8 @@ Phrase objection(const NodeChange& change, Reading reading)
         return lossOf(*lost, change.entry.label());
     if (reading == Reading::Basic && readingNeeded(pathOf(change)) == Reading::Full)
         return Message::NodeOfFullReading;
-    if (change.action == NodeAction::Set && change.entry && !change.entry.hasDataType())
+    const bool hasValue = change.entry.hasDataType() && !isDirectory(change.entry.node());
+    if (change.action == NodeAction::Set && change.entry && !hasValue)
         return Message::NoDataType;
     if (isPartOfImage(change.entry)) {
         const bool mayBeSurplus = change.action == NodeAction::Delete && change.entry.node().name() == kSegmentName;

@@ -8,10 +8,15 @@
 
 namespace ovisto {
 
-bool holdsNodes(const ConstXmlNode& node)
+bool isDirectory(const ConstXmlNode& node)
 {
     const ExifPart* part = exifPart(node.name());
-    return (part != nullptr && part->kind == PartKind::Directory) || !node.childElements().empty();
+    return part != nullptr && part->kind == PartKind::Directory;
+}
+
+bool holdsNodes(const ConstXmlNode& node)
+{
+    return isDirectory(node) || !node.childElements().empty();
 }
 
 bool isSegmentText(const ConstXmlNode& node)

@@ -8,6 +8,9 @@ namespace ovisto {
 
 // The value of a node, as people see and set it.
 
+/// Whether the node is there to hold others, in a document or in the dictionary.
+bool isDirectory(const ConstXmlNode& node);
+
 /// Whether the node holds other nodes, or is there to hold them, such as a directory. It has no value to be set.
 bool holdsNodes(const ConstXmlNode& node);
 

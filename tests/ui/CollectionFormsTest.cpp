@@ -439,7 +439,7 @@ private Q_SLOTS:
         window.click("BatchShower"); // which closes the file
         QCOMPARE(window.title(), u"Ovisto[*]"_s);
         press(form, "FormCanceller");
-        QCOMPARE(window.title(), u"4.jpg[*]"_s);
+        QCOMPARE(window.title(), u"4.jpg[*] - Ovisto"_s);
     }
 
     void showsNotEveryOneOfManyFiles()

@@ -8,6 +8,7 @@
 #include "ui/NodeAddForm/NodeAddForm.h"
 #include "ui/PrivateForm/PrivateForm.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QDropEvent>
 #include <QFile>
@@ -68,6 +69,44 @@ class ControlFormTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void saysWhatValuesMean()
+    {
+        Window window{"big-endian.jpg"};
+        const char* const kOrientation = "/JPEG/Exif[@id='FFE1']/IFD[@id='0112']";
+        const auto shown = [&] { return window.item(kOrientation)->text(1); };
+        QCOMPARE(shown(), u"upright (1)"_s);
+        window.select(kOrientation);
+        auto& choice = window.control<QComboBox>("NodeChoice");
+        QVERIFY(choice.isVisible() && choice.count() == 8 && choice.currentText() == u"1: upright"_s);
+        QCOMPARE(window.text("NodeLine"), u"1: upright"_s);
+        window.control<TextBox>("NodeText").setFocus();
+        window.control<TextBox>("NodeText").selectAll();
+        QTest::keyClicks(&window.control<TextBox>("NodeText"), u"6"_s);
+        QVERIFY(choice.currentText() == u"6: turned right"_s && window.text("NodeLine") == u"6: turned right"_s);
+        QCOMPARE(shown(), u"upright (1)"_s); // not left yet
+        window.visit("NodeText");
+        QCOMPARE(shown(), u"turned right (6)"_s);
+        QCOMPARE(window.item(kOrientation)->data(0, Qt::AccessibleTextRole).toString(),
+                 u"Orientation: turned right (6)"_s);
+
+        qWarning("before %d", choice.currentIndex()); choice.setFocus();
+        qWarning("focus %d", choice.currentIndex()); QTest::keyClick(&choice, Qt::Key_Down);
+        qWarning("after %d", choice.currentIndex());
+        QCOMPARE(window.text("NodeText") + shown(), u"7mirrored left to right, then turned right (7)"_s);
+        window.click("FileSaver");
+        QCOMPARE(inFile(window.path("big-endian.jpg"), kOrientation), "7");
+
+        // A name without a list, a locked value, and a box that nothing is shown in.
+        for (const char* path : {kDescription, kExifIfd}) {
+            window.select(path);
+            QVERIFY(!choice.isVisible() && !window.isVisible("NodeLine"));
+        }
+        window.control<QTreeWidget>("NodeTree").setColumnWidth(0, 123);
+        window.close();
+        window.open({window.path("big-endian.jpg")});
+        QCOMPARE(window.control<QTreeWidget>("NodeTree").columnWidth(0), 123);
+    }
+
     void deletesWhatTells()
     {
         Window window;

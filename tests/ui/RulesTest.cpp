@@ -4,6 +4,7 @@
 #include "common/Error.h"
 #include "common/system/File.h"
 #include "ui/App/FoundFiles.h"
+#include "ui/App/LocaleWords.h"
 #include "ui/App/PictureFit.h"
 #include "ui/App/Placement.h"
 #include "ui/App/ScanSettings.h"
@@ -15,6 +16,7 @@
 #include "ui/ControlForm/NodeInspection.h"
 #include "ui/ControlForm/ScanReports.h"
 #include "ui/ControlForm/TextBox.h"
+#include "ui/ControlForm/ValueLine.h"
 
 #include <QAbstractItemModelTester>
 #include <QDir>
@@ -26,6 +28,8 @@ namespace ovisto::test {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr const char* kDescription = "/JPEG/Exif[@id='FFE1']/IFD[@id='010E']";
 
 class RulesTest : public QObject {
     Q_OBJECT
@@ -60,8 +64,8 @@ private Q_SLOTS:
                      {"Exif1", 2, "\nx"},
                      {"IFDE", 7, ""}};
         for (const auto& c : cases)
-            QCOMPARE(valueText(JpegDoc.documentElement().childElement(c.element), c.dataType), std::string(c.text));
-        QCOMPARE(valueText(JpegDoc.documentElement(), 1), std::string());
+            QCOMPARE(boxValue(JpegDoc.documentElement().childElement(c.element), c.dataType), std::string(c.text));
+        QCOMPARE(boxValue(JpegDoc.documentElement(), 1), std::string());
     }
 
     void buildsTheTree()
@@ -77,7 +81,7 @@ private Q_SLOTS:
                          "<IFD id='0002'><IFD id='0003'/></IFD><IFD id='0004' label='old'>4</IFD></Exif><SOS/></JPEG>");
         const auto told = [&](bool technical) {
             QStringList leaves;
-            for (const Leaf& leaf : loadLeaves(JpegDoc, Merovel, technical).leaves)
+            for (const Leaf& leaf : loadLeaves(JpegDoc, Merovel, technical, englishValueWords()).leaves)
                 leaves << QString::fromStdString(leaf.key + "<" + leaf.parentKey + " " + leaf.label);
             return leaves;
         };
@@ -86,10 +90,11 @@ private Q_SLOTS:
         removeLeafKeys(JpegDoc);
         QCOMPARE(told(true).value(2), u"x000003<x000002 Technical"_s);
         QCOMPARE(JpegDoc.selectSingleNode(leafXPath("x000004")).text(), std::string("4"));
-        QCOMPARE(loadLeaves(JpegDoc, Merovel, false).osProperties.boxText(OsProperty::Title), std::string("Sunset"));
+        QCOMPARE(loadLeaves(JpegDoc, Merovel, false, englishValueWords()).osProperties.boxText(OsProperty::Title),
+                 std::string("Sunset"));
 
         XmlDocument nothing;
-        QCOMPARE(errorNumberOf([&] { loadLeaves(nothing, Merovel, false); }), kObjectNotSet);
+        QCOMPARE(errorNumberOf([&] { loadLeaves(nothing, Merovel, false, englishValueWords()); }), kObjectNotSet);
     }
 
     void givesBackTheTextPutIn()
@@ -191,6 +196,79 @@ private Q_SLOTS:
             QCOMPARE(typedFolder(QLatin1String(typed)), QDir::cleanPath(home.filePath(QLatin1String(below))));
     }
 
+    void saysBelowTheBoxWhatAValueMeans()
+    {
+        const TagDictionary Merovel(OVISTO_SOURCE_FOLDER "/data/Merovel.xml");
+        XmlDocument basic;
+        XmlDocument full;
+        const std::string exif = "<Exif id='FFE1'><IFD id='0112' d='3'>1</IFD><IFD id='010E' d='2'>Lake</IFD>"
+                                 "<IFDE><IFD id='829A' d='5'>1/60</IFD></IFDE></Exif></JPEG>";
+        basic.loadText("<JPEG>" + exif);
+        full.loadText("<JPEG reading='full'>" + exif);
+        const char* const kOrientation = "/JPEG/Exif[@id='FFE1']/IFD[@id='0112']";
+        const char* const kExposure = "/JPEG/Exif[@id='FFE1']/IFDE/IFD[@id='829A']";
+        const struct {
+            const char* path;
+            const char* typed;
+            const char* line;
+            bool isWarning;
+        } cases[] = {
+            {kOrientation, "6", "6: turned right", false},
+            {kOrientation, "99", "", false},
+            {kOrientation, "70000",
+             "Cannot be written: this takes whole numbers from 0 to 65535, with commas between several.", true},
+            {kOrientation, "",
+             "Cannot be written: this takes whole numbers from 0 to 65535, with commas between several.", true},
+            {kExposure, "1/125", "1/125 s", false},
+            {kExposure, "2/1,",
+             "Cannot be written: this takes fractions such as 1/125, of numbers up to 4294967295, with commas between "
+             "several.",
+             true},
+            {kDescription, "Lake", "", false},
+        };
+        for (const XmlDocument* document : {&basic, &full}) {
+            for (const auto& c : cases) {
+                const ValueLine line =
+                    valueLine(document->selectSingleNode(c.path), Merovel.entry(c.path), c.typed, englishValueWords());
+                QCOMPARE(line.text, QLatin1String(c.line));
+                QCOMPARE(line.isWarning, c.isWarning);
+            }
+        }
+        const auto loss = [&](const XmlDocument& document) {
+            return valueLine(document.selectSingleNode(kDescription), Merovel.entry(kDescription), "湖",
+                             englishValueWords());
+        };
+        QVERIFY(loss(basic).isWarning && loss(basic).text.contains(u"湖"_s));
+        QVERIFY(loss(full).text.isEmpty());
+    }
+
+    void saysValuesAsTheLocaleDoes()
+    {
+        using namespace std::chrono_literals;
+        const Moment morning{.date = 2023y / 5 / 14, .time = TimeOfDay{6, 42, 18}};
+        const struct {
+            const char* locale;
+            const char* number;
+            const char* moment;
+        } cases[] = {{"en_GB", "23,481.5", "14 May 2023, 06:42:18"},
+                     {"en_US", "23,481.5", "May 14, 2023, 6:42:18 AM"},
+                     {"de_DE", "23.481,5", "14. Mai 2023, 06:42:18"},
+                     {"hu_HU", "23 481,5", "2023. május 14., 6:42:18"},
+                     {"zh_CN", "23,481.5", "2023年5月14日, 06:42:18"}};
+        for (const auto& c : cases) {
+            const LocaleWords words{QLocale(QLatin1String(c.locale))};
+            const auto plain = [](const std::string& text) {
+                return QString::fromStdString(text).replace(QChar::Nbsp, u' ').replace(QChar(0x202F), u' ');
+            };
+            QCOMPARE(plain(words.number(23481.4996, 2)), QString::fromUtf8(c.number));
+            QCOMPARE(plain(words.moment(morning)), QString::fromUtf8(c.moment));
+        }
+        const LocaleWords english{QLocale(u"en_GB"_s)};
+        QCOMPARE(english.number(-0.001, 2), "0");
+        QCOMPARE(english.moment({.date = {}, .time = TimeOfDay{12, 3, 4.25}}), "12:03:04.250");
+        QCOMPARE(english.moment({.date = {}, .time = TimeOfDay{23, 59, 60}}), "23:59:60");
+    }
+
     void tellsWhatAReportLeavesOut()
     {
         std::vector<FileFailure> leftOut{{"/a.jpg", {kOpenFailed, "File open failure /a.jpg"}},
@@ -249,7 +327,7 @@ private Q_SLOTS:
         QVERIFY(scan == first);
         scan.SearchWords = u"sea, \"sand\""_s;
         scan.SubFolderScan = false;
-        scan.SearchAllWords = scan.SearchWordsWhole = scan.SearchRegExp = scan.ListAppend = true;
+        scan.SearchAllWords = scan.SearchWordsWhole = scan.SearchRegExp = scan.searchValues = scan.ListAppend = true;
         saveScanSettings(scan, settings);
         scan.SearchWordsWhole = scan.ListAppend = false;
         QVERIFY(loadScanSettings(settings, {}) == scan);

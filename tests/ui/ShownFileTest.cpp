@@ -58,7 +58,7 @@ struct Opened {
     }
     void loadTree()
     {
-        loadError = errorNumberOf([&] { leaves = file.loadTree(true); });
+        loadError = errorNumberOf([&] { leaves = file.loadTree(true, englishValueWords()); });
     }
     XmlNode node(const char* nodePath) { return file.node(nodePath); }
     std::string text(const char* nodePath) { return node(nodePath).text(); }

@@ -3,9 +3,11 @@
 #include "ui/App/WindowFrame.h"
 
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QScreen>
 #include <QSplitter>
 #include <QStringList>
+#include <QTreeView>
 #include <QWidget>
 
 #include <algorithm>
@@ -42,6 +44,16 @@ QString joined(const QList<int>& numbers)
 int area(const QRect& rectangle)
 {
     return rectangle.isEmpty() ? 0 : rectangle.width() * rectangle.height();
+}
+
+/// `count` sizes in pixels, as stored under `key`.
+QList<int> sizesLoad(const Settings& settings, const QString& key, qsizetype count, const QString& whenMissing)
+{
+    const QList<int> sizes = numbers(settings.GetSetting(key, whenMissing));
+    constexpr int kMostShown = 100'000; // pixels, more than any screen has
+    const auto isSize = [](int size) { return size > 0 && size < kMostShown; };
+    const bool sensible = sizes.size() == count && std::ranges::all_of(sizes, isSize);
+    return sensible ? sizes : numbers(whenMissing);
 }
 
 } // namespace
@@ -112,16 +124,27 @@ void PlacementSave(const QWidget& window, Settings& settings, const QString& key
 
 void splitterLoad(QSplitter& splitter, const Settings& settings, const QString& whenMissing)
 {
-    const QList<int> sizes = numbers(settings.GetSetting(splitter.objectName(), whenMissing));
-    constexpr int kMostShown = 100'000; // pixels, more than any screen has
-    const auto isSize = [](int size) { return size > 0 && size < kMostShown; };
-    const bool sensible = sizes.size() == splitter.count() && std::ranges::all_of(sizes, isSize);
-    splitter.setSizes(sensible ? sizes : numbers(whenMissing));
+    splitter.setSizes(sizesLoad(settings, splitter.objectName(), splitter.count(), whenMissing));
 }
 
 void splitterSave(const QSplitter& splitter, Settings& settings)
 {
     settings.SaveSetting(splitter.objectName(), joined(splitter.sizes()));
+}
+
+void columnsLoad(QTreeView& tree, const Settings& settings, const QString& whenMissing)
+{
+    const QList<int> sizes = sizesLoad(settings, tree.objectName(), tree.header()->count() - 1, whenMissing);
+    for (int column = 0; column < sizes.size(); ++column)
+        tree.setColumnWidth(column, sizes[column]);
+}
+
+void columnsSave(const QTreeView& tree, Settings& settings)
+{
+    QList<int> sizes;
+    for (int column = 0; column < tree.header()->count() - 1; ++column)
+        sizes.append(tree.columnWidth(column));
+    settings.SaveSetting(tree.objectName(), joined(sizes));
 }
 
 } // namespace ovisto

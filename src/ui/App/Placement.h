@@ -9,6 +9,7 @@
 #include <optional>
 
 class QSplitter;
+class QTreeView;
 class QWidget;
 
 namespace ovisto {
@@ -35,5 +36,9 @@ QRect movedOnto(const QList<QRect>& screens, const QRect& place);
 /// missing or invalid setting.
 void splitterLoad(QSplitter& splitter, const Settings& settings, const QString& whenMissing);
 void splitterSave(const QSplitter& splitter, Settings& settings);
+
+/// The widths of the columns of a tree but for the last, which gets the rest; in the same way.
+void columnsLoad(QTreeView& tree, const Settings& settings, const QString& whenMissing);
+void columnsSave(const QTreeView& tree, Settings& settings);
 
 } // namespace ovisto

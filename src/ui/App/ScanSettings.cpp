@@ -14,6 +14,7 @@ ScanSettings loadScanSettings(const Settings& settings, const QString& folder)
     scan.SearchAllWords = settings.choice(QStringLiteral("SearchAllWords"), false);
     scan.SearchWordsWhole = settings.choice(QStringLiteral("SearchWordsWhole"), false);
     scan.SearchRegExp = settings.choice(QStringLiteral("SearchRegExp"), false);
+    scan.searchValues = settings.choice(QStringLiteral("SearchValues"), false);
     return scan;
 }
 
@@ -27,9 +28,10 @@ void saveScanSettings(const ScanSettings& scan, Settings& settings)
     settings.saveChoice(QStringLiteral("SearchAllWords"), scan.SearchAllWords);
     settings.saveChoice(QStringLiteral("SearchAllWords"), scan.SearchAllWords);
     settings.saveChoice(QStringLiteral("SearchRegExp"), scan.SearchRegExp);
+    settings.saveChoice(QStringLiteral("SearchValues"), scan.searchValues);
 }
 
-ScanOptions scanOptions(const ScanSettings& scan)
+ScanOptions scanOptions(const ScanSettings& scan, const ValueTexts& values)
 {
     return {.folder = toPath(scan.FolderNameSelected),
             .patterns = scan.FilePattern.toStdString(),
@@ -38,7 +40,8 @@ ScanOptions scanOptions(const ScanSettings& scan)
             .content = {.words = scan.SearchWords.toStdString(),
                         .allWords = scan.SearchAllWords,
                         .wholeWords = scan.SearchWordsWhole,
-                        .regExp = scan.SearchRegExp}};
+                        .regExp = scan.SearchRegExp,
+                        .values = scan.searchValues ? values : ValueTexts()}};
 }
 
 } // namespace ovisto

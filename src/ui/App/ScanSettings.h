@@ -17,6 +17,7 @@ struct ScanSettings {
     bool SearchAllWords = false;
     bool SearchWordsWhole = false;
     bool SearchRegExp = false;
+    bool searchValues = false; ///< search the texts of values, too, as the property tree shows them
 
     bool operator==(const ScanSettings&) const = default;
 };
@@ -27,7 +28,7 @@ ScanSettings loadScanSettings(const Settings& settings, const QString& folder);
 
 void saveScanSettings(const ScanSettings& scan, Settings& settings);
 
-/// The scan that finds these files.
-ScanOptions scanOptions(const ScanSettings& scan);
+/// The scan that finds these files. `values` gives the texts of values.
+ScanOptions scanOptions(const ScanSettings& scan, const ValueTexts& values);
 
 } // namespace ovisto

@@ -35,6 +35,7 @@ void BrowserCapForm::setSettings(const ScanSettings& scan)
     ui.SearchAllWordsOpt->setChecked(scan.SearchAllWords);
     ui.SearchWordsWholeOpt->setChecked(scan.SearchWordsWhole);
     ui.SearchRegExpOpt->setChecked(scan.SearchRegExp);
+    ui.SearchValuesOpt->setChecked(scan.searchValues);
 }
 
 ScanSettings BrowserCapForm::settings() const
@@ -46,7 +47,8 @@ ScanSettings BrowserCapForm::settings() const
             .SearchWords = ui.SearchWords->text(),
             .SearchAllWords = ui.SearchAllWordsOpt->isChecked(),
             .SearchWordsWhole = ui.SearchWordsWholeOpt->isChecked(),
-            .SearchRegExp = ui.SearchRegExpOpt->isChecked()};
+            .SearchRegExp = ui.SearchRegExpOpt->isChecked(),
+            .searchValues = ui.SearchValuesOpt->isChecked()};
 }
 
 void BrowserCapForm::selectionChanged(const QString& folder)
@@ -72,7 +74,7 @@ void BrowserCapForm::folderTyped(const QString& text)
 /// Ends the choice, unless nothing can be searched for in the way chosen: what is listed stays until that is put right.
 void BrowserCapForm::selectFolder()
 {
-    const Phrase reason = objection(scanOptions(settings()).content);
+    const Phrase reason = objection(scanOptions(settings(), {}).content);
     if (reason.isEmpty())
         return accept();
     m_dialogs.show(toQString(reason));

@@ -144,6 +144,7 @@ void ControlForm::loadSettings()
     PlacementLoad(*this, settings, objectName(), QStringLiteral("0,0,11655,8505"));
     for (const SplitterSetting& setting : kSplitterSettings)
         splitterLoad(*(ui.*setting.splitter), settings, QLatin1String(setting.whenMissing));
+    columnsLoad(*ui.NodeTree, settings, QStringLiteral("150"));
     m_keywords.load(toPath(settings.GetSetting(QStringLiteral("Keywords"), folder + QStringLiteral("keywords.txt"))));
     m_search.settings = loadScanSettings(settings, folderWithoutSeparator);
     for (const OptionSetting& option : kOptionSettings)
@@ -156,6 +157,7 @@ void ControlForm::saveSettings()
     PlacementSave(*this, settings, objectName());
     for (const SplitterSetting& setting : kSplitterSettings)
         splitterSave(*(ui.*setting.splitter), settings);
+    columnsSave(*ui.NodeTree, settings);
     saveScanSettings(m_search.settings, settings);
     for (const OptionSetting& option : kOptionSettings)
         settings.saveChoice(QLatin1String(option.key), (ui.*option.item)->isChecked());

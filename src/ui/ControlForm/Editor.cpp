@@ -271,7 +271,7 @@ void Editor::RebuildTree()
     clearPanes();
     std::vector<Leaf> leaves;
     ErrorTrap trap;
-    trap.run([&] { leaves = m_file.loadTree(ui.menuShowTechnical->isChecked()); });
+    trap.run([&] { leaves = m_file.loadTree(ui.menuShowTechnical->isChecked(), m_properties.words()); });
     m_osPane.showTexts();
     if (trap.pending())
         return ErrorReport(m_parts.reporter, "Internal JpegXml document error", trap.take());
@@ -311,9 +311,9 @@ void Editor::clearPanes()
 void Editor::enableEditing(bool enabled)
 {
     const QScopedValueRollback updating(ControlsUpdating, true);
-    QWidget* const controls[] = {ui.FileTitle,      ui.FileSubject, ui.FileComments, ui.FileKeywords,
-                                 ui.FilePropPaster, ui.FileSaver,   ui.KeywordList,  ui.NodeTree,
-                                 ui.NodeText,       ui.NodeHelp,    ui.ViewHexOpt,   ui.NodeAdder};
+    QWidget* const controls[] = {ui.FileTitle, ui.FileSubject, ui.FileComments, ui.FileKeywords, ui.FilePropPaster,
+                                 ui.FileSaver, ui.KeywordList, ui.NodeTree,     ui.NodeText,     ui.NodeChoice,
+                                 ui.NodeHelp,  ui.ViewHexOpt,  ui.NodeAdder};
     for (QWidget* control : controls)
         control->setEnabled(enabled);
     for (QAction* item : {ui.menuFileSave, ui.menuFileSaveXML, ui.menuPrivate})

@@ -33,7 +33,7 @@ void FileSearch::scanFolder()
         return;
     std::optional<FolderScan> scan;
     ErrorTrap trap;
-    trap.run([&] { scan.emplace(scanOptions(settings)); });
+    trap.run([&] { scan.emplace(scanOptions(settings, values())); });
     if (trap.pending())
         return m_parts.surroundings.dialogs.show(toQString(Message::FolderNotFound));
     std::vector<std::string> found;
@@ -46,11 +46,16 @@ void FileSearch::scanFolder()
     listFiles({std::move(found), {}}, reports);
 }
 
+ValueTexts FileSearch::values() const
+{
+    return {.dictionary = &m_parts.Merovel, .words = &m_words};
+}
+
 void FileSearch::findFilesAmong(const std::vector<std::string>& names)
 {
     if (!m_editor.leaveShownFile())
         return;
-    ScanOptions options = scanOptions(settings);
+    ScanOptions options = scanOptions(settings, {});
     options.content = {};
     NamedFiles files;
     clearList();

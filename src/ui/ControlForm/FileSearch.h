@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/App/LocaleWords.h"
 #include "ui/App/ScanSettings.h"
 #include "ui/ControlForm/Editor.h"
 #include "ui/ControlForm/NamedFiles.h"
@@ -26,12 +27,14 @@ public:
     void findFilesAmong(const std::vector<std::string>& names);
 
 private:
+    ValueTexts values() const;
     void scanFolder();
     void clearList();
     void listFiles(NamedFiles files, const ScanReports& reports);
 
     const WindowParts& m_parts;
     Editor& m_editor;
+    LocaleWords m_words;
 };
 
 } // namespace ovisto

@@ -3,6 +3,7 @@
 #include "common/Error.h"
 #include "document/NodePath.h"
 #include "document/PropertyTree.h"
+#include "document/ValueText.h"
 
 #include <cstddef>
 
@@ -21,12 +22,13 @@ std::string leafKey(std::size_t LeafCounter)
 
 } // namespace
 
-LeafTree loadLeaves(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical)
+LeafTree loadLeaves(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical, const ValueWords& words)
 {
     if (!JpegDoc.documentElement())
         throw systemError(kObjectNotSet);
     LeafTree tree;
     std::size_t LeafCounter = 0;
+    const ValueTexts texts{.dictionary = &Merovel, .words = &words};
     for (const ShownNode<XmlNode>& item : propertyTree(JpegDoc, Merovel, technical)) {
         AttributeSet(item.node, "label", item.label);
         if (XmlNode* node = tree.osProperties.nodeOf(item.path)) {
@@ -35,7 +37,8 @@ LeafTree loadLeaves(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool tec
         }
         const std::string key = leafKey(++LeafCounter);
         AttributeSet(item.node, "leafIndex", key);
-        tree.leaves.push_back({key, AttributeGet(item.node.parent(), "leafIndex"), item.label, item.path});
+        tree.leaves.push_back(
+            {key, AttributeGet(item.node.parent(), "leafIndex"), item.label, texts.of(item.node), item.path});
     }
     return tree;
 }

@@ -2,6 +2,7 @@
 
 #include "common/xml/XmlDocument.h"
 #include "document/TagDictionary.h"
+#include "document/ValueWords.h"
 #include "ui/ControlForm/OsProperties.h"
 
 #include <string>
@@ -14,7 +15,8 @@ struct Leaf {
     std::string key;       ///< "x" and six digits; the node's "leafIndex"
     std::string parentKey; ///< the key of the parent item; empty for the top one
     std::string label;
-    std::string path; ///< the node's
+    std::string value; ///< what it means, for people; empty for a node without a value of its own
+    std::string path;  ///< the node's
 };
 
 /// A document as the window shows it: the items of a tree, parents first, and the OS properties, which have boxes of
@@ -24,9 +26,10 @@ struct LeafTree {
     OsProperties osProperties;
 };
 
-/// What the window shows of `JpegDoc`; technical nodes only with `technical`. Sets "label" and "leafIndex" (from
-/// x000001, in document order) on the nodes shown. Raises kObjectNotSet if the document has no root element.
-LeafTree loadLeaves(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical);
+/// What the window shows of `JpegDoc`, values in these words; technical nodes only with `technical`. Sets "label" and
+/// "leafIndex" (from x000001, in document order) on the nodes shown. Raises kObjectNotSet if the document has no root
+/// element.
+LeafTree loadLeaves(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool technical, const ValueWords& words);
 
 /// An XPath expression that selects the node of the item with `key`.
 std::string leafXPath(const std::string& key);

@@ -2,6 +2,7 @@
 
 #include "collection/BatchAction.h"
 #include "collection/Report.h"
+#include "ui/App/LocaleWords.h"
 #include "ui/App/Text.h"
 #include "ui/BatchForm/BatchForm.h"
 #include "ui/BatchForm/BatchWatch.h"
@@ -93,9 +94,11 @@ void ListActions::generateReport()
         dialogs.chooseFile(tr("Open Report"), pathText(folders.data), tr("XSL (*.xsl *.XSL);;All Files (*.*) (*)"));
     if (!styleSheet)
         return;
-    const ReportOptions options{
-        .styleSheet = toPath(*styleSheet), .folder = folders.writable, .keep = m_editor.keepOptions(),
-        .values = {.dictionary = &m_parts.Merovel}};
+    const LocaleWords words;
+    const ReportOptions options{.styleSheet = toPath(*styleSheet),
+                                .folder = folders.writable,
+                                .keep = m_editor.keepOptions(),
+                                .values = {.dictionary = &m_parts.Merovel, .words = &words}};
     ReportResult report;
     runWatched(m_parts.window, [&](ProgressForm& progress) {
         report = makeReport(m_editor.list().files().paths(), options, progress, m_parts.reporter);

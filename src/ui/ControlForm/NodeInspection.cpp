@@ -30,7 +30,7 @@ std::optional<QString> dataTypeCaption(std::string_view typeName, Protection pro
     return caption;
 }
 
-std::string valueText(const ConstXmlNode& node, int dataType)
+std::string boxValue(const ConstXmlNode& node, int dataType)
 {
     const bool isText = (dataType == kString || dataType == kUnicodeString) && !isSegmentText(node);
     return isText ? withCrLf(nodeValue(node)) : nodeValue(node);

@@ -26,7 +26,7 @@ constexpr bool isDeletable(Protection protection)
 std::optional<QString> dataTypeCaption(std::string_view typeName, Protection protection);
 
 /// The value of a node as the box first shows it. The lines of a text end with CR LF; those of a segment as they do.
-std::string valueText(const ConstXmlNode& node, int dataType);
+std::string boxValue(const ConstXmlNode& node, int dataType);
 
 /// The characters of the bytes in a hexadecimal text, for display only. Bytes 0 and 10 are dropped, 13 becomes CR LF,
 /// and any other byte below 32 except tab becomes character 140.

@@ -5,9 +5,11 @@
 #include "document/NodePath.h"
 #include "document/NodeValue.h"
 #include "document/PropertyTree.h"
+#include "document/ValueText.h"
 #include "ui/App/PictureFit.h"
 #include "ui/App/Text.h"
 #include "ui/ControlForm/NodeInspection.h"
+#include "ui/ControlForm/ValueLine.h"
 #include "ui/NodeAddForm/NodeAddForm.h"
 
 #include <QFontDatabase>
@@ -24,6 +26,8 @@ namespace {
 
 constexpr int kKeyRole = Qt::UserRole;      // the item's key, which is the node's "leafIndex"
 constexpr int kPathRole = Qt::UserRole + 1; // the node's path
+
+constexpr std::size_t kMostInTree = 80; // characters of a value
 
 constexpr QSize kLargestThumbnail(1024, 1024); // cameras make them 160 x 120
 
@@ -48,7 +52,11 @@ PropertyPane::PropertyPane(const WindowParts& parts, ShownFile& file)
     connect(ui.NodeText, &TextBox::textChanged, this, &PropertyPane::nodeTextChanged);
     connect(ui.NodeAdder, &QPushButton::clicked, this, &PropertyPane::addNode);
     connect(ui.NodeDeleter, &QPushButton::clicked, this, &PropertyPane::deleteNode);
+    connect(ui.NodeChoice, &QComboBox::activated, this, &PropertyPane::chooseValue);
     parts.boxes.add(*ui.NodeText, [this] { leaveNodeText(); });
+    m_treeWords.mostCharacters = kMostInTree;
+    ui.NodeChoice->hide();
+    ui.NodeLine->hide();
 }
 
 void PropertyPane::clear()
@@ -66,6 +74,7 @@ void PropertyPane::clear()
     ui.ValueStack->setCurrentWidget(ui.NodeText);
     ui.ViewHexOpt->setChecked(false);
     ui.NodeDeleter->setEnabled(false);
+    ui.NodeChoice->hide();
 }
 
 void PropertyPane::showReason(const QString& reason)
@@ -99,6 +108,7 @@ void PropertyPane::showTree(const std::vector<Leaf>& leaves)
 QTreeWidgetItem* PropertyPane::LoadLeaf(const Leaf& leaf, QTreeWidgetItem* parent)
 {
     auto* item = new QTreeWidgetItem(QStringList(toQString(leaf.label)));
+    showItemValue(*item, toQString(leaf.value));
     item->setData(0, kKeyRole, toQString(leaf.key));
     item->setData(0, kPathRole, toQString(leaf.path));
     if (parent != nullptr)
@@ -189,7 +199,7 @@ void PropertyPane::nodeClicked(const QTreeWidgetItem* item)
         loadThumbnail();
     const int dataType = shownDataType(CurrentNode);
     ui.ViewHexOpt->setChecked(dataType == kByte);
-    ui.NodeText->putText(toQString(valueText(CurrentNode, dataType)));
+    ui.NodeText->putText(toQString(boxValue(CurrentNode, dataType)));
     if (const auto caption = dataTypeCaption(shownDataTypeName(CurrentNode), CurrentProt))
         ui.NodeDataType->setText(*caption);
 }
@@ -201,6 +211,7 @@ void PropertyPane::showEntry(const DictionaryEntry& entry)
     ui.NodeDeleter->setEnabled(isDeletable(CurrentProt));
     ui.NodeText->setReadOnly(isLocked(CurrentProt));
     ui.NodeHelp->setPlainText(toQString(entry.help()));
+    offerValues(entry);
 }
 
 /// Shows the value as it is in the document, or, for reading, the characters or the picture that its digits stand for.
@@ -257,27 +268,72 @@ bool PropertyPane::canEdit() const
 
 void PropertyPane::nodeTextChanged()
 {
-    showWarning();
+    showLine();
     if (canEdit() && !CurrentNode)
         m_parts.surroundings.dialogs.inform(tr("Click on a node in the property NodeTree to select a value first."));
 }
 
-/// Says below the box what the value would lose when it is written.
-void PropertyPane::showWarning()
+/// Says below the box what the text in it means, or why it will not do.
+void PropertyPane::showLine()
 {
-    const bool isBasic = CurrentNode && readingOf(CurrentNode) == Reading::Basic && !ui.NodeText->isReadOnly();
-    const auto lost =
-        isBasic ? characterLost(shownDataType(CurrentNode), ui.NodeText->exactText().toStdString()) : std::nullopt;
-    ui.NodeWarning->setVisible(lost.has_value());
-    ui.NodeWarning->setText(lost ? toQString(lossOf(*lost, m_parts.Merovel.entry(CurrentXPath).label())) : QString());
+    const bool isShown = CurrentNode && !holdsNodes(CurrentNode);
+    const bool isLockedValue = ui.NodeText->isReadOnly();
+    const std::string text = isLockedValue ? nodeValue(CurrentNode) : ui.NodeText->exactText().toStdString();
+    const ValueLine line =
+        isShown ? valueLine(CurrentNode, m_parts.Merovel.entry(CurrentXPath), text, m_words) : ValueLine();
+    const int row = ui.NodeChoice->findData(toQString(text));
+    ui.NodeChoice->setCurrentIndex(row);
+    ui.NodeLine->setText(line.text);
+    ui.NodeLine->setVisible(!line.text.isEmpty());
+    QFont font = m_parts.window.font();
+    font.setBold(line.isWarning);
+    ui.NodeLine->setFont(font);
+}
+
+/// Lists the values that the entry names.
+void PropertyPane::offerValues(const DictionaryEntry& entry)
+{
+    ui.NodeChoice->clear();
+    if (!isLocked(CurrentProt)) {
+        for (const EnumeratedValue& value : enumeratedValues(entry, readingOf(CurrentNode)))
+            ui.NodeChoice->addItem(toQString(value.raw + ": " + value.text), toQString(value.raw));
+    }
+    ui.NodeChoice->setVisible(ui.NodeChoice->count() > 0);
+}
+
+void PropertyPane::chooseValue(int index)
+{
+    ui.NodeText->setPlainText(ui.NodeChoice->itemData(index).toString());
+    leaveNodeText();
+}
+
+void PropertyPane::showItemValue(QTreeWidgetItem& item, const QString& value)
+{
+    const QString label = item.text(0);
+    item.setText(1, value.simplified());
+    item.setToolTip(1, item.text(1).toHtmlEscaped());
+    item.setData(0, Qt::AccessibleTextRole, value.isEmpty() ? label : tr("%1: %2").arg(label, item.text(1)));
+}
+
+/// Shows the value of CurrentNode in the tree.
+void PropertyPane::showChangedValue()
+{
+    const ValueTexts texts{.dictionary = &m_parts.Merovel, .words = &m_treeWords};
+    const std::string key = AttributeGet(CurrentNode, "leafIndex");
+    for (QTreeWidgetItemIterator item(ui.NodeTree); *item != nullptr; ++item) {
+        if (textOf(**item, kKeyRole) == key)
+            return showItemValue(**item, toQString(texts.of(CurrentNode)));
+    }
 }
 
 /// A text of several lines is shown with other line breaks than the node has, so leaving it changes the node even when
 /// nothing was typed.
 void PropertyPane::leaveNodeText()
 {
-    if (canEdit() && CurrentNode)
-        m_file.setText(CurrentNode, ui.NodeText->exactText().toStdString());
+    if (!canEdit() || !CurrentNode)
+        return;
+    m_file.setText(CurrentNode, ui.NodeText->exactText().toStdString());
+    showChangedValue();
 }
 
 void PropertyPane::addNode()

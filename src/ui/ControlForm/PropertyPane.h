@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/App/LocaleWords.h"
 #include "ui/ControlForm/ShownFile.h"
 #include "ui/ControlForm/WindowParts.h"
 
@@ -16,6 +17,9 @@ class PropertyPane : public QObject {
 
 public:
     PropertyPane(const WindowParts& parts, ShownFile& file);
+
+    /// In which the tree shows values: the beginning of long ones.
+    const ValueWords& words() const { return m_treeWords; }
 
     void clear();
     /// Fills the tree, which must be empty, and selects the node that was selected last, possibly in another file.
@@ -51,7 +55,11 @@ private:
     bool canEdit() const;
     void nodeTextChanged();
     void leaveNodeText();
-    void showWarning();
+    void showLine();
+    void offerValues(const DictionaryEntry& entry);
+    void chooseValue(int index);
+    void showItemValue(QTreeWidgetItem& item, const QString& value);
+    void showChangedValue();
     void addNode();
     void deleteNode();
 
@@ -59,6 +67,8 @@ private:
     Ui::ControlForm& ui;
     bool& ControlsUpdating;
     ShownFile& m_file;
+    LocaleWords m_words;
+    LocaleWords m_treeWords;
     XmlNode CurrentNode; ///< of the tree item selected
     Protection CurrentProt = Protection::Free;
     std::string CurrentXPath;       ///< of the item clicked last, possibly in another file

@@ -63,10 +63,10 @@ void ShownFile::close()
     m_whyUnreadable.reset();
 }
 
-std::vector<Leaf> ShownFile::loadTree(bool technical)
+std::vector<Leaf> ShownFile::loadTree(bool technical, const ValueWords& words)
 {
     m_osProperties = {};
-    LeafTree tree = loadLeaves(JpegDoc, m_merovel, technical);
+    LeafTree tree = loadLeaves(JpegDoc, m_merovel, technical, words);
     m_osProperties = tree.osProperties;
     return std::move(tree.leaves);
 }

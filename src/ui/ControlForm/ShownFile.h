@@ -83,7 +83,7 @@ public:
 
     /// The items of the property tree; technical nodes only with `technical`. Raises the errors of loadLeaves(); there
     /// are then no OS properties either.
-    std::vector<Leaf> loadTree(bool technical);
+    std::vector<Leaf> loadTree(bool technical, const ValueWords& words);
     /// The text of the box of a property.
     std::string boxText(OsProperty property) const { return m_osProperties.boxText(property); }
 

@@ -1,10 +1,10 @@
 #include "ui/SlideForm/SlideDetails.h"
 
 #include "document/NodePaths.h"
+#include "ui/App/LocaleWords.h"
 #include "ui/App/Text.h"
 
 #include <QDate>
-#include <QRegularExpression>
 #include <QStringList>
 #include <QTime>
 
@@ -47,14 +47,6 @@ QTime timeFrom(const QString& text)
         return {0, 0};
     const QTime time = QTime::fromString(text, QStringLiteral("H:m:s"));
     return time.isValid() ? time : QTime::fromString(text, QStringLiteral("H:m"));
-}
-
-/// The locale's long format of a time without the time zone, which Exif does not tell.
-QString timeFormat(const QLocale& locale)
-{
-    static const QRegularExpression zone(QStringLiteral(R"([\s,]*[(\[]?\bt\b[)\]]?)"),
-                                         QRegularExpression::UseUnicodePropertiesOption);
-    return locale.timeFormat(QLocale::LongFormat).remove(zone).trimmed();
 }
 
 /// The date as people of the locale write it; as the file has it when it is none.

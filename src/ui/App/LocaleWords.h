@@ -1,0 +1,27 @@
+#pragma once
+
+#include "document/ValueWords.h"
+
+#include <QLocale>
+
+namespace ovisto {
+
+/// The locale's long form of a date without the day of the week.
+QString dayFormat(const QLocale& locale);
+/// The locale's long form of a time without the time zone, which Exif does not tell.
+QString timeFormat(const QLocale& locale);
+
+/// Values in the words of the window, with numbers and dates as the locale has them.
+class LocaleWords : public ValueWords {
+public:
+    explicit LocaleWords(const QLocale& locale = QLocale::system()) : m_locale(locale) {}
+
+    std::string number(double number, int decimals) const override;
+    std::string moment(const Moment& moment) const override;
+    std::string phrase(const Phrase& phrase) const override;
+
+private:
+    QLocale m_locale;
+};
+
+} // namespace ovisto

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "common/Error.h"
+#include "common/xml/XmlNode.h"
+
+#include <optional>
+#include <string>
+
+namespace ovisto {
+
+/// Why `node`, an entry of an Exif directory, could not be written with the value `value`: not a number, out of range,
+/// not hexadecimal digits. Nothing if it can, and for any other node.
+std::optional<Error> valueFault(const ConstXmlNode& node, const std::string& value);
+
+} // namespace ovisto
