@@ -82,7 +82,7 @@ std::vector<std::string> statements(const ConstXmlNode& node, const Edit& edit)
         if (name == "IMG" || isEmptyPart)
             continue;
         std::string line = path + " " + AttributeGet(child, name == "IFD" ? "d" : "ns");
-        const bool mayDiffer = (edit.isOfAnything || path == edit.path) && mayReadDifferently(child);
+        const bool mayDiffer = name == "IFD" && (edit.isOfAnything || path == edit.path) && mayReadDifferently(child);
         if (!isDirectory && !saysPlace(child) && !mayDiffer)
             line += " " + text;
         lines.push_back(line);

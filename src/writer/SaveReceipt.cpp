@@ -283,10 +283,12 @@ private:
     void noteTrailer()
     {
         constexpr std::int64_t kTrailerSize = 12;
+        const std::int64_t start = m_oldFile.size() - kTrailerSize;
+        if (m_end != ImageEnd::File || start < 0)
+            return;
         std::array<std::uint8_t, 3> mark{};
-        m_oldFile.readAt(m_oldFile.size() - kTrailerSize, mark);
-        const bool isThere = m_end == ImageEnd::File;
-        if (isThere && mark == std::array<std::uint8_t, 3>{'A', 'X', 'S'} && m_oldFile.size() != m_newFile.size())
+        m_oldFile.readAt(start, mark);
+        if (mark == std::array<std::uint8_t, 3>{'A', 'X', 'S'} && m_oldFile.size() != m_newFile.size())
             m_receipt.notes.emplace_back(Message::TrailerPositions);
     }
 

@@ -303,7 +303,9 @@ void PropertyPane::offerValues(const DictionaryEntry& entry)
 
 void PropertyPane::chooseValue(int index)
 {
-    ui.NodeText->setPlainText(ui.NodeChoice->itemData(index).toString());
+    const QString value = ui.NodeChoice->itemData(index).toString();
+    ui.NodeText->selectAll();
+    ui.NodeText->insertPlainText(value); // as if it were typed
     leaveNodeText();
 }
 
