@@ -2,6 +2,7 @@
 
 #include "common/Error.h"
 #include "document/NodePath.h"
+#include "document/NodeValue.h"
 #include "document/PropertyTree.h"
 #include "document/ValueText.h"
 
@@ -37,8 +38,8 @@ LeafTree loadLeaves(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool tec
         }
         const std::string key = leafKey(++LeafCounter);
         AttributeSet(item.node, "leafIndex", key);
-        tree.leaves.push_back(
-            {key, AttributeGet(item.node.parent(), "leafIndex"), item.label, texts.of(item.node), item.path});
+        tree.leaves.push_back({key, AttributeGet(item.node.parent(), "leafIndex"), item.label,
+                               holdsNodes(item.node) ? std::string() : texts.of(item.node), item.path});
     }
     return tree;
 }

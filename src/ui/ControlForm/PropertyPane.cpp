@@ -13,6 +13,7 @@
 #include "ui/NodeAddForm/NodeAddForm.h"
 
 #include <QFontDatabase>
+#include <QHeaderView>
 #include <QScopedValueRollback>
 
 #include <filesystem>
@@ -27,6 +28,7 @@ namespace {
 constexpr int kKeyRole = Qt::UserRole;      // the item's key, which is the node's "leafIndex"
 constexpr int kPathRole = Qt::UserRole + 1; // the node's path
 
+constexpr int kIndentation = 12;        // pixels; the labels need the room
 constexpr std::size_t kMostInTree = 80; // characters of a value
 
 constexpr QSize kLargestThumbnail(1024, 1024); // cameras make them 160 x 120
@@ -55,6 +57,9 @@ PropertyPane::PropertyPane(const WindowParts& parts, ShownFile& file)
     connect(ui.NodeChoice, &QComboBox::activated, this, &PropertyPane::chooseValue);
     parts.boxes.add(*ui.NodeText, [this] { leaveNodeText(); });
     m_treeWords.mostCharacters = kMostInTree;
+    ui.NodeTree->setIndentation(kIndentation);
+    ui.NodeTree->header()->setStretchLastSection(false);
+    ui.NodeTree->header()->setSectionResizeMode(1, QHeaderView::Stretch);
     ui.NodeChoice->hide();
     ui.NodeLine->hide();
 }

@@ -34,8 +34,8 @@ constexpr NumberKind kNumberKinds[] = {
     {kIfd, kLongNumbers},
     {kSignedShort, QT_TRANSLATE_NOOP("ValueLine", "whole numbers from -32768 to 32767")},
     {kSignedLong, QT_TRANSLATE_NOOP("ValueLine", "whole numbers from -2147483648 to 2147483647")},
-    {kRational, QT_TRANSLATE_NOOP("ValueLine", "fractions such as 1/125, of numbers up to 4294967295")},
-    {kSignedRational, QT_TRANSLATE_NOOP("ValueLine", "fractions such as -1/3, of numbers up to 2147483647")},
+    {kRational, QT_TRANSLATE_NOOP("ValueLine", "fractions such as 1/125, up to 4294967295,")},
+    {kSignedRational, QT_TRANSLATE_NOOP("ValueLine", "fractions such as -1/3, up to 2147483647,")},
     {kFloat, kRealNumbers},
     {kDouble, kRealNumbers},
 };
@@ -45,7 +45,7 @@ QString inWords(const Error& error, int dataType)
     const auto* kind = std::ranges::find(kNumberKinds, dataType, &NumberKind::dataType);
     if (kind == std::end(kNumberKinds) || (error.number != kTypeMismatch && error.number != kOverflow))
         return QCoreApplication::translate("ValueLine", "Cannot be written: %1").arg(toQString(error.description));
-    return QCoreApplication::translate("ValueLine", "Cannot be written: this takes %1, with commas between several.")
+    return QCoreApplication::translate("ValueLine", "Only %1 can be written.")
         .arg(QCoreApplication::translate("ValueLine", kind->words));
 }
 
