@@ -9,8 +9,10 @@
 
 #include <CLI/CLI.hpp>
 
+#include <mutex>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace ovisto {
 
@@ -89,6 +91,37 @@ private:
     std::size_t m_place = 0;
 };
 
+/// The files that could not be checked, which several threads find. They are reported at the end, when it is known
+/// whether they are few enough to be named.
+class UncheckedFiles {
+public:
+    void add(const Error& error)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_checks.add(error);
+        m_errors.push_back(error);
+    }
+
+    bool areTooMany()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_checks.areTooMany();
+    }
+
+    void report(ErrorReporter& reporter)
+    {
+        if (areTooMany())
+            m_errors = {*m_checks.summary()};
+        for (const Error& error : m_errors)
+            ErrorReport(reporter, "", error);
+    }
+
+private:
+    std::mutex m_mutex;
+    FailedChecks m_checks;
+    std::vector<Error> m_errors;
+};
+
 int runFind(const FindOptions& options)
 {
     CommandOutput output;
@@ -105,17 +138,21 @@ int runFind(const FindOptions& options)
         return kWrongUsage;
     }
     FilesToSearch files(options, output);
+    UncheckedFiles unchecked;
     const auto work = [&](const std::string& path) {
         FileResult result;
-        LineReporter reporter(result.errors);
-        attempt(reporter, "", [&] {
+        ErrorTrap trap;
+        trap.run([&] {
             if (filter->keeps(path))
                 result.output = path + (options.files.zeroSeparated ? '\0' : '\n');
         });
+        if (trap.pending())
+            unchecked.add(trap.take());
         return result;
     };
-    forEachFile([&] { return files.next(); }, options.files.jobs, work,
+    forEachFile([&] { return unchecked.areTooMany() ? std::nullopt : files.next(); }, options.files.jobs, work,
                 [&](const FileResult& result) { output.write(result); }, output.progress());
+    unchecked.report(output);
     return output.finish();
 }
 

@@ -299,6 +299,22 @@ TEST(CommandLine, KeepsOutputInInputOrderWithManyJobs)
     EXPECT_EQ(run.output, expected);
 }
 
+TEST(CommandLine, GivesUpASearchThatRunsTooLongOnManyFiles)
+{
+    const TemporaryFolder folder;
+    ExifBytes exif;
+    exif.ifd0({exif.ascii(0x010E, std::string(200, 'a'))});
+    const std::string file = folder.file("0.jpg", JpegBytes().exif(exif).end());
+    const std::string found = folder.file("found.jpg", JpegBytes().app0().end());
+    const std::vector<std::string> search = {"find", folder.path(""), "--regexp", "--words", "(a+)+~|<APP0"};
+    const CommandRun few = ovisto(search);
+    EXPECT_EQ(few.output, found + "\n");
+    expectOneLine(few, file + ": The regular expression runs too long", "");
+    for (int i = 1; i <= 20; ++i)
+        std::filesystem::create_symlink(file, folder.path(std::to_string(i) + ".jpg"));
+    expectOneLine(ovisto(search), "The search ended early, because 1", " files could not be checked. The first: ");
+}
+
 TEST(CommandLine, FindsFilesInScanOrder)
 {
     const TemporaryFolder folder;
