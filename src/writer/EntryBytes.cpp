@@ -210,7 +210,7 @@ template <class Number> void appendReal(Bytes& bytes, const Task& task, std::str
         throw systemError(kOverflow);
     if (status != std::errc() || end != text.data() + text.size())
         throw systemError(kTypeMismatch);
-    std::array<std::uint8_t, sizeof(Number)> stored = std::bit_cast<std::array<std::uint8_t, sizeof(Number)>>(number);
+    auto stored = std::bit_cast<std::array<std::uint8_t, sizeof(Number)>>(number);
     if ((std::endian::native == std::endian::little) != task.block.littleEndian())
         std::ranges::reverse(stored);
     bytes.insert(bytes.end(), stored.begin(), stored.end());

@@ -401,7 +401,10 @@ TEST(Saving, DeletesOnlyWhatIsKnownToBeALeftover)
     const Bytes photograph = JpegBytes().app0().end(Bytes(100, 0x33));
     const Bytes trailer(50, 0x44);
     const Bytes other = JpegBytes().app0().end(Bytes(101, 0x33));
-    const auto cut = [](Bytes whole, std::size_t size) { return Bytes(whole.begin(), whole.begin() + size); };
+    const auto cut = [](Bytes whole, std::size_t size) {
+        whole.resize(size);
+        return whole;
+    };
     const struct {
         const char* name;
         Bytes photograph;
