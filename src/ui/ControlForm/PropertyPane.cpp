@@ -16,6 +16,7 @@
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <unordered_map>
@@ -41,7 +42,8 @@ std::string textOf(const QTreeWidgetItem& item, int role)
 } // namespace
 
 PropertyPane::PropertyPane(const WindowParts& parts, ShownFile& file)
-    : m_parts(parts), ui(parts.ui), ControlsUpdating(parts.ControlsUpdating), m_file(file)
+    : m_parts(parts), ui(parts.ui), ControlsUpdating(parts.ControlsUpdating), m_file(file),
+      m_columnsFit(!parts.surroundings.settings.GetSetting(ui.NodeTree->objectName(), {}).isEmpty())
 {
     // Not the current item, which is there as soon as the tree has the focus.
     connect(ui.NodeTree, &QTreeWidget::itemSelectionChanged, this, &PropertyPane::selectionChanged);
@@ -103,10 +105,22 @@ void PropertyPane::showTree(const std::vector<Leaf>& leaves)
     ui.NodeTree->expandAll();
     ui.NodeTree->scrollToTop();
     ui.TreeStack->setCurrentWidget(ui.NodeTree);
+    fitColumns();
     if (ReselectItem != nullptr) {
         ui.NodeTree->setCurrentItem(ReselectItem);
         nodeClicked(ReselectItem);
     }
+}
+
+/// On a first run, gives the labels the room that they need, as long as the values keep some.
+void PropertyPane::fitColumns()
+{
+    constexpr double kMostForLabels = 0.6; // of the tree
+    if (std::exchange(m_columnsFit, true))
+        return;
+    const int most = static_cast<int>(kMostForLabels * ui.TreeStack->width());
+    ui.NodeTree->resizeColumnToContents(0);
+    ui.NodeTree->setColumnWidth(0, std::min(ui.NodeTree->columnWidth(0), most));
 }
 
 /// Adds the item for `leaf` to the tree, as the last one below `parent` or as the top one.

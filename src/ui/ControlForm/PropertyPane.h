@@ -37,6 +37,7 @@ Q_SIGNALS:
     void nodeDeleted();
 
 private:
+    void fitColumns();
     QTreeWidgetItem* LoadLeaf(const Leaf& leaf, QTreeWidgetItem* parent);
     std::string LeafXPathForItem(const QTreeWidgetItem& item) const;
     XmlNode DocNodeForItem(const QTreeWidgetItem& item);
@@ -67,6 +68,7 @@ private:
     Ui::ControlForm& ui;
     bool& ControlsUpdating;
     ShownFile& m_file;
+    bool m_columnsFit; ///< or are as the user left them
     LocaleWords m_words;
     LocaleWords m_treeWords;
     XmlNode CurrentNode; ///< of the tree item selected
