@@ -81,7 +81,9 @@ std::vector<std::string> statements(const ConstXmlNode& node, const Edit& edit)
         const bool isEmptyPart = part != nullptr && !isDirectory && text.empty(); // which nobody can tell from none
         if (name == "IMG" || isEmptyPart)
             continue;
-        std::string line = path + " " + AttributeGet(child, name == "IFD" ? "d" : "ns");
+        std::string line = path;
+        if (!saysPlace(child)) // which is written anew, as what it has to be
+            line += " " + AttributeGet(child, name == "IFD" ? "d" : "ns");
         const bool mayDiffer = name == "IFD" && (edit.isOfAnything || path == edit.path) && mayReadDifferently(child);
         if (!isDirectory && !saysPlace(child) && !mayDiffer)
             line += " " + text;
