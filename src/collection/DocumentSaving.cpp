@@ -5,6 +5,7 @@
 #include "common/system/FileNames.h"
 #include "common/system/FileReplacement.h"
 #include "common/system/TemporaryFile.h"
+#include "document/Directories.h"
 #include "document/MetadataDocument.h"
 #include "document/NodePath.h"
 #include "writer/JpegRebuilding.h"
@@ -51,10 +52,30 @@ void checkTags(const XmlDocument& document)
     }
 }
 
+/// Raises an error for a node that stands in a directory where nothing would be written for it.
+void checkPlaces(const XmlDocument& document)
+{
+    for (const ExifPart& part : kExifParts) {
+        if (part.kind != PartKind::Directory)
+            continue;
+        for (const ConstXmlNode& directory : document.node().descendants(part.element)) {
+            for (const ConstXmlNode& node : directory.childElements()) {
+                const ExifPart* own = exifPart(node.name());
+                if (node.name() != "IFD" && (own == nullptr || own->parent != part.element))
+                    throw Error{
+                        kInvalidCall, {Message::UnknownTag, node.name(), NodeXPath(directory)}, NodeXPath(node)};
+            }
+        }
+    }
+}
+
 SaveReceipt save(const XmlDocument& before, XmlDocument& after, const FileIdentity& asRead, const std::string& path,
                  const SavingWay& way, ErrorReporter& reporter)
 {
-    reported(reporter, path, [&] { checkTags(after); });
+    reported(reporter, path, [&] {
+        checkTags(after);
+        checkPlaces(after);
+    });
     NewVersion version(reporter, path, {ReadOnlyFails::AtTheEnd, way.isSpared, asRead});
     version.write({way.writing, before, after, documentReader(readingOf(after.node())), way.clearance});
     version.bringToDisk();
