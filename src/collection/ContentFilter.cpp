@@ -66,7 +66,7 @@ std::vector<RegularExpression> expressionsFor(const ContentSearch& search)
     }
     ErrorTrap trap;
     trap.run([&] { expressions = wordExpressions(search); });
-    // An error is to speak of what was typed, which is no regular expression for a person.
+    // The error names the words as they were typed, not the expression made of them.
     if (trap.pending() && trap.error().description.message() == Message::NotARegularExpression)
         throw Error{
             trap.error().number,

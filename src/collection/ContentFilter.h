@@ -50,10 +50,9 @@ public:
     /// characters, with their special meaning.
     explicit ContentFilter(const ContentSearch& search);
 
-    /// True if the document text of the JPEG file at `path`, markup included, matches, with the texts of its values
-    /// behind it if the search asks for them. False for a file that the reader
-    /// cannot translate. With nothing to search for, true without opening the file. Raises the errors of
-    /// RegularExpression::matches(), with the file's name.
+    /// True if the document text of the JPEG file at `path`, markup included, matches, followed by the texts of its
+    /// values if the search asks for them. False for a file that the reader cannot translate. With nothing to search
+    /// for, true without opening the file. Raises the errors of RegularExpression::matches(), with the file's name.
     ///
     /// In a full document everything is searched as people see it: no character is a reference. Words match in any
     /// case and spelling of their letters (see foldedText()), and whole words by the letters of all scripts.

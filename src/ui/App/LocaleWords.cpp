@@ -24,7 +24,7 @@ QDate dateOf(const std::chrono::year_month_day& date)
             static_cast<int>(static_cast<unsigned>(date.day()))};
 }
 
-/// With milliseconds behind the seconds where there are any.
+/// With milliseconds after the seconds where there are any.
 QString timeText(const QTime& time, const QLocale& locale)
 {
     static const QRegularExpression seconds(QStringLiteral("s+"));
