@@ -9,6 +9,7 @@
 #include "writer/PlainSegment.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -82,6 +83,8 @@ std::vector<std::string> statements(const ConstXmlNode& node, const Edit& edit)
         if (name == "IMG" || isEmptyPart)
             continue;
         std::string line = path;
+        for (char& character : line) // 926f is written as 926F
+            character = static_cast<char>(std::toupper(static_cast<unsigned char>(character)));
         if (!saysPlace(child)) // which is written anew, as what it has to be
             line += " " + AttributeGet(child, name == "IFD" ? "d" : "ns");
         const bool mayDiffer = name == "IFD" && (edit.isOfAnything || path == edit.path) && mayReadDifferently(child);
