@@ -95,6 +95,11 @@ private Q_SLOTS:
         window.click("FileSaver");
         QCOMPARE(inFile(window.path("big-endian.jpg"), kOrientation), "7");
 
+        // Nothing is chosen for bytes that are shown as characters, which are for reading only.
+        window.control<QCheckBox>("ViewHexOpt").toggle();
+        window.control<QCheckBox>("ViewHexOpt").toggle();
+        QVERIFY(window.control<TextBox>("NodeText").isReadOnly() && !choice.isEnabled());
+
         // A name without a list, a locked value, and a box that nothing is shown in.
         for (const char* path : {kDescription, kExifIfd}) {
             window.select(path);

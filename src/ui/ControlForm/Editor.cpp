@@ -88,7 +88,7 @@ void Editor::openIfNone()
         OpenSelectedFile();
 }
 
-/// There is nothing to edit. The reason was reported; that there is no picture either goes without saying.
+/// Shows why the file cannot be edited. The reason was reported already; a missing picture is not reported as well.
 void Editor::showUnreadable(const Phrase& reason)
 {
     m_properties.showReason(

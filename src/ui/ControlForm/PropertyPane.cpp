@@ -247,6 +247,7 @@ void PropertyPane::ShowNodeValue()
         ui.NodeText->putText(toQString(translatedText(nodeValue(CurrentNode))));
         ui.NodeText->setReadOnly(true);
     }
+    ui.NodeChoice->setEnabled(!ui.NodeText->isReadOnly());
 }
 
 /// Gives the digits of a hexadecimal text the same width.
@@ -318,6 +319,7 @@ void PropertyPane::offerValues(const DictionaryEntry& entry)
             ui.NodeChoice->addItem(toQString(value.raw + ": " + value.text), toQString(value.raw));
     }
     ui.NodeChoice->setVisible(ui.NodeChoice->count() > 0);
+    ui.NodeChoice->setEnabled(true);
 }
 
 void PropertyPane::chooseValue(int index)

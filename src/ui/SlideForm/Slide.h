@@ -22,7 +22,7 @@ struct Slide {
     SlideDetails details;   ///< shown below the picture
     QImage picture;         ///< turned upright; null if the file cannot be shown
     bool endsEarly = false; ///< the file ends before its picture does
-    QString failure;        ///< why there is no picture, for the user
+    QString failure;        ///< what the user reads in place of a picture
 };
 
 /// A slide to make: of a file as it is now, with its picture scaled down to a size in screen pixels.
