@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Installs what is missing, builds, and opens the window on a file or folder (default: the project's own samples).
 # Without a display it shows the same photographs as text.
 set -euo pipefail

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Installs what is missing, builds, and runs every test twice: under address and undefined-behaviour checks, and in the
 # release build. OVISTO_SAMPLES names the folder of camera files.
 set -euo pipefail

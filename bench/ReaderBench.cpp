@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Times the engine's steps on one photograph: build/release/bin/reader-bench PHOTOGRAPH
 // bench/compare.sh holds whole commands against other programs.
 

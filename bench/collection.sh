@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Compares the commands that work on many files with other programs, as ratios of times measured side by side:
 #   bench/collection.sh [FOLDER]     (FOLDER: where to put some 2 GB of temporary files; default: TMPDIR)
 # find: a word search over 20,000 small photographs made from the samples, against cat of the same bytes.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Prints how many times faster metadata documents of many photographs are made than other programs print metadata:
 #   bench/compare.sh [FOLDER]     (default: OVISTO_SAMPLES, else the project's own samples)
 # All programs get the same files, repeated until there are enough to measure, in one process each; the best of five

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Counts what programs lose when they set a title. Called by losses.sh."""
 
 import hashlib

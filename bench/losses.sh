@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Shows what a new title does to everything else in photographs:
 #   bench/losses.sh [FOLDER]     (default: the project's own samples)
 # Copies of the JPEG files in FOLDER get a title by this program (keeping, and with --rebuild), exiftool and exiv2. Then

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Each program of this folder is this file, compiled for one of the functions in Targets.h.
 
 #include "Targets.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "Photograph.h"
 
 #include "collection/DocumentLoad.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "Photograph.h"
 #include "Targets.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "Seeds.h"
 
 #include "Photograph.h"

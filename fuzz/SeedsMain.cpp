@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Writes the seeds into a folder: fuzz-seeds FOLDER
 
 #include "Seeds.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Fuzzes the program for so many seconds a target, two targets at a time:
 #   fuzz/run.sh SECONDS [TARGET...]     (default: all of read rebuild keep readText, see fuzz/Targets.h)
 # What it tries begins with seeds that the tests' builder makes and with tests/fuzz, and is kept in build/fuzz/corpus.

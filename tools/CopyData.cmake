@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Copies the files of the folder FROM into the folder TO, where there are others, and deletes from TO what an earlier copy
 # brought there and FROM no longer has. The file COPIED names what was copied.
 file(GLOB_RECURSE names RELATIVE "${FROM}" "${FROM}/*")

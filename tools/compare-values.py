@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Compares what values mean to us with what they mean to exiftool.
 
     tools/compare-values.py OVISTO-CLI FILE|FOLDER...

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Sourced by the scripts that build and test: the Debian 12 packages that the project needs, and how to install them.
 
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libxml2-dev libxslt1-dev libpcre2-dev libunistring-dev libjpeg62-turbo-dev

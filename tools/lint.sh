@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Checks that the code is formatted and that clang-tidy finds nothing. Builds first, because some headers are generated.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -7,6 +8,15 @@ install_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${LINT_PACKAGES[@
 
 git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 echo "clang-format: clean"
+
+# Each file that somebody wrote says under which licence it stands.
+git ls-files '*.cpp' '*.h' '*.ui' '*.sh' '*.py' '*.cmake' '*CMakeLists.txt' '*.xsl' '*.xml' '*.dtd' '*.html' '*.css' '*.svg' |
+    grep -v '^tests/fuzz/' | xargs grep -L 'SPDX-License-Identifier: MIT' | sed 's/^/No licence line: /' | { ! grep .; }
+# The version stands in CMakeLists.txt; the newest entry of the changelog is about it.
+version=$(sed -n 's/^project(ovisto VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
+newest=$(sed -n 's/^## \[\([0-9.]*\)\] - 20.*/\1/p' CHANGELOG.md | head -1)
+[ -n "$version" ] && [ "$version" = "$newest" ] || { echo "CHANGELOG.md is about '$newest', not '$version'"; exit 1; }
+echo "licence lines, changelog: complete"
 
 cmake --preset release >/dev/null
 cmake --build --preset release

@@ -1,4 +1,5 @@
 #!/bin/bash
+# SPDX-License-Identifier: MIT
 # Takes pictures of the window in its various states: starts the real program on a virtual screen (Xvfb), with copies of
 # the sample photographs, and operates it with mouse and keys.
 #

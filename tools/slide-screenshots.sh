@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Takes pictures of the slide show in its various states: starts the real program on a virtual screen (Xvfb), with
 # copies of the sample photographs, and operates it with the keyboard.
 #

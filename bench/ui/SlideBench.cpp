@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Prints how long it takes from a key press to the next picture on the screen, in a show of large photographs: made
 // here, or named on the command line.
 

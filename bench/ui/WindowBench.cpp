@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Prints how long a person waits: for the window, and for the picture and the properties of a
 // large photograph.
 

@@ -1,4 +1,5 @@
 <?xml version="1.0" encoding="UTF-8"?>
+<!-- SPDX-License-Identifier: MIT -->
 <!-- A web page that counts the shots by camera, focal length, sensitivity and month, with bars. The text must
      begin with <html, which decides the extension of the report; hence no document type. -->
 <xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform"

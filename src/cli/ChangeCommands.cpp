@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "cli/BatchRun.h"
 #include "cli/CommandOutput.h"
 #include "cli/Commands.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "cli/BatchRun.h"
 #include "cli/Commands.h"
 #include "collection/PrivateData.h"

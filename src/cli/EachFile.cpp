@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "cli/EachFile.h"
 
 #include "cli/CommandOutput.h"

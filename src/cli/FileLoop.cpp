@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "cli/FileLoop.h"
 
 #include "cli/TerminalText.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "cli/CommandOutput.h"
 #include "cli/Commands.h"
 #include "cli/FileLoop.h"

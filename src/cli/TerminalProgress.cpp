@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "cli/TerminalProgress.h"
 
 #include "cli/TerminalText.h"

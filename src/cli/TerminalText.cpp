@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "cli/TerminalText.h"
 
 #include "common/text/Columns.h"

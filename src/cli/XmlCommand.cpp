@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "cli/Commands.h"
 #include "cli/EachFile.h"
 #include "cli/Options.h"

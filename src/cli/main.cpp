@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "cli/CommandLine.h"
 #include "common/system/Interruption.h"
 #include "common/system/Process.h"

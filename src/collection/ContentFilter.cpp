@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/ContentFilter.h"
 
 #include "collection/DocumentPattern.h"

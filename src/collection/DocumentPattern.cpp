@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/DocumentPattern.h"
 
 #include "common/text/CodePage.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/DocumentSaving.h"
 
 #include "collection/DocumentLoad.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/FolderScan.h"
 
 #include <optional>

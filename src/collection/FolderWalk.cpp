@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/FolderWalk.h"
 
 #include "common/system/File.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/KeywordFile.h"
 
 #include "common/system/File.h"

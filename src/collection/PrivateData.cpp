@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/PrivateData.h"
 
 #include "collection/ThumbnailJudgement.h"

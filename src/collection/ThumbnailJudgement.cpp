@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/ThumbnailJudgement.h"
 
 #include <algorithm>

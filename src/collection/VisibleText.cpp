@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/VisibleText.h"
 
 #include "common/text/CaseFolding.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/Libraries.h"
 
 #include <libexslt/exslt.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/Message.h"
 
 #include <cstddef>

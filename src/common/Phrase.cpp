@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/Phrase.h"
 
 #include <string_view>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/MetadataDocument.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/NodeChange.h"
 
 #include "common/FirstReport.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/NodeCreation.h"
 
 #include "document/Directories.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/NodePath.h"
 
 #include "common/text/Hex.h"

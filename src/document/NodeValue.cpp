@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/NodeValue.h"
 
 #include "common/Error.h"

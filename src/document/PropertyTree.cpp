@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/PropertyTree.h"
 
 #include "common/Error.h"

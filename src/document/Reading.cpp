@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/Reading.h"
 
 namespace ovisto {

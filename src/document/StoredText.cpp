@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/StoredText.h"
 
 #include "document/DataType.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/TagDictionary.h"
 
 #include "common/xml/XmlLoad.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/ValueNumbers.h"
 
 #include "common/text/Hex.h"

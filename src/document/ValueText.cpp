@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/ValueText.h"
 
 #include "common/text/Hex.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/XmlText.h"
 
 #include "common/text/CodePage.h"

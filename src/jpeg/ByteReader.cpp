@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "jpeg/ByteReader.h"
 
 #include "common/text/CodePage.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "jpeg/FileIdentity.h"
 
 #include "jpeg/Segments.h"

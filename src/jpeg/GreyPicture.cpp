@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "jpeg/GreyPicture.h"
 
 #include "common/Error.h"

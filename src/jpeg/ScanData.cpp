@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "jpeg/ScanData.h"
 
 #include "jpeg/Markers.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "jpeg/Segments.h"
 
 #include "jpeg/Markers.h"

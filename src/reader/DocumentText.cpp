@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "reader/DocumentText.h"
 
 #include <cstddef>

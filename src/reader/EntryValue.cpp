@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "reader/EntryValue.h"
 
 #include "common/text/NumberText.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "reader/ExifDecoding.h"
 
 #include "common/text/Hex.h"

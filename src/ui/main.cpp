@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/Libraries.h"
 #include "common/system/Process.h"
 #include "common/system/ProgramFolder.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/ByteClaims.h"
 
 #include <algorithm>

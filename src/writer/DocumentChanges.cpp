@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/DocumentChanges.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/EntryBytes.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/ExifContent.h"
 
 #include "common/Error.h"

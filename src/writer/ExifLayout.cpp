@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/ExifLayout.h"
 
 #include "common/system/Interruption.h"

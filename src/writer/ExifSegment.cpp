@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/ExifSegment.h"
 
 #include "common/text/Hex.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/FileSegments.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/JpegDocument.h"
 
 #include "common/system/FileReplacement.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/Leftover.h"
 
 #include "jpeg/ByteReader.h"

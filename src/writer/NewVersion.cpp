@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/NewVersion.h"
 
 #include "common/system/FileNames.h"

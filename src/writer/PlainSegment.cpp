@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/PlainSegment.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/SaveReceipt.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/SegmentWriter.h"
 
 #include "common/text/CodePage.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/ShownExif.h"
 
 #include "common/text/Hex.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/TiffBlock.h"
 
 #include "common/text/Hex.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/ValueCheck.h"
 
 #include "common/xml/XmlDocument.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/DocumentLoad.h"
 #include "common/Libraries.h"
 #include "common/system/File.h"

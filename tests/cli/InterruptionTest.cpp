@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Commands that are asked to end while they work.
 
 #include "collection/DocumentLoad.h"

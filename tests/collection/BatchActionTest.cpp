@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/BatchAction.h"
 #include "collection/DocumentLoad.h"
 #include "common/system/File.h"

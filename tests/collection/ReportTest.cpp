@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/Report.h"
 #include "common/text/Unicode.h"
 #include "common/xml/XmlLoad.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Rewrites real photographs and lets another program say whether they still tell the same.
 
 #include "support/CommandRun.h"

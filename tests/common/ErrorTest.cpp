@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/ErrorReport.h"
 #include "common/FirstReport.h"
 

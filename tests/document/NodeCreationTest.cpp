@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/NodeCreation.h"
 #include "document/MetadataDocument.h"
 #include "support/Dictionary.h"

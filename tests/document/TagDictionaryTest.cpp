@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/TagDictionary.h"
 #include "common/text/Hex.h"
 #include "document/DataType.h"

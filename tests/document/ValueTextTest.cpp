@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/ValueText.h"
 #include "document/DataType.h"
 #include "support/Dictionary.h"

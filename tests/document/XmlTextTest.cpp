@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "document/XmlText.h"
 
 #include <gtest/gtest.h>

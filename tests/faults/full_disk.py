@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Lets the disk run full while files are saved, with less and less room to begin with:
     full_disk.py OVISTO-CLI
 The disk is a small file system in memory where the rights to mount one are there. Everywhere, a limit on the size of

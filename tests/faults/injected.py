@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Lets each system call of real saves fail, or kills the program there, and looks at what is left:
     injected.py OVISTO-CLI
 OVISTO_FAULTS says how many faults there are to be (default 1000). strace makes the calls fail."""

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Lets another program change a photograph in the middle of saves:
     races.py OVISTO-CLI
 strace stops each save after each of its system calls in turn, another program has its way with the file, and the save

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What the scripts of this folder have in common: saves by the real command line, and what must hold after each."""
 
 import collections

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What fuzzing is run with and what it found, without fuzzing: see fuzz/run.sh.
 
 #include "Seeds.h"

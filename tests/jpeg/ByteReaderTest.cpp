@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "jpeg/ByteReader.h"
 #include "common/Error.h"
 #include "common/system/posix/SystemCalls.h"

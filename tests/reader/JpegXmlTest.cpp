@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "reader/JpegXml.h"
 #include "common/system/posix/SystemCalls.h"
 #include "common/text/Hex.h"

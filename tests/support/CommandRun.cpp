@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "support/CommandRun.h"
 
 #include "support/JpegBytes.h"

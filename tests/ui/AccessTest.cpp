@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui_AboutForm.h"
 #include "ui_BatchForm.h"
 #include "ui_BrowserCapForm.h"

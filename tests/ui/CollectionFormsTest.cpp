@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ControlFormFixture.h"
 
 #include "../support/CountingProgress.h"

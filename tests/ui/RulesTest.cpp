@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "../support/CountingProgress.h"
 #include "../support/RecordingReporter.h"
 #include "collection/ContentFilter.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/ShownFile.h"
 #include "../support/RecordingReporter.h"
 #include "ControlFormFixture.h"

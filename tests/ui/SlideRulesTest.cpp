@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "../support/RecordingReporter.h"
 #include "common/Error.h"
 #include "ui/SlideForm/Slide.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Exif segments of odd shapes, changed where they stand.
 
 #include "writer/ExifPatch.h"

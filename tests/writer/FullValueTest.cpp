@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What full documents show of the bytes in a file, and which bytes an edited value becomes.
 
 #include "collection/DocumentLoad.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "collection/DocumentSaving.h"
 #include "document/MetadataDocument.h"
 #include "document/TagDictionary.h"

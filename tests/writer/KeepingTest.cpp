@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Saves that change what was edited and keep all else.
 
 #include "collection/DocumentLoad.h"

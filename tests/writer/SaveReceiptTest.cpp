@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "writer/SaveReceipt.h"
 #include "collection/DocumentLoad.h"
 #include "document/NodePaths.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/text/CaseFolding.h"
 
 #include "common/text/Unicode.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/text/CharacterEncoding.h"
 
 #include "common/text/CodePage.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/text/NumberText.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/text/PathText.h"
 
 namespace ovisto {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/xml/ReadableFolders.h"
 
 #include "common/system/File.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/xml/XmlDocument.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/xml/XmlGuard.h"
 
 #include "common/xml/XmlPointer.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/xml/XmlMemory.h"
 
 #include "common/system/Heap.h"

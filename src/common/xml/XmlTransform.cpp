@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/xml/XmlTransform.h"
 
 #include "common/xml/XmlGuard.h"

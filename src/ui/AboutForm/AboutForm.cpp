@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/AboutForm/AboutForm.h"
 
 #include "common/Libraries.h"

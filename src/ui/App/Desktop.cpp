@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/App/Desktop.h"
 
 #include "common/system/File.h"

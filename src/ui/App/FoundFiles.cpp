@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/App/FoundFiles.h"
 
 #include "common/system/FileNames.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/App/MessageReporter.h"
 
 #include "ui/App/Text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/App/PictureFile.h"
 
 namespace ovisto {

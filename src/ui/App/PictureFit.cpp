@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/App/PictureFit.h"
 
 #include "ui/App/PictureFile.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/App/ProgramIcon.h"
 
 #include "ui/App/Text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/App/PropertySheet.h"
 
 #include "ui/App/Text.h"

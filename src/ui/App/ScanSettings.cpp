@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/App/ScanSettings.h"
 
 #include "ui/App/Text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/App/WindowFrame.h"
 
 #include "ui/App/Placement.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/BatchForm/BatchForm.h"
 
 #include "ui/App/Text.h"

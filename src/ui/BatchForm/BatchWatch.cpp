@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/BatchForm/BatchWatch.h"
 
 #include "ui/App/Text.h"

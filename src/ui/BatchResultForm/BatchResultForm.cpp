@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/BatchResultForm/BatchResultForm.h"
 
 #include <QHeaderView>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/BatchResultForm/BatchResults.h"
 
 #include "ui/App/Text.h"

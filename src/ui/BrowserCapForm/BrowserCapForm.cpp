@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/BrowserCapForm/BrowserCapForm.h"
 
 #include "ui/App/Text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/BrowserCapForm/FolderTree.h"
 
 #include <QDir>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/BoxHeights.h"
 
 #include <QFontMetrics>

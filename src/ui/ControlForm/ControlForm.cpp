@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/ControlForm.h"
 
 #include "ui/AboutForm/AboutForm.h"

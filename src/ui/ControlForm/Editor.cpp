@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/Editor.h"
 
 #include "collection/XmlExport.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/FailureMessages.h"
 
 #include "ui/App/Text.h"

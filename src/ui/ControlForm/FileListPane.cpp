@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/FileListPane.h"
 
 #include "common/system/FileNames.h"

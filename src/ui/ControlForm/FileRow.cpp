@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/FileRow.h"
 
 #include "ui/App/FoundFiles.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/FileSearch.h"
 
 #include "collection/FolderScan.h"

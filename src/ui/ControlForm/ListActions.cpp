@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/ListActions.h"
 
 #include "collection/BatchAction.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/OsProperties.h"
 
 #include "document/NodeChange.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/PictureBox.h"
 
 #include "ui/App/PictureFit.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/PropertyPane.h"
 
 #include "common/system/File.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/SavedLine.h"
 
 #include "ui/ProgressForm/PathLabel.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/ScanReports.h"
 
 #include "collection/ContentFilter.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/ShownFile.h"
 
 #include "collection/XmlExport.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ControlForm/TextBox.h"
 
 #include <QLineEdit>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/NodeAddForm/NodeAddForm.h"
 
 #include "document/NodeChange.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/PrivateForm/PrivateForm.h"
 
 #include "ui/App/Text.h"

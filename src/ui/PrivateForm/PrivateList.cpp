@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/PrivateForm/PrivateList.h"
 
 #include "collection/DocumentLoad.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ProgressForm/PathLabel.h"
 
 #include <QPainter>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/ProgressForm/ProgressForm.h"
 
 #include "ui/App/Text.h"

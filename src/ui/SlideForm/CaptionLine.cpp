@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/SlideForm/CaptionLine.h"
 
 #include "ui/SlideForm/SlideDetails.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/SlideForm/Slide.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/SlideForm/SlideCache.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/SlideForm/SlideClockwork.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/SlideForm/SlideDetails.h"
 
 #include "document/NodePaths.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/SlideForm/SlideForm.h"
 
 #include "common/text/PathText.h"

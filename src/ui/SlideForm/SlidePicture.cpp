@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/SlideForm/SlidePicture.h"
 
 #include "ui/App/PictureFit.h"

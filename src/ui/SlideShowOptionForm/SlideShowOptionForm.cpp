@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/SlideShowOptionForm/SlideShowOptionForm.h"
 
 #include "common/ErrorReport.h"

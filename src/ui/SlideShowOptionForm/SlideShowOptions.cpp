@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "ui/SlideShowOptionForm/SlideShowOptions.h"
 
 #include "common/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/system/File.h"
 #include "common/system/FileNames.h"
 #include "common/system/Process.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/xml/XmlLoad.h"
 #include "document/NodePath.h"
 #include "document/TagDictionary.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/system/FileReplacement.h"
 
 #include "common/system/File.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/system/Heap.h"
 
 #ifdef __APPLE__

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/system/Process.h"
 
 #include "common/system/posix/SystemError.h"

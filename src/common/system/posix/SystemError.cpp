@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/system/posix/SystemError.h"
 
 namespace ovisto {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "common/system/TemporaryFile.h"
 
 #include "common/system/FileListing.h"
