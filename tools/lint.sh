@@ -21,7 +21,9 @@ echo "licence lines, changelog: complete"
 cmake --preset release >/dev/null
 cmake --build --preset release
 # fuzz/ is not in that build; clang-tidy takes the options of a similar file, and the target that FuzzMain.cpp expects.
+# The analyzer follows each function for 50,000 steps instead of 225,000: half the time, and it found nothing after that.
+arguments=(-Wno-unknown-warning-option -DOVISTO_FUZZ_TARGET=read
+    -Xclang -analyzer-config -Xclang max-nodes=50000)
 git ls-files '*.cpp' |
-    xargs -P "$(nproc)" -n 4 clang-tidy -p build/release --quiet --extra-arg=-Wno-unknown-warning-option \
-        --extra-arg=-DOVISTO_FUZZ_TARGET=read
+    xargs -P "$(nproc)" -n 4 clang-tidy -p build/release --quiet "${arguments[@]/#/--extra-arg=}"
 echo "clang-tidy: clean"
