@@ -78,7 +78,7 @@ std::unique_ptr<ControlForm> Window::newForm()
 {
     const std::string data = (kSource + u"/data/"_s).toStdString();
     const std::string writable = (m_writable.path() + u'/').toStdString();
-    return std::make_unique<ControlForm>(TagDictionary(data + "Merovel.xml"),
+    return std::make_unique<ControlForm>(TagDictionary(dictionary),
                                          Surroundings{dialogs, desktop, m_settings, {data, writable}});
 }
 

@@ -76,6 +76,8 @@ public:
 
     /// Opens the window, as a new run of the program would, with the files and folders `paths`.
     void open(const std::vector<std::string>& paths);
+    /// The path of the tag dictionary of the forms made from now on.
+    std::string dictionary = std::string(OVISTO_SOURCE_FOLDER) + "/data/Merovel.xml";
     void close() { m_form.reset(); }
     ControlForm& form() { return *m_form; }
     std::unique_ptr<ControlForm> newForm();
