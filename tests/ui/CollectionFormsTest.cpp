@@ -221,8 +221,8 @@ private Q_SLOTS:
         const QString hidden = folder.filePath(u".hidden/here"_s);
         QVERIFY(QDir().mkpath(hidden));
         for (const QString& start : {folder.filePath(u"folder 217"_s), hidden}) {
-            TestDialogs dialogs;
-            BrowserCapForm form(jpegsIn(start + u'/'), dialogs, nullptr);
+            Window window;
+            BrowserCapForm form(jpegsIn(start + u'/'), window.settings(), window.dialogs, nullptr);
             form.show();
             const auto& tree = controlOf<FolderTree>(form, "FolderTree");
             QTRY_VERIFY(start == hidden || tree.model()->rowCount(tree.currentIndex().parent()) == 300);
@@ -238,8 +238,9 @@ private Q_SLOTS:
         QVERIFY(QDir(folder.path()).mkpath(u"a/b"_s));
         const QString above = folder.filePath(u"a"_s);
         const QString below = folder.filePath(u"a/b"_s);
-        TestDialogs dialogs;
-        BrowserCapForm form(jpegsIn(below + u"/gone/for/good"_s), dialogs, nullptr); // which starts above it
+        Window window;
+        // It starts above what is not there.
+        BrowserCapForm form(jpegsIn(below + u"/gone/for/good"_s), window.settings(), window.dialogs, nullptr);
         form.show();
         auto& path = controlOf<QLineEdit>(form, "FolderPath");
         auto& tree = controlOf<FolderTree>(form, "FolderTree");
@@ -494,7 +495,7 @@ private Q_SLOTS:
     {
         const TagDictionary Merovel(OVISTO_SOURCE_FOLDER "/data/Merovel.xml");
         Window window{"night.jpg"};
-        const BrowserCapForm chooser(jpegsIn(QDir::homePath()), window.dialogs, nullptr);
+        const BrowserCapForm chooser(jpegsIn(QDir::homePath()), window.settings(), window.dialogs, nullptr);
         const FoundFiles files;
         const BatchForm batch(
             Merovel, true, [] { return Reading::Full; }, files, window.dialogs, nullptr);

@@ -120,7 +120,7 @@ private:
         scan.FolderNameSelected = m_window.folder();
         scan.FilePattern = u"*.jpg;*.jpeg"_s;
         scan.SearchWords = u"lake, mountain"_s;
-        BrowserCapForm form(scan, m_window.dialogs, nullptr);
+        BrowserCapForm form(scan, m_window.settings(), m_window.dialogs, nullptr);
         open(u"BrowserCapForm"_s, form);
     }
 

@@ -55,6 +55,7 @@ AboutForm::AboutForm(QWidget* owner) : QDialog(owner)
     ui.Icon->setVisible(!QApplication::windowIcon().isNull());
     ui.Version->setText(tr("Version %1").arg(QString::fromLatin1(programVersion())));
     ui.Libraries->setText(tr("Made with %1.").arg(libraryNames().join(QStringLiteral(", "))));
+    ui.FormCloser->setFocus();
     connect(ui.FormCloser, &QPushButton::clicked, this, &AboutForm::accept);
     connect(ui.SystemInfoShower, &QPushButton::clicked, this, &AboutForm::showSystemInfo);
 }

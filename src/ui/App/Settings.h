@@ -18,6 +18,7 @@ public:
     /// The text under `key`, or `whenMissing` if there is none.
     QString GetSetting(const QString& key, const QString& whenMissing) const;
     void SaveSetting(const QString& key, const QString& text);
+    void remove(const QString& key) { m_store.remove(key); }
 
     /// A choice is stored as "1" or "0". Only "1" counts as yes.
     bool choice(const QString& key, bool whenMissing) const;

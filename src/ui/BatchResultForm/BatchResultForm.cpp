@@ -2,6 +2,8 @@
 
 #include "ui/BatchResultForm/BatchResultForm.h"
 
+#include "ui/App/GapKeys.h"
+
 #include <QHeaderView>
 
 namespace ovisto {
@@ -9,6 +11,7 @@ namespace ovisto {
 BatchResultForm::BatchResultForm(BatchResults& results, QWidget* owner) : QDialog(owner)
 {
     ui.setupUi(this);
+    new GapKeys(*this);
     ui.Summary->setText(results.summary());
     ui.ResultList->setModel(&results);
     ui.ResultList->setCurrentIndex(results.index(0, 0));

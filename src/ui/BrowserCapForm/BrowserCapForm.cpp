@@ -2,6 +2,8 @@
 
 #include "ui/BrowserCapForm/BrowserCapForm.h"
 
+#include "ui/App/RecentFolders.h"
+#include "ui/App/RecentMenu.h"
 #include "ui/App/Text.h"
 
 #include <QDir>
@@ -10,10 +12,16 @@
 
 namespace ovisto {
 
-BrowserCapForm::BrowserCapForm(const ScanSettings& scan, Dialogs& dialogs, QWidget* owner)
+BrowserCapForm::BrowserCapForm(const ScanSettings& scan, Settings& settings, Dialogs& dialogs, QWidget* owner)
     : QDialog(owner), m_dialogs(dialogs)
 {
     ui.setupUi(this);
+    ui.FirstHint->setVisible(!wasFolderChosen(settings));
+    ui.FolderRecent->setMenu(&m_recent);
+    connect(new RecentMenu(m_recent, settings), &RecentMenu::chosen, this, [this](const QString& folder) {
+        ui.FolderTree->select(folder);
+        ui.FolderTree->setFocus();
+    });
     ui.FolderUp->setIcon(style()->standardIcon(QStyle::SP_FileDialogToParent));
     ui.FolderHome->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
     connect(ui.FolderTree, &FolderTree::SelectionChanged, this, &BrowserCapForm::selectionChanged);
@@ -80,6 +88,11 @@ void BrowserCapForm::selectFolder()
     if (reason.isEmpty())
         return accept();
     m_dialogs.show(toQString(reason));
+    focusWords();
+}
+
+void BrowserCapForm::focusWords()
+{
     ui.SearchWords->setFocus();
     ui.SearchWords->selectAll();
 }

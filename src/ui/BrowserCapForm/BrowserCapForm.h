@@ -7,6 +7,7 @@
 #include "ui_BrowserCapForm.h"
 
 #include <QDialog>
+#include <QMenu>
 #include <QString>
 
 namespace ovisto {
@@ -16,8 +17,11 @@ class BrowserCapForm : public QDialog {
     Q_OBJECT
 
 public:
-    /// Starts with the settings in `scan`. `dialogs` must outlive the form.
-    BrowserCapForm(const ScanSettings& scan, Dialogs& dialogs, QWidget* owner);
+    /// Starts with the settings in `scan`. `settings` has the recent folders. It and `dialogs` must outlive the form.
+    BrowserCapForm(const ScanSettings& scan, Settings& settings, Dialogs& dialogs, QWidget* owner);
+
+    /// Puts the caret into the words to search for.
+    void focusWords();
 
     /// Whether the user closed the dialog other than with "Select Folder".
     bool Cancelled() const { return result() != Accepted; }
@@ -36,6 +40,7 @@ private:
 
     Ui::BrowserCapForm ui;
     Dialogs& m_dialogs;
+    QMenu m_recent;
     QString m_selectedFolder;
     bool m_typing = false; ///< the tree is following what is typed, not the other way round
 };

@@ -3,7 +3,10 @@
 #include "ui/ControlForm/ControlForm.h"
 
 #include "ui/AboutForm/AboutForm.h"
+#include "ui/App/GapKeys.h"
 #include "ui/App/Placement.h"
+#include "ui/App/RecentFolders.h"
+#include "ui/App/RecentMenu.h"
 #include "ui/App/Text.h"
 #include "ui/ControlForm/BoxHeights.h"
 #include "ui/SlideForm/SlideForm.h"
@@ -65,10 +68,12 @@ std::string droppedPath(const QUrl& url)
 ControlForm::ControlForm(TagDictionary dictionary, const Surroundings& surroundings)
     : ui(this), m_surroundings(surroundings), m_reporter(surroundings.dialogs), Merovel(std::move(dictionary)),
       m_boxes(*this), m_parts{*this, ui, m_surroundings, Merovel, m_reporter, m_boxes, ControlsUpdating},
-      m_editor(m_parts), m_keywords(m_parts), m_search(m_parts, m_editor), m_actions(m_parts, m_editor)
+      m_editor(m_parts), m_keywords(m_parts), m_search(m_parts, m_editor), m_actions(m_parts, m_editor),
+      m_helpKey(m_surroundings)
 {
     connect(&m_keywords, &KeywordPane::chosen, &m_editor.osPane(), &OsPane::insertKeyword);
     connectButtons();
+    connectKeys();
     connectMenus();
     limitBoxHeights(ui);
     loadSettings();
@@ -100,6 +105,15 @@ void ControlForm::connectButtons()
     connect(ui.BatchShower, &QPushButton::clicked, &m_actions, &ListActions::showBatch);
 }
 
+/// Keys that no button or menu item has.
+void ControlForm::connectKeys()
+{
+    new GapKeys(*this);
+    connect(new QShortcut(Qt::Key_F2, this), &QShortcut::activated, &m_editor, &Editor::editValue);
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
+            [this] { ui.MenuBar->setActiveAction(ui.menuFile->menuAction()); });
+}
+
 /// What is rebuilt is read basic, so the choice is there only for what is kept.
 void ControlForm::offerReading(bool keeps)
 {
@@ -114,6 +128,11 @@ void ControlForm::connectMenus()
     ui.menuOptions->setToolTipsVisible(true);
     connect(ui.menuKeepUntouched, &QAction::toggled, this, &ControlForm::offerReading);
     offerReading(ui.menuKeepUntouched->isChecked());
+    connect(ui.menuFindFiles, &QAction::triggered, this, [this] { m_search.findFiles(); });
+    connect(ui.menuFindWords, &QAction::triggered, this, [this] { m_search.findFiles(FileSearch::Start::Words); });
+    connect(new RecentMenu(*ui.menuRecent, m_surroundings.settings), &RecentMenu::chosen, this,
+            [this](const QString& folder) { m_search.openRecent(folder); });
+    connect(ui.menuReadAgain, &QAction::triggered, &m_editor, &Editor::readAgain);
     connect(ui.menuFileSave, &QAction::triggered, this, [this] {
         m_boxes.moveFocusTo(*ui.FileSaver);
         m_editor.saveAndReopen();
@@ -142,13 +161,12 @@ void ControlForm::loadSettings()
 {
     const Settings& settings = m_surroundings.settings;
     const QString folder = pathText(m_surroundings.folders.data);
-    const QString folderWithoutSeparator = folder.chopped(1);
     PlacementLoad(*this, settings, objectName(), QStringLiteral("0,0,11655,8505"));
     for (const SplitterSetting& setting : kSplitterSettings)
         splitterLoad(*(ui.*setting.splitter), settings, QLatin1String(setting.whenMissing));
     columnsLoad(*ui.NodeTree, settings, QStringLiteral("150"));
     m_keywords.load(toPath(settings.GetSetting(QStringLiteral("Keywords"), folder + QStringLiteral("keywords.txt"))));
-    m_search.settings = loadScanSettings(settings, folderWithoutSeparator);
+    m_search.settings = loadScanSettings(settings, firstFolder());
     for (const OptionSetting& option : kOptionSettings)
         (ui.*option.item)->setChecked(settings.choice(QLatin1String(option.key), option.whenMissing));
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "document/TagDictionary.h"
+#include "ui/App/HelpKey.h"
 #include "ui/App/MessageReporter.h"
 #include "ui/App/Surroundings.h"
 #include "ui/ControlForm/EditedBoxes.h"
@@ -44,6 +45,7 @@ private:
     };
 
     void connectButtons();
+    void connectKeys();
     void connectMenus();
     void offerReading(bool keeps);
     void loadSettings();
@@ -60,6 +62,7 @@ private:
     KeywordPane m_keywords;
     FileSearch m_search;
     ListActions m_actions;
+    HelpKey m_helpKey;
 };
 
 } // namespace ovisto

@@ -181,6 +181,13 @@ void Editor::reset()
                                                "nodes removed according to the Options menu."));
 }
 
+void Editor::readAgain()
+{
+    m_parts.boxes.leaveFocused();
+    m_list.selectShownFile();
+    OpenSelectedFile();
+}
+
 void Editor::runVerb(Verb verb)
 {
     if (m_file.isOpen())

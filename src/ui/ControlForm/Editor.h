@@ -53,6 +53,10 @@ public:
     void saveXml();
     /// Opens it again, discarding its changes.
     void reset();
+    /// Opens it again, as another program may have left it, and offers to save its changes before.
+    void readAgain();
+    /// Puts the caret into the value of the selected property.
+    void editValue() { m_properties.editValue(); }
     /// The same for a file whose changes were given up.
     void openAgain();
     void runVerb(Verb verb);

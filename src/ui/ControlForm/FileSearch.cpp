@@ -3,6 +3,7 @@
 #include "ui/ControlForm/FileSearch.h"
 
 #include "collection/FolderScan.h"
+#include "ui/App/RecentFolders.h"
 #include "ui/App/Text.h"
 #include "ui/BrowserCapForm/BrowserCapForm.h"
 #include "ui/ControlForm/FailureMessages.h"
@@ -14,10 +15,13 @@
 
 namespace ovisto {
 
-bool FileSearch::findFiles()
+bool FileSearch::findFiles(Start start)
 {
     {
-        BrowserCapForm chooser(settings, m_parts.surroundings.dialogs, &m_parts.window);
+        const Surroundings& around = m_parts.surroundings;
+        BrowserCapForm chooser(settings, around.settings, around.dialogs, &m_parts.window);
+        if (start == Start::Words)
+            chooser.focusWords();
         chooser.exec();
         if (chooser.Cancelled())
             return false;
@@ -38,6 +42,7 @@ void FileSearch::scanFolder()
     trap.run([&] { scan.emplace(scanOptions(settings, values())); });
     if (trap.pending())
         return m_parts.surroundings.dialogs.show(toQString(Message::FolderNotFound));
+    rememberFolder(settings.FolderNameSelected, m_parts.surroundings.settings);
     std::vector<std::string> found;
     clearList();
     ScanReports reports(m_parts.reporter);
@@ -46,6 +51,13 @@ void FileSearch::scanFolder()
         scan->run(found, progress, reports);
     });
     listFiles({std::move(found), {}}, reports);
+}
+
+void FileSearch::openRecent(const QString& folder)
+{
+    settings.FolderNameSelected = folder;
+    rememberFolder(folder, m_parts.surroundings.settings);
+    findFilesAmong({toPath(folder)});
 }
 
 ValueTexts FileSearch::values() const

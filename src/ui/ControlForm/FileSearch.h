@@ -23,8 +23,13 @@ public:
     /// What to look for, as last chosen.
     ScanSettings settings;
 
+    /// What the user is asked for first.
+    enum class Start { Folder, Words };
+
     /// Lets the user choose a folder, and lists the files in it. Returns false if the user cancels.
-    bool findFiles();
+    bool findFiles(Start start = Start::Folder);
+    /// Lists the files in a folder searched before, whatever they contain. It is the newest one from now on.
+    void openRecent(const QString& folder);
     /// Lists the named files, and those in the named folders, whatever they contain.
     void findFilesAmong(const std::vector<std::string>& names);
 

@@ -28,6 +28,7 @@ LeftOutLine::LeftOutLine(const WindowParts& parts) : ui(parts.ui), m_label(*new 
 {
     m_label.setObjectName(QStringLiteral("LeftOutLine"));
     m_label.setTextFormat(Qt::RichText);
+    m_label.setAccessibleDescription(tr("Enter opens the menu at the option"));
     m_label.setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     parts.window.statusBar()->addPermanentWidget(&m_label);
     connect(&m_label, &QLabel::linkActivated, this, &LeftOutLine::showOption);

@@ -14,9 +14,11 @@
 #include "ui/ControlForm/ValueLine.h"
 #include "ui/NodeAddForm/NodeAddForm.h"
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QHeaderView>
 #include <QScopedValueRollback>
+#include <QShortcut>
 
 #include <algorithm>
 #include <filesystem>
@@ -58,6 +60,9 @@ PropertyPane::PropertyPane(const WindowParts& parts, ShownFile& file)
     connect(ui.NodeText, &TextBox::textChanged, this, &PropertyPane::nodeTextChanged);
     connect(ui.NodeAdder, &QPushButton::clicked, this, &PropertyPane::addNode);
     connect(ui.NodeDeleter, &QPushButton::clicked, this, &PropertyPane::deleteNode);
+    auto* deleteKey = new QShortcut(Qt::Key_Delete, ui.NodeTree, nullptr, nullptr, Qt::WidgetShortcut);
+    deleteKey->setAutoRepeat(false); // or a key held down too long takes the neighbours
+    connect(deleteKey, &QShortcut::activated, this, &PropertyPane::deleteByKey);
     connect(ui.NodeChoice, &QComboBox::activated, this, &PropertyPane::chooseValue);
     parts.boxes.add(*ui.NodeText, [this] { leaveNodeText(); });
     m_treeWords.mostCharacters = kMostInTree;
@@ -183,6 +188,16 @@ void PropertyPane::select(const std::string& nodePath)
     }
     nodeClicked(item);
     (isLocked(CurrentProt) ? static_cast<QWidget*>(ui.NodeTree) : ui.NodeText)->setFocus();
+}
+
+void PropertyPane::editValue()
+{
+    if (!CurrentNode)
+        return ui.NodeTree->setFocus();
+    if (ui.ValueStack->currentWidget() != ui.NodeText)
+        return ui.ViewHexOpt->setFocus();
+    ui.NodeText->setFocus();
+    ui.NodeText->selectAll();
 }
 
 void PropertyPane::selectionChanged()
@@ -388,6 +403,19 @@ void PropertyPane::deleteNode()
     }
     Q_EMIT nodeDeleted();
     nodeClicked(selectedItem());
+}
+
+/// What takes more with it than can be seen on its line is asked about, as nothing brings it back by itself.
+void PropertyPane::deleteByKey()
+{
+    const QTreeWidgetItem* item = selectedItem();
+    if (!CurrentNode || item == nullptr || !ui.NodeDeleter->isEnabled())
+        return;
+    const bool takesMore = holdsNodes(CurrentNode) || isThumbnail(CurrentNode);
+    const QString question = tr("Delete %1 and all that belongs to it?").arg(item->text(0));
+    const QStringList answers{tr("&Delete"), QCoreApplication::translate("QPlatformTheme", "Cancel")};
+    if (!takesMore || m_parts.surroundings.dialogs.choose(question, answers) == 0)
+        deleteNode();
 }
 
 } // namespace ovisto

@@ -31,6 +31,9 @@ public:
     void showReason(const QString& reason);
     /// Selects the node at a path, and puts the caret into its box. Nothing happens if the tree does not show it.
     void select(const std::string& nodePath);
+    /// Puts the caret into the value of the selected node; where a picture is in its place, the focus goes to the
+    /// choice that shows the value. Without a node, the focus goes to the tree.
+    void editValue();
 
 Q_SIGNALS:
     /// A node was added; show the tree again, and this node in it.
@@ -65,6 +68,7 @@ private:
     void showChangedValue();
     void addNode();
     void deleteNode();
+    void deleteByKey();
 
     const WindowParts& m_parts;
     Ui::ControlForm& ui;

@@ -2,6 +2,7 @@
 
 #include "ui/PrivateForm/PrivateForm.h"
 
+#include "ui/App/GapKeys.h"
 #include "ui/App/Text.h"
 
 #include <QHeaderView>
@@ -38,6 +39,7 @@ QString noteText(const PrivateFinding& finding)
 PrivateForm::PrivateForm(PrivateList& list, QWidget* owner) : QDialog(owner), m_list(list)
 {
     ui.setupUi(this);
+    new GapKeys(*this);
     showFindings();
     connect(ui.FindingList, &QTreeWidget::itemChanged, this,
             [this] { ui.FindingDeleter->setEnabled(!selected().empty()); });
