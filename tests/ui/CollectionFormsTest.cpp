@@ -9,9 +9,9 @@
 #include "ui/BrowserCapForm/BrowserCapForm.h"
 #include "ui/ProgressForm/ProgressForm.h"
 
-#include <QAccessible>
 #include <QDir>
 #include <QFile>
+#include <QMenu>
 #include <QScopedValueRollback>
 
 namespace ovisto::test {
@@ -491,27 +491,86 @@ private Q_SLOTS:
         QCOMPARE(window.desktop.done.size(), 2);
     }
 
-    void tellsTheNameOfEveryControl()
+    void offersRecentFolders()
     {
-        const TagDictionary Merovel(OVISTO_SOURCE_FOLDER "/data/Merovel.xml");
-        Window window{"night.jpg"};
-        const BrowserCapForm chooser(jpegsIn(QDir::homePath()), window.settings(), window.dialogs, nullptr);
-        const FoundFiles files;
-        const BatchForm batch(
-            Merovel, true, [] { return Reading::Full; }, files, window.dialogs, nullptr);
-        const ProgressForm progress(nullptr);
-        BatchResults results({});
-        const BatchResultForm result(results, nullptr);
-        for (const QWidget* form :
-             std::initializer_list<const QWidget*>{&window.form(), &chooser, &batch, &progress, &result}) {
-            QVERIFY(!form->windowTitle().isEmpty());
-            for (QWidget* control : form->findChildren<QWidget*>()) {
-                const QString name = control->objectName();
-                if (!name.isEmpty() && !name.startsWith(u"qt_"_s) && control->focusPolicy() != Qt::NoFocus)
-                    QVERIFY2(!QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name).isEmpty(),
-                             qPrintable(name));
-            }
-        }
+        ThreeWindow window; // files that are named are no folder to come back to
+        const QString below = window.folder() + u"/below & beyond"_s;
+        QVERIFY(QDir().mkpath(below));
+        window.copy("night.jpg", "below & beyond/4.jpg");
+        const auto items = [](QMenu& menu) {
+            Q_EMIT menu.aboutToShow();
+            return menu.actions();
+        };
+        QMenu& menu = window.control<QMenu>("menuRecent");
+        QVERIFY(!items(menu).first()->isEnabled());
+        window.find(jpegsIn(below));
+        ScanSettings nothing = jpegsIn(window.folder());
+        nothing.SearchWords = u"nonsense"_s;
+        window.find(nothing);
+        QVERIFY(window.saysOf({kNothingFound}));
+        QCOMPARE(items(menu).size(), 4);
+        QVERIFY(menu.actions()[1]->text().endsWith(u"below && beyond"_s));
+        menu.actions()[1]->trigger(); // whatever its files contain
+        QCOMPARE(window.listed(), u"4.jpg"_s);
+        whenOpen<BrowserCapForm>([&](BrowserCapForm& form) {
+            QVERIFY(!controlOf<QLabel>(form, "FirstHint").isVisible());
+            QMenu& recent = *controlOf<QToolButton>(form, "FolderRecent").menu();
+            QCOMPARE(form.SelectedFolder(), below);
+            items(recent)[1]->trigger();
+            QCOMPARE(form.SelectedFolder(), window.folder());
+            recent.actions().last()->trigger();
+            form.reject();
+        });
+        window.click("FileFinder");
+        QVERIFY(!items(menu).first()->isEnabled());
+    }
+
+    void worksWithoutAMouse()
+    {
+        Window window;
+        window.copy("night.jpg");
+        const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+            if (!QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }))
+                qFatal("no control has the focus");
+            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        };
+        const auto isInFront = [](BrowserCapForm& form) { return form.isActiveWindow(); };
+        const auto typeFolder = [&](BrowserCapForm& form) {
+            QVERIFY(controlOf<QLabel>(form, "FirstHint").isVisible());
+            press(Qt::Key_F1);
+            while (QApplication::focusWidget()->objectName() != u"FolderPath"_s)
+                press(Qt::Key_Backtab);
+            QTest::keyClicks(QApplication::focusWidget(), window.folder());
+            press(Qt::Key_Return);
+        };
+        whenOpen<BrowserCapForm>(typeFolder, isInFront);
+        window.open({});
+        QCOMPARE(window.desktop.done, QStringList(u"open " OVISTO_SOURCE_FOLDER "/data/help/find-files.html"_s));
+        const auto& tree = window.control<QTreeWidget>("NodeTree");
+        while (tree.currentItem()->text(0) != u"Image Description"_s)
+            press(Qt::Key_Down);
+        press(Qt::Key_F2);
+        QTest::keyClicks(QApplication::focusWidget(), u"by keys"_s);
+        press(Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(inFile(window.path("night.jpg"), kDescription), "by keys");
+
+        const auto focusAt = [&](Qt::Key key) {
+            QString name;
+            whenOpen<BrowserCapForm>(
+                [&](BrowserCapForm& form) {
+                    name = form.focusWidget()->objectName();
+                    form.reject();
+                },
+                isInFront);
+            press(key, Qt::ControlModifier);
+            window.form().activateWindow(); // which a window manager does
+            return name;
+        };
+        QCOMPARE(focusAt(Qt::Key_O), u"FolderTree"_s);
+        QCOMPARE(focusAt(Qt::Key_F), u"SearchWords"_s);
+        press(Qt::Key_F10);
+        QCOMPARE(QApplication::activePopupWidget(), &window.control<QMenu>("menuFile"));
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     }
 };
 

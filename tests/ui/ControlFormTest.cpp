@@ -734,21 +734,83 @@ private Q_SLOTS:
         QVERIFY(window.isEnabled("FileSaver") && window.dialogs.messages.isEmpty());
     }
 
-    void goesFromControlToControlInReadingOrder()
+    void deletesByKeyInTheTreeOnly()
     {
-        Window window{"little-endian.jpg"};
+        Window window{"portrait.jpg"};
+        const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+        window.select("/JPEG");
+        press(Qt::Key_Delete); // which is required
         window.select(kDescription);
-        window.control<QWidget>("FileFinder").setFocus();
-        QStringList order;
-        do {
-            order << QApplication::focusWidget()->objectName();
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        } while (QApplication::focusWidget()->objectName() != u"FileFinder"_s && order.size() < 99);
-        QCOMPARE(order.join(u' '), u"FileFinder FilesFoundList FilePickerPrev FilePickerNext SlideShower BatchShower "
-                                   "KeywordList KeywordLoader FileTitle FileComments FileSubject FileKeywords "
-                                   "FilePropPaster FileSaver FileReset NodeTree ViewHexOpt NodeText NodeHelp "
-                                   "NodeAdder NodeDeleter"_s);
-        QVERIFY(!window.isChanged());
+        press(Qt::Key_F2);
+        press(Qt::Key_Delete);
+        QVERIFY(window.item("/JPEG") && window.item(kDescription) && window.text("NodeText").isEmpty());
+        window.select(kDescription);
+        press(Qt::Key_Delete);
+        QVERIFY(!window.item(kDescription) && window.dialogs.messages.isEmpty());
+        for (const char* path : {kThumbnail, kExifIfd}) { // a thumbnail takes the group around it
+            window.dialogs.choices = {1, 0};
+            window.select(path);
+            press(Qt::Key_Delete);
+            QVERIFY(window.item(path));
+            press(Qt::Key_Delete);
+            QVERIFY(!window.item(path) && window.dialogs.taken().size() == 2);
+        }
+    }
+
+    void readsAgain()
+    {
+        Window window{"night.jpg"};
+        const auto valueAfterF5 = [&] {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F5);
+            return window.text("NodeText");
+        };
+        window.select(kDescription);
+        setInFile(window.path("night.jpg"), kDescription, "other");
+        QCOMPARE(valueAfterF5(), u"other"_s);
+        QVERIFY(window.dialogs.messages.isEmpty());
+        window.edit(kDescription, u"typed"_s);
+        window.dialogs.answers = {false};
+        QCOMPARE(valueAfterF5(), u"other"_s);
+        window.edit(kDescription, u"typed"_s);
+        window.dialogs.answers = {true};
+        QCOMPARE(valueAfterF5(), u"typed"_s);
+        QCOMPARE(inFile(window.path("night.jpg"), kDescription), "typed");
+    }
+
+    void movesGapsByKeys()
+    {
+        Window window{"night.jpg"};
+        const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+        const auto& columns = window.control<QSplitter>("ControlFormColumns");
+        const auto& tree = window.control<QTreeWidget>("NodeTree");
+        window.form().resize(1200, 800);
+        QTest::qWait(0);
+        const int width = columns.sizes()[0];
+        press(Qt::Key_F8);
+        press(Qt::Key_Right);
+        press(Qt::Key_Right);
+        QVERIFY(columns.sizes()[0] > width);
+        press(Qt::Key_Left);
+        press(Qt::Key_Left);
+        press(Qt::Key_Up);
+        QCOMPARE(columns.sizes()[0], width);
+        for (const int to : {0, 1}) { // the least that there must be, and the most
+            press(to == 0 ? Qt::Key_Home : Qt::Key_End);
+            const QWidget& mark = *QApplication::focusWidget();
+            const QWidget& gap = *columns.handle(1);
+            QCOMPARE(mark.geometry(), QRect(gap.mapTo(&window.form(), QPoint()), gap.size()));
+        }
+        QVERIFY(columns.sizes()[0] > width && columns.sizes()[1] > 0);
+        const int label = tree.columnWidth(0);
+        int gaps = 1;
+        for (; tree.columnWidth(0) == label && gaps < 9; ++gaps) {
+            press(Qt::Key_F8);
+            press(Qt::Key_Down);
+            press(Qt::Key_Right);
+        }
+        QCOMPARE(gaps, 6);
+        press(Qt::Key_Escape);
+        QCOMPARE(QApplication::focusWidget(), &tree);
     }
 
     void opensThePictureElsewhere()

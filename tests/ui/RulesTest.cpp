@@ -9,6 +9,7 @@
 #include "ui/App/LocaleWords.h"
 #include "ui/App/PictureFit.h"
 #include "ui/App/Placement.h"
+#include "ui/App/RecentFolders.h"
 #include "ui/App/ScanSettings.h"
 #include "ui/App/Settings.h"
 #include "ui/BrowserCapForm/FolderTree.h"
@@ -330,6 +331,41 @@ private Q_SLOTS:
         QVERIFY(loadScanSettings(settings, {}) == scan);
         settings.SaveSetting(u"SubFolderScan"_s, u"yes"_s);
         QVERIFY(!settings.choice(u"SubFolderScan"_s, true));
+    }
+
+    void remembersRecentFolders()
+    {
+        const QTemporaryDir folder;
+        Settings settings(folder.filePath(u"settings.ini"_s));
+        const auto remember = [&](int name) { rememberFolder(folder.filePath(u"%1/"_s.arg(name)), settings); };
+        for (int name = 0; name < 12; ++name) {
+            QVERIFY(QDir(folder.path()).mkdir(QString::number(name)));
+            remember(name);
+        }
+        remember(3);
+        QVERIFY(QDir(folder.path()).rmdir(u"5"_s));
+        QString names;
+        for (const QString& recent : recentFolders(settings))
+            names += QDir(recent).dirName() + u' ';
+        QCOMPARE(names, u"3 11 10 9 8 7 6 4 2 "_s);
+        forgetFolders(settings);
+        QVERIFY(!wasFolderChosen(settings));
+        settings.SaveSetting(u"Folder"_s, folder.path());
+        QVERIFY(wasFolderChosen(settings));
+    }
+
+    void beginsWithThePicturesFolder()
+    {
+        const QTemporaryDir folder;
+        const QString pictures = folder.filePath(u"Obrazy"_s);
+        writeTextFile(folder.filePath(u"user-dirs.dirs"_s).toStdString(),
+                      "XDG_PICTURES_DIR=\"" + pictures.toStdString() + "\"\n");
+        const QByteArray config = qgetenv("XDG_CONFIG_HOME");
+        qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+        QCOMPARE(firstFolder(), QDir::homePath());
+        QVERIFY(QDir().mkdir(pictures));
+        QCOMPARE(firstFolder(), pictures);
+        qputenv("XDG_CONFIG_HOME", config);
     }
 
     void turnsPictures()
