@@ -158,7 +158,7 @@ shoot choose
 rmdir "$photographs"/{1985..2025}
 mkdir "$photographs/Archive"
 for ((i = 10000; i < 40000; ++i)); do ln "$photographs/night.jpg" "$photographs/Archive/night $i.jpg"; done
-xdotool windowfocus "$(front)"; key shift+Tab shift+Tab shift+Tab
+xdotool windowfocus "$(front)"; key shift+Tab shift+Tab shift+Tab shift+Tab
 xdotool type --delay 10 "$photographs/Archive"
 key Return
 sleep 1

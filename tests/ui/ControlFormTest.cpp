@@ -786,6 +786,7 @@ private Q_SLOTS:
         window.form().resize(1200, 800);
         QTest::qWait(0);
         const int width = columns.sizes()[0];
+        press(Qt::Key_F8); // between the lists
         press(Qt::Key_F8);
         press(Qt::Key_Right);
         press(Qt::Key_Right);
@@ -802,7 +803,7 @@ private Q_SLOTS:
         }
         QVERIFY(columns.sizes()[0] > width && columns.sizes()[1] > 0);
         const int label = tree.columnWidth(0);
-        int gaps = 1;
+        int gaps = 2;
         for (; tree.columnWidth(0) == label && gaps < 9; ++gaps) {
             press(Qt::Key_F8);
             press(Qt::Key_Down);

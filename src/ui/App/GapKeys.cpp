@@ -12,6 +12,7 @@
 #include <QSplitter>
 
 #include <algorithm>
+#include <utility>
 
 namespace ovisto {
 
@@ -84,6 +85,7 @@ std::vector<Gap> gapsOf(QWidget& window)
                 gaps.push_back(columnGap(*header, column));
         }
     }
+    std::ranges::sort(gaps, {}, [](const Gap& gap) { return std::pair(gap.place().x(), gap.place().y()); });
     return gaps;
 }
 

@@ -23,7 +23,7 @@ struct Gap {
     std::function<void(int)> move; ///< changes that size, as far as there is room
 };
 
-/// The gaps of a window that are visible, in the order of its controls.
+/// The gaps of a window that are visible, from left to right and from the top down.
 std::vector<Gap> gapsOf(QWidget& window);
 
 /// Stands on a gap while keys move it, and shows where it is.

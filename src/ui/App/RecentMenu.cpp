@@ -41,7 +41,9 @@ void RecentMenu::fill()
     if (folders.isEmpty())
         m_menu.addAction(tr("No folder was searched yet"))->setEnabled(false);
     m_menu.addSeparator();
-    connect(m_menu.addAction(tr("&Clear This List")), &QAction::triggered, this, [this] { forgetFolders(m_settings); });
+    QAction* clear = m_menu.addAction(tr("&Clear This List"));
+    clear->setEnabled(!folders.isEmpty());
+    connect(clear, &QAction::triggered, this, [this] { forgetFolders(m_settings); });
 }
 
 } // namespace ovisto
