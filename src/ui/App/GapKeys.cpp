@@ -148,7 +148,8 @@ void GapMark::keyPressEvent(QKeyEvent* event)
 
 void GapMark::focusOutEvent(QFocusEvent* event)
 {
-    const bool comesBack = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+    const bool comesBack = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason ||
+                           event->reason() == Qt::MenuBarFocusReason;
     if (!comesBack)
         hide();
 }
