@@ -128,15 +128,17 @@ bool isReadBefore(const QWidget& control, const QWidget& other)
 /// The controls that a key leads to, from the first one on and round to it.
 QList<QWidget*> round(QWidget& form, QWidget& first, Qt::Key key)
 {
-    constexpr qsizetype kMost = 100;
+    constexpr int kMost = 100;
     QList<QWidget*> reached{&first};
     first.setFocus();
-    while (reached.size() < kMost) {
+    for (int pressed = 0; pressed < kMost; ++pressed) {
         QTest::keyClick(form.focusWidget(), key);
-        if (form.focusWidget() == &first)
+        QWidget* next = form.focusWidget();
+        if (next == reached.last()) // a label goes from link to link
+            continue;
+        if (reached.contains(next))
             break;
-        if (form.focusWidget() != reached.last()) // a label goes from link to link
-            reached << form.focusWidget();
+        reached << next;
     }
     return reached;
 }
@@ -208,16 +210,18 @@ class AccessTest : public QObject {
 private Q_SLOTS:
     void letsEveryFormBeUsedByKeysAndByEar()
     {
-        QStringList all;
+        qsizetype found = 0;
         int forms = 0;
         forEveryForm([&](const QString& name, QWidget& form) {
             ++forms;
-            const QStringList faults =
-                unheard(form) + ambiguousKeys(form) + unreached(form) + unhelped(form) + unanswered(form);
+            QStringList faults = unheard(form);
+            faults << ambiguousKeys(form) << unreached(form) << unhelped(form);
+            faults << unanswered(form); // last, as it closes a dialog
             for (const QString& fault : faults)
-                all << name + u": "_s + fault;
+                qWarning("%s: %s", qPrintable(name), qPrintable(fault));
+            found += faults.size();
         });
-        QVERIFY2(all.isEmpty(), qPrintable(all.join(u'\n')));
+        QCOMPARE(found, 0);
         QVERIFY(forms > 20);
     }
 };

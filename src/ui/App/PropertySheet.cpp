@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMimeDatabase>
+#include <QPushButton>
 
 namespace ovisto {
 
@@ -30,6 +31,8 @@ PropertySheet::PropertySheet(const std::string& path, QWidget* owner) : QDialog(
     addRow(*rows, tr("Access:"), file.isWritable() ? tr("Can be read and changed") : tr("Can be read only"));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    buttons->button(QDialogButtonBox::Close)->setAccessibleDescription(tr("Closes this window"));
+    buttons->button(QDialogButtonBox::Close)->setFocus();
     rows->addRow(buttons);
 }
 
@@ -40,6 +43,8 @@ void PropertySheet::addRow(QFormLayout& rows, const QString& caption, const QStr
     label->setMinimumWidth(kLine);
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setFocusPolicy(Qt::StrongFocus); // or its text could be selected by keys only after a click
+    label->setAccessibleDescription(caption);
     label->setWordWrap(true);
     rows.addRow(caption, label);
 }
