@@ -41,11 +41,13 @@ QList<QWidget*> inputControls(const QWidget& form)
     return controls;
 }
 
-/// What a screen reader cannot say of the controls.
-QStringList unheard(const QWidget& form)
+/// What a screen reader cannot say of the form and its controls.
+QStringList unheard(QWidget& form)
 {
     constexpr QAccessible::Role kNoRoles[] = {QAccessible::NoRole, QAccessible::Client, QAccessible::Border};
     QStringList faults;
+    if (QAccessible::queryAccessibleInterface(&form)->text(QAccessible::Name).isEmpty())
+        faults << u"the form has no name"_s;
     for (QWidget* control : inputControls(form)) {
         const QAccessibleInterface& reader = *QAccessible::queryAccessibleInterface(control);
         if (reader.text(QAccessible::Name).isEmpty())

@@ -243,8 +243,10 @@ void SlideForm::showCaption()
     const QString facts = SlideDetails{m_remark, m_shownDetails.facts}.line();
     ui.FileDetails->showTexts(m_shownDetails.title, m_fullscreen ? facts + mark : facts);
     ui.FileDetails->setVisible(m_details || !m_remark.isEmpty() || (m_fullscreen && m_clockwork.isPaused()));
+    const QString title = (hasCurrent() ? pathText(splitPath(m_wanted.front().path).name) : tr("Slide Show")) + mark;
+    setAccessibleName(title); // where there is no title, too
     if (!m_fullscreen)
-        setWindowTitle((hasCurrent() ? pathText(splitPath(m_wanted.front().path).name) : tr("Slide Show")) + mark);
+        setWindowTitle(title);
 }
 
 void SlideForm::pause()
