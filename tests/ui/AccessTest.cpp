@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QGroupBox>
 #include <QLabel>
@@ -213,9 +214,9 @@ private Q_SLOTS:
     void letsEveryFormBeUsedByKeysAndByEar()
     {
         qsizetype found = 0;
-        int forms = 0;
+        QStringList forms = QDir(QStringLiteral(OVISTO_SOURCE_FOLDER) + u"/src/ui"_s).entryList({u"*Form"_s});
         forEveryForm([&](const QString& name, QWidget& form) {
-            ++forms;
+            forms.removeAll(QString::fromLatin1(form.metaObject()->className()).section(u"::"_s, -1));
             QStringList faults = unheard(form);
             faults << ambiguousKeys(form) << unreached(form) << unhelped(form);
             faults << unanswered(form); // last, as it closes a dialog
@@ -224,7 +225,7 @@ private Q_SLOTS:
             found += faults.size();
         });
         QCOMPARE(found, 0);
-        QVERIFY(forms > 20);
+        QCOMPARE(forms, QStringList()); // all were there
     }
 };
 
