@@ -9,6 +9,7 @@
 #include "common/system/FileReplacement.h"
 #include "common/system/Process.h"
 #include "document/MetadataDocument.h"
+#include "writer/NewVersion.h"
 
 #include <algorithm>
 #include <iterator>

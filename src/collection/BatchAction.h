@@ -7,7 +7,6 @@
 #include "common/Progress.h"
 #include "document/NodeChange.h"
 #include "writer/DocumentSave.h"
-#include "writer/NewVersion.h"
 
 #include <cstddef>
 #include <functional>
@@ -18,7 +17,7 @@
 
 namespace ovisto {
 
-/// Called with the path of a file that was saved, and what became of it.
+/// Called with the path of a file that was saved, and what became of it, by the thread that runs its stretch.
 using SavedFile = std::function<void(const std::string& path, const SaveReceipt& receipt)>;
 
 /// What to do with a file that another program changes between the moments when it is read and when it is replaced.
@@ -30,8 +29,8 @@ enum class OnOtherChange {
 /// How a batch changes its files.
 struct BatchOptions {
     WritingWay way = WritingWay::Keep;
-    Reading reading = Reading::Basic; ///< rebuilding needs basic documents
-    unsigned jobs = 1;                ///< how many stretches of the files will run at the same time
+    Reading reading = Reading::Basic; ///< Full, unless it is rebuilding, which needs basic documents
+    unsigned jobs = 1; ///< how many stretches of the files you will run at the same time, each on a thread of yours
     OnOtherChange onOtherChange = OnOtherChange::Refuse;
 };
 
@@ -41,8 +40,8 @@ struct EditResult {
     Clearance clearance = {}; ///< what else the save has to take away
 };
 
-/// Edits the document of the file at `path`. Called from several threads at the same time. What goes wrong is reported
-/// to `reporter`, and raised.
+/// Edits the document of the file at `path`. Called by all threads that run stretches, at the same time. What goes
+/// wrong is reported to `reporter`, and raised.
 using DocumentEdit = std::function<EditResult(XmlDocument& document, const std::string& path, ErrorReporter& reporter)>;
 
 /// Makes one change to many JPEG files, keeping all parts of each. A file that already has the change is not written.
@@ -51,7 +50,8 @@ using DocumentEdit = std::function<EditResult(XmlDocument& document, const std::
 /// which makes room, and the file is tried once more before it fails.
 class BatchAction {
 public:
-    /// `files` must outlive the object. A path may occur in it more than once.
+    /// `files` (paths, bytes as the system gives them) must outlive the object. A path may occur in it more than once.
+    /// objection() says whether `change` can be made to any file.
     BatchAction(const std::vector<std::string>& files, NodeChange change, const BatchOptions& options = {});
     /// The same with any edit of their documents.
     BatchAction(const std::vector<std::string>& files, DocumentEdit edit, const BatchOptions& options);
@@ -68,8 +68,8 @@ public:
         run(0, m_files.size(), progress, reporter, saved);
     }
 
-    /// The same for the files from index `first` up to, not including, `last`. Stretches without a file in common may
-    /// run at the same time, each with a reporter of its own.
+    /// The same for the files from index `first` (0 is the first) up to, not including, `last`. Stretches without a
+    /// file in common may run at the same time, each with a reporter of its own.
     void run(std::size_t first, std::size_t last, Progress& progress, ErrorReporter& reporter,
              const SavedFile& saved = {}) const;
 

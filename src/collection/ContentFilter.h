@@ -15,7 +15,7 @@ namespace ovisto {
 
 /// What the metadata of a file must contain.
 struct ContentSearch {
-    std::string words;       ///< separated by commas, or one regular expression; empty for anything
+    std::string words;       ///< UTF-8, separated by commas, or one regular expression; empty for anything
     bool allWords = false;   ///< all of the words, not just any
     bool wholeWords = false; ///< only whole words; ignored for a regular expression
     bool regExp = false;     ///< `words` is a regular expression

@@ -11,15 +11,18 @@
 
 namespace ovisto {
 
-/// The document of the JPEG file at `path`. Raises the reader's error, and what documentOf() raises.
+// Paths are bytes as the system gives them. The reader's errors are those of JpegXml: kOpenFailed, kStructureError,
+// kDeviceError and kOutOfMemory.
+
+/// The document of the JPEG file at `path`, to be looked at. Raises the reader's error, and what documentOf() raises.
 XmlDocument loadDocument(const std::string& path, const KeepOptions& keep = {});
 
 /// Loads documents with nothing left out, as writing asks for it.
 DocumentReader documentReader(Reading reading);
 
-/// A JPEG file as it was read.
+/// A JPEG file as it was read: documentOf() its text can be changed, and saved by saveDocument().
 struct FileReading {
-    std::string text; ///< of its document, nothing left out
+    std::string text; ///< of its document (UTF-8), nothing left out
     FileIdentity identity;
 };
 

@@ -11,6 +11,7 @@
 #include "document/MetadataDocument.h"
 #include "document/NodePath.h"
 #include "writer/JpegRebuilding.h"
+#include "writer/NewVersion.h"
 
 #include <memory>
 #include <set>

@@ -6,7 +6,6 @@
 #include "common/xml/XmlDocument.h"
 #include "jpeg/FileIdentity.h"
 #include "writer/DocumentSave.h"
-#include "writer/NewVersion.h"
 
 #include <functional>
 #include <string>
@@ -14,10 +13,14 @@
 
 namespace ovisto {
 
+// What keeps a file from being saved: kInvalidCall, kOverflow or kTypeMismatch for a document that cannot be written or
+// an old file that was changed meanwhile (see isFileWasChanged()), else the number of what the system refused
+// (isOfSystem()).
+
 /// How a document is saved.
 struct SavingWay {
     WritingWay writing = WritingWay::Keep;
-    SparedFile isSpared{}; ///< see NewVersionOptions
+    SparedFile isSpared{}; ///< what an earlier save seems to have left, and is to stay nevertheless; see sparing()
     Clearance clearance{}; ///< what else it takes away; Keep only
 };
 
@@ -26,6 +29,8 @@ struct SavingWay {
 SparedFile sparing(const std::vector<std::string>& files);
 
 /// Saves `document` to its file at `path`, which must be the one `asRead` that the document was read from, unchanged.
+/// The new version is written under a temporary name beside it ("~" and its name), compared, brought to disk and
+/// renamed: at every moment the path leads to a whole file. Documents of several files may be saved at the same time.
 /// Raises the error that kept the file from being replaced, which has been reported; the file is then unchanged. That
 /// the saved file is not known to be on disk is reported, and said by the receipt. Rebuilding lays out the Exif
 /// elements of `document`, which must be a basic one.

@@ -9,7 +9,7 @@
 namespace ovisto {
 
 /// Matches file names against patterns such as "*.jpg;*.jpeg", separated by ";". "*" stands for any run of characters,
-/// "?" for one character. Case is ignored.
+/// "?" for one character. Case is ignored. Both are UTF-8; bytes of a name that are not count as "?".
 class FilePattern {
 public:
     explicit FilePattern(std::string_view patterns);

@@ -14,10 +14,10 @@ namespace ovisto {
 
 /// Which files to find.
 struct ScanOptions {
-    std::string folder;
-    std::string patterns = "*.jpg;*.jpeg";
-    bool subFolders = true; ///< including subfolders
-    bool append = false;    ///< to the existing list instead of an empty one
+    std::string folder;                    ///< bytes, as the system gives them
+    std::string patterns = "*.jpg;*.jpeg"; ///< see FilePattern
+    bool subFolders = true;                ///< including subfolders
+    bool append = false;                   ///< to the existing list instead of an empty one
     ContentSearch content;
 };
 

@@ -3,6 +3,7 @@
 #include "collection/FolderWalk.h"
 
 #include "common/system/File.h"
+#include "common/system/FileListing.h"
 #include "common/system/FileNames.h"
 #include "writer/Leftover.h"
 

@@ -5,7 +5,7 @@
 #include "collection/FilePattern.h"
 #include "common/ErrorReport.h"
 #include "common/Progress.h"
-#include "common/system/FileListing.h"
+#include "common/system/FileId.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -28,9 +28,9 @@ public:
 
     /// A file and its place among the files of its folder.
     struct File {
-        std::string path;
-        std::size_t place = 0;
-        std::size_t count = 0;
+        std::string path;      ///< begins with the folder as it was given
+        std::size_t place = 0; ///< the first is 0
+        std::size_t count = 0; ///< of the files whose names match
     };
 
     /// The next file; nothing after the last one, or when `progress`, which is called for each folder below the first,

@@ -78,7 +78,7 @@ struct PrivateFinding {
     std::int64_t size = 0; ///< bytes of the file
     Phrase place{};        ///< the path of its node, or words
     Removal removal = Removal::Node;
-    XmlNode node{};
+    XmlNode node{};        ///< valid as long as its document
     std::string value{};   ///< the new one of the node
     bool isClosed = false; ///< the program cannot look into it
     Phrase obstacle{};

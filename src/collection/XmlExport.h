@@ -15,8 +15,8 @@ std::string exportPath(const std::string& imagePath);
 /// Removes the attributes that the program uses only while it shows or lays out a document.
 void removeBookkeeping(XmlDocument& document);
 
-/// Writes `document`, without bookkeeping, to the export file of `imagePath`, replacing it. `document` itself is
-/// unchanged. Errors are reported and raised.
+/// Writes `document`, without bookkeeping and in UTF-8, to the export file of `imagePath`, replacing it. `document`
+/// itself is unchanged. Errors are reported and raised.
 void exportDocument(const XmlDocument& document, const std::string& imagePath, ErrorReporter& reporter);
 
 } // namespace ovisto

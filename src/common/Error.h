@@ -10,26 +10,28 @@
 
 namespace ovisto {
 
-/// What went wrong: a number that stays the same in every language, and a phrase for the person in front.
+/// What went wrong: a number that stays the same in every language, and a phrase for the person in front. A function
+/// that raises an error throws one of these; running out of memory may throw what the standard library throws. Errors
+/// are not derived from std::exception.
 struct Error {
     int number = 0;
     Phrase description;
-    std::string node{}; ///< the path of the node that cannot be written, where one is at fault
+    std::string node{}; ///< the path of the node that cannot be written (see NodeXPath()), where one is at fault
 };
 
 // Failures of the system and of conversions.
-inline constexpr int kInvalidCall = 5;
-inline constexpr int kOverflow = 6;
-inline constexpr int kOutOfMemory = 7;
-inline constexpr int kTypeMismatch = 13;
-inline constexpr int kFileNotFound = 53;
-inline constexpr int kInternalError = 51;
-inline constexpr int kDeviceError = 57;
-inline constexpr int kDiskFull = 61;
-inline constexpr int kPermissionDenied = 70;
-inline constexpr int kPathAccessError = 75;
-inline constexpr int kPathNotFound = 76;
-inline constexpr int kObjectNotSet = 91;
+inline constexpr int kInvalidCall = 5;       ///< what was asked for makes no sense or is refused; nothing was done
+inline constexpr int kOverflow = 6;          ///< a number does not fit
+inline constexpr int kOutOfMemory = 7;       ///< or a limit was reached that keeps a hostile file from taking it all
+inline constexpr int kTypeMismatch = 13;     ///< a text is no number
+inline constexpr int kFileNotFound = 53;     ///< there is no such file or folder
+inline constexpr int kInternalError = 51;    ///< a library failed
+inline constexpr int kDeviceError = 57;      ///< a disk failed while reading or writing
+inline constexpr int kDiskFull = 61;         ///< also: a quota or the largest file size is reached
+inline constexpr int kPermissionDenied = 70; ///< also: another save is writing the same file
+inline constexpr int kPathAccessError = 75;  ///< not a regular file, or anything else that the system says
+inline constexpr int kPathNotFound = 76;     ///< what has to be a folder of the path is none
+inline constexpr int kObjectNotSet = 91;     ///< something that is needed is missing
 
 // The program's own failures.
 inline constexpr int kOpenFailed = -2147221504;     ///< a file cannot be opened, or an XML file cannot be parsed

@@ -9,7 +9,8 @@
 
 namespace ovisto {
 
-/// Receives error reports: a message box, a terminal, a test.
+/// Receives error reports: a message box, a terminal, a test. It is called on the thread that does the work, so threads
+/// that work at the same time need a reporter each. A program that only looks at what is raised passes a FirstReport.
 class ErrorReporter {
 public:
     ErrorReporter() = default;

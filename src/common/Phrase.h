@@ -12,7 +12,8 @@
 namespace ovisto {
 
 /// Something said to a person, still without words: a message and its details, which may be phrases themselves. Or a
-/// text that is the same in every language: a path, a number, the reason that another library gives.
+/// text (UTF-8; a path, as it is) that is the same in every language: a path, a number, the reason that another library
+/// gives.
 class Phrase {
 public:
     Phrase() = default;
@@ -33,7 +34,8 @@ public:
     /// The phrase, its words cut after `most` characters (and "..." put there).
     Phrase shortened(std::size_t most) const;
 
-    /// The words. `textOf` gives the text of a message in the language wanted.
+    /// The words. `textOf` gives the text of a message in the language wanted, with %1, %2 and so on for its details,
+    /// as sourceText() has it.
     std::string words(const std::function<std::string(Message)>& textOf) const;
 
     bool operator==(const Phrase&) const = default;
@@ -45,7 +47,7 @@ private:
     std::size_t m_most = std::string::npos;
 };
 
-/// The words of `phrase` in English.
+/// The words of `phrase` in English, UTF-8.
 std::string inEnglish(const Phrase& phrase);
 
 } // namespace ovisto

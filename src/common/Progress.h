@@ -7,7 +7,8 @@
 
 namespace ovisto {
 
-/// Watches a long loop over files: a dialog, a terminal, a test.
+/// Watches a long loop over files: a dialog, a terminal, a test. It is called on the thread that runs the loop. Paths
+/// are bytes as the system gives them.
 class Progress {
 public:
     Progress() = default;

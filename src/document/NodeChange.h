@@ -19,7 +19,7 @@ enum class NodeAction { Set, Delete, Add };
 struct NodeChange {
     NodeAction action = NodeAction::Set;
     DictionaryEntry entry{}; ///< of the node
-    std::string value{};     ///< the new text, for Set
+    std::string value{};     ///< the new text (UTF-8), for Set; as nodeValue() has it
     XmlNode node{};          ///< the node itself, for one document; without it, the first one at the entry's path
     /// The path of the node as a person named it: a document with several such nodes is not changed. The entry may then
     /// be missing, if it is the path of an entry of a directory.

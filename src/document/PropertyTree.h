@@ -12,12 +12,13 @@
 namespace ovisto {
 
 /// A node of a metadata document as the user sees it. `Node` is an XmlNode, or a ConstXmlNode of a const document.
+/// Valid as long as document and dictionary.
 template <class Node> struct ShownNode {
     Node node;
     DictionaryEntry entry;
     std::string path;  ///< as NodeXPath() writes it
     std::string label; ///< the entry's, or the node's id without one; in UTF-8
-    int depth = 0;     ///< levels below the root element
+    int depth = 0;     ///< levels below the root element, which has 0
 };
 using PropertyItem = ShownNode<ConstXmlNode>;
 

@@ -52,10 +52,10 @@ private:
 };
 
 /// What is known about the nodes of metadata documents. The dictionary mirrors a document, so a node's path also
-/// selects its entry.
+/// selects its entry. Several threads may use one at once.
 class TagDictionary {
 public:
-    /// Loads the dictionary file. Raises what XMLLoad() raises.
+    /// Loads the dictionary file, ProgramFolder().data + "Merovel.xml" as a rule. Raises what XMLLoad() raises.
     explicit TagDictionary(const std::string& path);
 
     /// The entry for a node path, as NodeXPath() writes it or any other that selects it; no entry where it selects

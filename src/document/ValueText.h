@@ -33,7 +33,7 @@ struct EnumeratedValue {
 /// values, are not among them.
 std::vector<EnumeratedValue> enumeratedValues(const DictionaryEntry& entry, Reading reading);
 
-/// Where the texts of values come from. Both must outlive it.
+/// Where the texts of values come from. Both must outlive it; several threads may use one at once.
 struct ValueTexts {
     const TagDictionary* dictionary = nullptr; ///< without it, all values stay as they are
     const ValueWords* words = &englishValueWords();

@@ -12,9 +12,9 @@
 namespace ovisto {
 
 struct TimeOfDay {
-    int hour = 0;
-    int minute = 0;
-    double second = 0;
+    int hour = 0;      ///< 0 to 23
+    int minute = 0;    ///< 0 to 59
+    double second = 0; ///< 0 to less than 61
 };
 
 /// A date, a time, or both.
@@ -24,7 +24,8 @@ struct Moment {
 };
 
 /// The words, and the forms of numbers and dates, that values are shown in: English, with dates as ISO 8601 writes
-/// them. A window derives those of its language.
+/// them. A window derives those of its language. Where values are put into words by several threads, they call one
+/// object at the same time. All texts are UTF-8.
 class ValueWords {
 public:
     ValueWords() = default;

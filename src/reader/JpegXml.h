@@ -21,13 +21,15 @@ struct Translation {
     std::optional<Error> error;
 };
 
-/// Reads a JPEG file and returns its metadata as an XML document.
+/// Reads a JPEG file and returns its metadata as an XML document. Several threads may use one at once. docs/format.md
+/// describes the document.
 class JpegXml {
 public:
-    /// Translates the file at `FileName`. The error is kOpenFailed if it cannot be opened and kStructureError if it is
-    /// not a sound JPEG file; its description is the message followed by the file name. It is kDeviceError if the disk
-    /// fails, and kOutOfMemory if the directories repeat the same bytes until textLimit() is reached. After any other
-    /// fault of a file, only what could not be read is missing from the text.
+    /// Translates the file at `FileName` (bytes, as the system gives them). The error is kOpenFailed if
+    /// it cannot be opened and kStructureError if it is not a sound JPEG file; its description is the message followed
+    /// by the file name. It is kDeviceError if the disk fails, and kOutOfMemory if the directories repeat the same
+    /// bytes until textLimit() is reached. After any other fault of a file, only what could not be read is missing from
+    /// the text.
     Translation XMLtranslate(const std::string& FileName, const KeepOptions& keep = {}) const;
 
     /// The same for a file that is open. `FileName` is what it was opened by.

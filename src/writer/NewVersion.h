@@ -11,7 +11,6 @@
 #include "writer/SaveReceipt.h"
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,9 +22,6 @@ enum class ReadOnlyFails {
     AtTheEnd, ///< its new version is written, and stays
     AtOnce    ///< nothing is written: among many, it would only take space
 };
-
-/// Whether the complete file at a path stays, though it has the temporary name and the image of another one.
-using SparedFile = std::function<bool(const std::string& path)>;
 
 /// What a new version is made for.
 struct NewVersionOptions {

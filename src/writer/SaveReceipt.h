@@ -29,7 +29,7 @@ enum class Original {
 struct SaveReceipt {
     std::size_t changed = 0;    ///< values and segments that are not as they were, as they should be
     std::size_t unchanged = 0;  ///< those that are as they were
-    std::vector<Phrase> losses; ///< what differs beyond the changes
+    std::vector<Phrase> losses; ///< what differs beyond the changes; Keep refuses to save where there would be any
     std::string lostNode{};     ///< the path of the node that the first loss is about, where it is one of the document
     Original original = Original::NotNeeded;
     std::string originalName{};       ///< the path of the kept original

@@ -10,8 +10,8 @@
 
 namespace ovisto {
 
-/// Why `node`, an entry of an Exif directory, could not be written with the value `value`: not a number, out of range,
-/// not hexadecimal digits. Nothing if it can, and for any other node.
+/// Why `node`, an entry of an Exif directory, could not be written with the value `value` (UTF-8): not a number, out of
+/// range, not hexadecimal digits. Nothing if it can, and for any other node. Neither document nor file is changed.
 std::optional<Error> valueFault(const ConstXmlNode& node, const std::string& value);
 
 } // namespace ovisto

@@ -33,11 +33,11 @@ private:
     int m_descriptor = -1;
 };
 
-/// What the system says of a file at one moment. Times are in nanoseconds.
+/// What the system says of a file at one moment. Times are in nanoseconds since the beginning of 1970, UTC.
 struct FileStatus {
     std::uint64_t device = 0;
     std::uint64_t inode = 0;
-    std::int64_t size = 0;
+    std::int64_t size = 0;     ///< in bytes
     std::int64_t modified = 0; ///< when its content was last changed
     std::int64_t changed = 0;  ///< when anything about it was
     /// So short before that one more change could have got the same times: the clock of a file system ticks slowly.
@@ -158,7 +158,8 @@ private:
 /// What a file may be that is read as a whole.
 enum class FileKind { Regular, RegularOrPipe };
 
-/// Reads a whole file; a pipe, where it may be one, until its other end closes it.
+/// Reads the bytes of a whole file, whatever their encoding; a pipe, where it may be one, until its other end closes
+/// it.
 std::string readTextFile(const std::string& path, FileKind kind = FileKind::Regular);
 
 /// Writes a whole text file: at every moment `path` has its old or its new content, never a part of it.

@@ -4,7 +4,8 @@
 
 namespace ovisto {
 
-// Ctrl+C, a closed terminal and a system that shuts down ask a program to end.
+// Ctrl+C, a closed terminal and a system that shuts down ask a program to end (SIGINT, SIGHUP, SIGTERM). All this is
+// about the whole process. Unless deferInterruption() is called, the library leaves signals alone.
 
 /// From now on the first such request does not end the program, so that it can finish what it has begun. The second
 /// one does.

@@ -27,8 +27,8 @@ public:
     RegularExpression& operator=(RegularExpression&& other) noexcept;
     ~RegularExpression();
 
-    /// Whether it matches anywhere in `text`. Raises kOutOfMemory if that takes more steps or memory than any sensible
-    /// expression needs; some would run for years.
+    /// Whether it matches anywhere in `text`, which must be UTF-8. Raises kOutOfMemory if that takes more steps or
+    /// memory than any sensible expression needs; some would run for years.
     bool matches(std::string_view text) const;
 
 private:

@@ -20,7 +20,7 @@ struct XmlParseError {
     Phrase reason;
     std::int64_t line = 0;    ///< the first is 1
     std::int64_t linepos = 0; ///< position in the line, in characters; the first is 1, unknown is 0
-    std::string srcText;      ///< the whole line
+    std::string srcText;      ///< the whole line, in UTF-8
 };
 
 /// Whether a file is validated against the document type that it declares.
@@ -32,6 +32,10 @@ enum class WhiteSpace { Preserve, Strip };
 /// An XML document in memory. The nodes of a const one can only be read. Its entities are replaced by their texts.
 /// Those that are declared or stand elsewhere are read for style sheets only, and nothing is fetched from a network;
 /// what a document type declaration names is read from regular local files where validation asks for it.
+///
+/// One thread at a time may use a document that is being changed; several may read one that is not. The first document
+/// of a process sets the memory functions and the entity loader of libxml2, which serve other users of that library as
+/// before.
 class XmlDocument {
 public:
     XmlDocument();

@@ -89,7 +89,8 @@ public:
     XmlNode selectSingleNode(const std::string& xpath);
     std::vector<XmlNode> selectNodes(const std::string& xpath);
 
-    /// Replaces everything below the node by `text`.
+    /// Replaces everything below the node by `text`, up to its first zero byte. What no XML document can hold (most
+    /// control characters, bytes that are not UTF-8) shows when the document is written: saving then refuses it.
     void setText(std::string_view text);
     void setAttribute(const char* name, std::string_view value);
     void removeAttribute(const char* name);
