@@ -34,8 +34,7 @@ public:
     /// The phrase, its words cut after `most` characters (and "..." put there).
     Phrase shortened(std::size_t most) const;
 
-    /// The words. `textOf` gives the text of a message in the language wanted, with %1, %2 and so on for its details,
-    /// as sourceText() has it.
+    /// The words. `textOf` gives the text of a message in the language wanted.
     std::string words(const std::function<std::string(Message)>& textOf) const;
 
     bool operator==(const Phrase&) const = default;
