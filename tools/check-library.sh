@@ -3,7 +3,8 @@
 # Checks the library as other programs get it: each installed header compiles on its own, and the example is built with
 # find_package(ovisto), sets a title and reads it back.
 #     tools/check-library.sh [BUILD]            installs that build (default: build/release) into a temporary folder
-#     tools/check-library.sh --installed PREFIX checks what is installed there already, by a package, say
+#     tools/check-library.sh --installed PREFIX checks what is installed there already, by a package, say; beside this
+#                                               script, that needs the folders examples and samples only
 set -euo pipefail
 cd "$(dirname "$0")/.."
 work=$(mktemp -d)
@@ -16,12 +17,11 @@ else
     cmake --install "${1:-build/release}" --prefix "$prefix" >/dev/null
     # What is installed leads to nothing of this machine.
     grep -r -e "$PWD" -e "$prefix" "$prefix"/lib*/cmake "$prefix"/lib*/*/cmake 2>/dev/null && exit 1
+    # The page shows the example as it is.
+    shown=$(sed -n 's/^    //p; /^$/p' docs/library.md)
+    [[ $shown == *"$(tail -n +3 examples/library/main.cpp)"* && $shown == *"$(tail -n +2 examples/library/CMakeLists.txt)"* ]] ||
+        { echo "docs/library.md does not show examples/library"; exit 1; }
 fi
-
-# The page shows the example as it is.
-shown=$(sed -n 's/^    //p; /^$/p' docs/library.md)
-[[ $shown == *"$(tail -n +3 examples/library/main.cpp)"* && $shown == *"$(tail -n +2 examples/library/CMakeLists.txt)"* ]] ||
-    { echo "docs/library.md does not show examples/library"; exit 1; }
 
 # A header alone, with the warnings that a careful program asks for.
 compile_header() {
