@@ -3,7 +3,7 @@
 # Checks the library as other programs get it: each installed header compiles on its own, and the example is built with
 # find_package(ovisto), sets a title and reads it back.
 #     tools/check-library.sh [BUILD]            installs that build (default: build/release) into a temporary folder
-#     tools/check-library.sh --installed PREFIX checks what is installed there already, by a package, say; beside this
+#     tools/check-library.sh --installed PREFIX checks what a package has installed there, its own prefix; beside this
 #                                               script, that needs the folders examples and samples only
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -31,15 +31,16 @@ compile_header() {
 export -f compile_header
 (cd "$prefix/include/ovisto" && find . -name '*.h' -printf '%P\n' | sort | xargs -P "$(nproc)" -I{} bash -c 'compile_header {}')
 
-# The program lies where it finds the data files of this installation, unless the system has them.
+# The program lies where it finds the data files of a temporary installation; those of packages it finds anywhere.
 cmake -S examples/library -B "$work/build" -D CMAKE_PREFIX_PATH="$prefix" \
     -D CMAKE_RUNTIME_OUTPUT_DIRECTORY="$work/installed/bin" >"$work/log" || { cat "$work/log"; exit 1; }
 cmake --build "$work/build" >"$work/log" || { cat "$work/log"; exit 1; }
 
 cp samples/little-endian.jpg "$work/photo.jpg"
 expect() {
-    [ "$("$work/installed/bin/title" "$work/photo.jpg" "$1" 2>&1)" = "$2" ] ||
-        { echo "The example does not say: $2"; exit 1; }
+    local said
+    said=$("$work/installed/bin/title" "$work/photo.jpg" "$1" 2>&1) || true
+    [ "$said" = "$2" ] || { printf 'The example says:\n%s\ninstead of:\n%s\n' "$said" "$2"; exit 1; }
 }
 expect "Zum Abendbrot 🍞" $'Mountain lake\n1 value changed, 78 unchanged, picture identical.'
 expect "Mountain lake" $'Zum Abendbrot 🍞\n1 value changed, 78 unchanged, picture identical.'
