@@ -49,6 +49,8 @@ def examples_of(document):
                 command += "\n" + next(lines)[1][len(INDENT):]
             example = Example(f"{document.name}:{number}", command)
             examples.append(example)
+        elif line.lstrip().startswith("$ "):
+            sys.exit(f"{document.name}:{number}: a command stands after four blanks")
         elif line.strip() and not line.startswith(INDENT):
             example = None
         elif example:
