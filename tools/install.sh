@@ -4,6 +4,7 @@
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libxml2-dev libxslt1-dev libpcre2-dev libunistring-dev libjpeg62-turbo-dev
     libcli11-dev libutfcpp-dev libmimalloc-dev qt6-base-dev)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libxml2-utils libimage-exiftool-perl strace python3)
+TEST_PACKAGES+=(zsh fish man-db parallel) # completions, manual pages, the recipe for large archives
 LINT_PACKAGES=(clang-format clang-tidy)
 FUZZ_PACKAGES=(clang libclang-rt-dev)
 

@@ -16,12 +16,16 @@ namespace {
 /// Shows how far a batch is, file by file, whatever stretch of them a file is in.
 class BatchProgress : public Progress {
 public:
-    BatchProgress(Progress& shown, std::size_t total) : m_shown(shown), m_total(total) {}
+    BatchProgress(Progress& shown, std::size_t total, UndoneFiles& undone)
+        : m_shown(shown), m_total(total), m_undone(undone)
+    {
+    }
 
-    bool step(const std::string& path, std::size_t /*done*/, std::size_t /*total*/) override
+    bool step(const std::string& path, std::size_t index, std::size_t /*total*/) override
     {
         if (!m_shown.step(path, m_begun, m_total))
             return false;
+        m_undone.setReached(index);
         ++m_begun;
         return true;
     }
@@ -31,6 +35,7 @@ public:
 private:
     Progress& m_shown;
     std::size_t m_total;
+    UndoneFiles& m_undone;
     std::atomic<std::size_t> m_begun = 0;
 };
 
@@ -43,18 +48,22 @@ public:
     }
 };
 
-/// Turns each report of a failed file into a line, and counts them.
+/// Turns each report of a failed file into a line, and notes and counts them.
 class CountingReporter : public LineReporter {
 public:
-    using LineReporter::LineReporter;
+    CountingReporter(std::string& lines, UndoneFiles& undone) : LineReporter(lines), m_undone(undone) {}
 
     void report(const Phrase& context, const Error& error) override
     {
         ++count;
+        m_undone.addFailed(inEnglish(context));
         LineReporter::report(context, error);
     }
 
     std::size_t count = 0;
+
+private:
+    UndoneFiles& m_undone;
 };
 
 } // namespace
@@ -67,8 +76,24 @@ BatchOptions batchOptions(const WritingOptions& writing, unsigned jobs)
             .onOtherChange = writing.force ? OnOtherChange::ChangeAgain : OnOtherChange::Refuse};
 }
 
+void UndoneFiles::addFailed(const std::string& path)
+{
+    const std::lock_guard lock(m_mutex);
+    m_failed.insert(path);
+}
+
+std::vector<std::string> UndoneFiles::names() const
+{
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < m_files.size(); ++i) {
+        if (!m_reached[i] || m_failed.contains(m_files[i]))
+            names.push_back(m_files[i]);
+    }
+    return names;
+}
+
 BatchCounts runBatch(const BatchAction& batch, const std::vector<std::string>& files, unsigned jobs,
-                     const WritingOptions& writing, CommandOutput& output,
+                     const WritingOptions& writing, CommandOutput& output, UndoneFiles& undone,
                      const std::function<bool(const SaveReceipt&)>& isDone)
 {
     // A thread takes a whole group at a time, unless others would have nothing to do.
@@ -77,19 +102,27 @@ BatchCounts runBatch(const BatchAction& batch, const std::vector<std::string>& f
     std::vector<std::string> firstFiles;
     for (std::size_t i = 0; i < files.size(); i += stretch)
         firstFiles.push_back(files[i]);
-    BatchProgress progress(output.progress(), files.size());
+    BatchProgress progress(output.progress(), files.size(), undone);
     std::atomic<std::size_t> changed = 0;
     std::atomic<std::size_t> failed = 0;
     const auto work = [&](std::size_t index) {
         FileResult result;
-        CountingReporter reporter(result.errors);
+        CountingReporter reporter(result.errors, undone);
         const std::size_t first = index * stretch;
         const SavedFile saved = [&](const std::string& path, const SaveReceipt& receipt) {
             result.notes += savedLines(writing, path, receipt);
-            result.failed = result.failed || (isDone && !isDone(receipt));
+            if (isDone && !isDone(receipt)) {
+                result.failed = true;
+                undone.addFailed(path);
+            }
             ++changed;
         };
-        batch.run(first, std::min(first + stretch, files.size()), progress, reporter, saved);
+        const std::size_t last = std::min(first + stretch, files.size());
+        ErrorTrap trap;
+        trap.run([&] { batch.run(first, last, progress, reporter, saved); });
+        for (std::size_t i = first; trap.pending() && i < last; ++i)
+            undone.setReached(i, false); // nobody knows how far it came
+        trap.raise();
         failed += reporter.count;
         return result;
     };

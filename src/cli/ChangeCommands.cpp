@@ -3,6 +3,7 @@
 #include "cli/BatchRun.h"
 #include "cli/CommandOutput.h"
 #include "cli/Commands.h"
+#include "cli/FailedList.h"
 #include "cli/Options.h"
 #include "common/system/Interruption.h"
 #include "common/text/CodePage.h"
@@ -27,7 +28,11 @@ struct ChangeOptions {
 
 void addNodePath(CLI::App& parser, ChangeOptions& options)
 {
-    parser.add_option("NODEPATH", options.nodePath, "The node, as in /JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']")
+    parser
+        .add_option("NODEPATH", options.nodePath,
+                    "The path of the node, as in \"/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']\", the title; the command "
+                    "xml --full shows "
+                    "how the elements are nested")
         ->option_text(" ")
         ->required();
 }
@@ -36,9 +41,10 @@ void addSetOptions(CLI::App& parser, ChangeOptions& options)
 {
     options.action = NodeAction::Set;
     addNodePath(parser, options);
-    parser.add_option("VALUE", options.value, "The new value")->option_text(" ")->required();
+    parser.add_option("VALUE", options.value, "The new value, as show --raw prints it")->option_text(" ")->required();
     addWritingOptions(parser, options.writing);
     addFiles(parser, options.files);
+    parser.footer("A file that already is as it should be is not written.");
 }
 
 template <NodeAction kAction> void addNodeOptions(CLI::App& parser, ChangeOptions& options)
@@ -47,6 +53,7 @@ template <NodeAction kAction> void addNodeOptions(CLI::App& parser, ChangeOption
     addNodePath(parser, options);
     addWritingOptions(parser, options.writing);
     addFiles(parser, options.files);
+    parser.footer("A file that already is as it should be is not written.");
 }
 
 /// Why no file has the node, whatever the file; empty when some may.
@@ -85,28 +92,32 @@ int runChange(const ChangeOptions& options)
     std::vector<std::string> files = fileNames(options.files);
     deferInterruption();
     files = withoutRepeats(std::move(files));
+    FailedList list(options.files);
+    list.checkNames(files);
+    UndoneFiles undone(files);
     const unsigned jobs = options.files.jobs;
     const BatchAction batch(files, std::move(nodeChange), batchOptions(options.writing, jobs));
-    const BatchCounts counts = runBatch(batch, files, jobs, options.writing, output);
+    const BatchCounts counts = runBatch(batch, files, jobs, options.writing, output, undone);
     output.conclude(counts.begun, counts.total, countsText(counts));
-    return output.finish();
+    return list.finish(output, undone.names(), files);
 }
 
 } // namespace
 
 Command setCommand()
 {
-    return command("set", "Set the value of a node, creating it where needed", addSetOptions, runChange);
+    return command("set", "Set the value of a node, creating it where it is missing", addSetOptions, runChange);
 }
 
 Command deleteCommand()
 {
-    return command("delete", "Delete a node with all below it", addNodeOptions<NodeAction::Delete>, runChange);
+    return command("delete", "Delete a node with everything below it", addNodeOptions<NodeAction::Delete>, runChange);
 }
 
 Command addCommand()
 {
-    return command("add", "Create a node with what it needs", addNodeOptions<NodeAction::Add>, runChange);
+    return command("add", "Create a node that is missing, with what it needs", addNodeOptions<NodeAction::Add>,
+                   runChange);
 }
 
 } // namespace ovisto

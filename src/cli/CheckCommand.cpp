@@ -7,9 +7,17 @@
 #include "collection/DocumentSaving.h"
 #include "common/system/Interruption.h"
 
+#include <CLI/CLI.hpp>
+
 namespace ovisto {
 
 namespace {
+
+void addCheckOptions(CLI::App& parser, FileOptions& options)
+{
+    addFiles(parser, options);
+    parser.footer("Each line names a file and what it would lose. Such a file counts as failed: the exit status is 1.");
+}
 
 int runCheck(const FileOptions& options)
 {
@@ -21,14 +29,14 @@ int runCheck(const FileOptions& options)
     };
     const std::vector<std::string> files = fileNames(options);
     deferInterruption();
-    return runEach(files, options.jobs, work);
+    return runEach(options, files, work);
 }
 
 } // namespace
 
 Command checkCommand()
 {
-    return command("check", "Say what --rebuild would lose, without writing; status 1 if anything", addFiles, runCheck);
+    return command("check", "Say what --rebuild would lose, without writing", addCheckOptions, runCheck);
 }
 
 } // namespace ovisto

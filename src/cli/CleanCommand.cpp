@@ -2,6 +2,7 @@
 
 #include "cli/BatchRun.h"
 #include "cli/Commands.h"
+#include "cli/FailedList.h"
 #include "collection/PrivateData.h"
 #include "common/system/Interruption.h"
 
@@ -32,24 +33,26 @@ std::vector<std::string> kindNames()
 /// What --keep and --help say of the kinds.
 std::string kindsText()
 {
-    std::string text = "KIND is one of:\n";
+    std::string text = "KIND is one of these:\n\n";
     for (const PrivateKindRow& row : kPrivateKinds)
         text +=
             "  " + std::string(row.name).append(12 - std::string(row.name).size(), ' ') + sourceText(row.words) + "\n";
-    return text +
-           "A thumbnail that shows the picture stays, and so do orientation, resolution, colours, dates and the\n"
-           "settings of the camera. An Exif segment stays even if nothing is left in it. Status 1 also if\n"
-           "something could not be taken away, which is then named.";
+    return text + "\n"
+                  "A thumbnail that shows the picture stays, and so do orientation, resolution, colours, dates and the "
+                  "settings "
+                  "of the camera. An Exif segment stays even if nothing is left in it. If something cannot be taken "
+                  "away, it is "
+                  "named, and the file counts as failed.";
 }
 
 void addCleanOptions(CLI::App& parser, CleanOptions& options)
 {
-    parser.add_option("--keep", options.keep, "What is to stay, with commas between; see below")
+    parser.add_option("--keep", options.keep, "Leave this in the file; several kinds with commas between them")
         ->option_text("KIND,...")
         ->delimiter(',')
         ->allow_extra_args(false)
         ->check(CLI::IsMember(kindNames()));
-    parser.add_flag("--verbose", options.writing.verbose, "Say how much of each file was changed");
+    parser.add_flag("--verbose", options.writing.verbose, "Say what was changed in each file, on standard error");
     addFiles(parser, options.files);
     parser.footer(kindsText());
 }
@@ -85,6 +88,9 @@ int runClean(const CleanOptions& options)
     deferInterruption();
     files = withoutRepeats(std::move(files));
     const TagDictionary dictionary = loadDictionary(options.files);
+    FailedList list(options.files);
+    list.checkNames(files);
+    UndoneFiles undone(files);
     Remains remains;
     const DocumentEdit edit = [&](XmlDocument& document, const std::string& path, ErrorReporter& reporter) {
         RemovalResult result;
@@ -92,8 +98,10 @@ int runClean(const CleanOptions& options)
             if (std::ranges::find(options.keep, privateKindRow(finding.kind).name) != options.keep.end())
                 continue;
             removeFinding(document, finding, reporter, result);
-            if (finding.removal == Removal::None)
+            if (finding.removal == Removal::None) {
                 remains.add(path, findingText(finding));
+                undone.addFailed(path);
+            }
         }
         return EditResult{result.changed, result.clearance};
     };
@@ -103,18 +111,17 @@ int runClean(const CleanOptions& options)
     CommandOutput output;
     const unsigned jobs = options.files.jobs;
     const BatchAction batch(files, edit, batchOptions(options.writing, jobs));
-    const BatchCounts counts = runBatch(batch, files, jobs, options.writing, output, isDone);
+    const BatchCounts counts = runBatch(batch, files, jobs, options.writing, output, undone, isDone);
     remains.report(files, output);
     output.conclude(counts.begun, counts.total);
-    return output.finish();
+    return list.finish(output, undone.names(), files);
 }
 
 } // namespace
 
 Command cleanCommand()
 {
-    return command("clean", "Take away what tells of people and places, before files are shared", addCleanOptions,
-                   runClean);
+    return command("clean", "Take away what tells of people and places", addCleanOptions, runClean);
 }
 
 } // namespace ovisto

@@ -3,6 +3,7 @@
 #include "cli/CommandLine.h"
 
 #include "cli/Commands.h"
+#include "cli/HelpText.h"
 #include "cli/TerminalText.h"
 #include "common/Error.h"
 #include "common/Libraries.h"
@@ -13,10 +14,8 @@
 #endif
 
 #include <cstdio>
-#include <map>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace ovisto {
@@ -27,25 +26,6 @@ namespace {
 constexpr Command (*kCommands[])() = {showCommand,  xmlCommand,    exportCommand, writeCommand,
                                       setCommand,   deleteCommand, addCommand,    checkCommand,
                                       cleanCommand, findCommand,   reportCommand};
-
-/// The help as people write it: an option that switches something off shows no value, and FILE stands for at least one.
-class HelpText : public CLI::Formatter {
-public:
-    std::string make_option_name(const CLI::Option* option, bool isPositional) const override
-    {
-        constexpr std::string_view kSwitchedOff = "{false}";
-        std::string name = Formatter::make_option_name(option, isPositional);
-        if (name.ends_with(kSwitchedOff))
-            name.erase(name.size() - kSwitchedOff.size());
-        return name;
-    }
-
-    std::string make_option_usage(const CLI::Option* option) const override
-    {
-        const std::string name = make_option_name(option, true);
-        return name == "FILE" ? "FILE..." : Formatter::make_option_usage(option);
-    }
-};
 
 /// The versions of the program and of the libraries that it is made of, one a line.
 std::string versionText()
@@ -63,6 +43,17 @@ std::string versionText()
     return text;
 }
 
+/// The topics that --help explains.
+std::string shortTopics()
+{
+    std::string text;
+    for (const HelpTopic& topic : helpTopics()) {
+        if (topic.isShort)
+            text += std::string(topic.heading) + ":\n" + topic.text + "\n\n";
+    }
+    return text;
+}
+
 /// The line about wrong usage.
 std::string usageLine(const CLI::App* app, const CLI::Error& error)
 {
@@ -74,23 +65,30 @@ std::string usageLine(const CLI::App* app, const CLI::Error& error)
 
 } // namespace
 
-int runCommandLine(int argc, char** argv)
+CommandRuns declareCommands(CLI::App& app)
 {
-    CLI::App app("Shows, exports and changes the metadata of JPEG files.\n"
-                 "Exit status: 0 all done, 1 some file failed, 2 wrong usage.\n"
-                 "Ctrl+C (or SIGTERM, SIGHUP) ends the commands that write files after the file at hand, without\n"
-                 "a half-written one, and a second one ends them at once.",
-                 "ovisto-cli");
+    app.name("ovisto-cli");
+    app.description("Shows, exports and changes the metadata of JPEG files.");
     app.formatter(std::make_shared<HelpText>());
     app.failure_message(usageLine);
-    app.set_version_flag("--version", versionText());
+    app.set_help_flag("-h,--help", "Print this help and exit");
+    app.set_version_flag("--version", versionText(), "Print the versions of the program and its libraries, and exit");
+    app.footer(
+        [] { return shortTopics() + "ovisto-cli COMMAND --help explains a command, man ovisto-cli all of them."; });
     app.require_subcommand(1);
-    std::map<const CLI::App*, std::function<int()>> runs;
+    CommandRuns runs;
     for (const auto makeCommand : kCommands) {
         const Command command = makeCommand();
-        CLI::App* parser = app.add_subcommand(command.name, command.description);
+        CLI::App* parser = app.add_subcommand(command.name, command.description)->group("Commands");
         runs[parser] = command.declare(*parser);
     }
+    return runs;
+}
+
+int runCommandLine(int argc, char** argv)
+{
+    CLI::App app;
+    const CommandRuns runs = declareCommands(app);
     // The parser reports by exceptions of its own, help and version included; they end here.
     try {
         app.parse(argc, argv);

@@ -17,7 +17,7 @@ void LineReporter::report(const Phrase& context, const Error& error)
 
 void CommandOutput::write(const FileResult& result)
 {
-    m_failed = m_failed || result.failed || !result.errors.empty();
+    m_failed = m_failed || hasFailed(result);
     const std::string lines = result.notes + result.errors;
     if (result.output.empty() && lines.empty())
         return;
@@ -45,11 +45,19 @@ void CommandOutput::report(const Phrase& context, const Error& error)
     fail(errorLine(context, error.description));
 }
 
-int CommandOutput::finish()
+bool CommandOutput::flush()
 {
     m_progress.aside([] {});
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+    if (!m_lost && (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)) {
+        m_lost = true;
         fail(errorLine("", "Standard output cannot be written"));
+    }
+    return !m_lost;
+}
+
+int CommandOutput::finish()
+{
+    flush();
     return m_failed ? kSomeFailed : kAllDone;
 }
 

@@ -36,6 +36,9 @@ public:
     /// more than one file.
     void conclude(std::size_t done, std::size_t total, const std::string& counts = {});
 
+    /// Whether standard output has everything that was written. Reports it when it does not.
+    bool flush();
+
     /// Ends the output. Returns the exit status of the command.
     int finish();
 
@@ -46,6 +49,7 @@ private:
 
     TerminalProgress m_progress;
     bool m_failed = false;
+    bool m_lost = false; ///< something on standard output
 };
 
 } // namespace ovisto

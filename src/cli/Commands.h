@@ -4,6 +4,9 @@
 
 #include "cli/Command.h"
 
+#include <string>
+#include <vector>
+
 namespace ovisto {
 
 // All commands. A new one is a function that returns it, in a file of its own, and a row of the table in
@@ -20,5 +23,8 @@ Command checkCommand();
 Command cleanCommand();
 Command findCommand();
 Command reportCommand();
+
+/// The names that --style has for the style sheets that come with the program.
+std::vector<std::string> styleSheetNames();
 
 } // namespace ovisto

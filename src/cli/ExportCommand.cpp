@@ -18,15 +18,15 @@ struct ExportOptions {
 
 void addExportOptions(CLI::App& parser, ExportOptions& options)
 {
-    addFiles(parser, options.files);
     addBasicOption(parser, options.reading);
+    addFiles(parser, options.files);
 }
 
 int runExport(const ExportOptions& options)
 {
     const std::vector<std::string> files = fileNames(options.files);
     deferInterruption();
-    return runEach(files, options.files.jobs, [&](const std::string& path, FileResult&, ErrorReporter& reporter) {
+    return runEach(options.files, files, [&](const std::string& path, FileResult&, ErrorReporter& reporter) {
         exportDocument(loadDocument(path, {.reading = options.reading}), path, reporter);
     });
 }
@@ -35,7 +35,8 @@ int runExport(const ExportOptions& options)
 
 Command exportCommand()
 {
-    return command("export", "Write FILE.XML beside each file", addExportOptions, runExport);
+    return command("export", "Write the metadata document of each file beside it, as FILE.XML", addExportOptions,
+                   runExport);
 }
 
 } // namespace ovisto

@@ -20,6 +20,11 @@ struct FileResult {
     bool failed = false;  ///< whether the file failed without an error
 };
 
+inline bool hasFailed(const FileResult& result)
+{
+    return result.failed || !result.errors.empty();
+}
+
 /// Calls `work` once for the index of every path, in up to `jobs` threads at a time, and `finish` with each result, one
 /// at a time and in the order of `paths`. `progress` is called before each file is finished; when it stops the loop, no
 /// other file is started, but those already started are finished. What `work` raises becomes the error of its file;

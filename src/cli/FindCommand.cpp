@@ -2,15 +2,19 @@
 
 #include "cli/CommandOutput.h"
 #include "cli/Commands.h"
+#include "cli/FailedList.h"
 #include "cli/FileLoop.h"
 #include "cli/Options.h"
+#include "cli/TerminalText.h"
 #include "collection/ContentFilter.h"
 #include "collection/FolderScan.h"
 #include "common/system/File.h"
+#include "common/system/Interruption.h"
 #include "common/text/CodePage.h"
 
 #include <CLI/CLI.hpp>
 
+#include <deque>
 #include <mutex>
 #include <optional>
 #include <utility>
@@ -31,20 +35,26 @@ void addFindOptions(CLI::App& parser, FindOptions& options)
     ScanOptions& scan = options.scan;
     parser
         .add_option("FOLDER", scan.folder,
-                    "Where to look; not needed with --files-from, whose files are taken by any name")
+                    "The folder to search; none needed with --files-from, whose files may have any name")
         ->option_text(" ");
-    parser.add_option("--pattern", scan.patterns, "Names of files: * any run, ? one character, ; between patterns")
-        ->option_text("P [" + scan.patterns + "]");
     parser
-        .add_option("--words", scan.content.words,
-                    "Words that the metadata contains, any one of them; , between words. Names of tags count too")
+        .add_option("--pattern", scan.patterns,
+                    "Names of files: * stands for any characters, ? for one, ; separates patterns (default: " +
+                        scan.patterns + ")")
+        ->option_text("P");
+    parser
+        .add_option(
+            "--words", scan.content.words,
+            "Only files whose metadata contains one of these words, with commas between them; names of elements count, "
+            "too")
         ->option_text("W");
-    parser.add_flag("--all-words", scan.content.allWords, "All of the words");
-    parser.add_flag("--whole-words", scan.content.wholeWords, "Not as parts of longer words");
-    parser.add_flag("--regexp", scan.content.regExp, "W is a regular expression, not a list of words");
-    parser.add_flag("--values", options.values, "Search the values as show prints them, too: 1/125 s, turned right");
+    parser.add_flag("--all-words", scan.content.allWords, "Only files that contain all of the words");
+    parser.add_flag("--whole-words", scan.content.wholeWords, "Only whole words, not parts of longer ones");
+    parser.add_flag("--regexp", scan.content.regExp, "Take W as a regular expression");
+    parser.add_flag("--values", options.values,
+                    "Search also what the values mean, as show prints it: 1/125 s, turned right");
     addBasicOption(parser, scan.content.reading);
-    parser.add_flag("!--no-subfolders", scan.subFolders, "Only in FOLDER itself");
+    parser.add_flag("!--no-subfolders", scan.subFolders, "Search only FOLDER itself, not the folders in it");
     addFileList(parser, options.files);
     parser.final_callback([&options] {
         if (options.scan.folder.empty() && options.files.filesFrom.empty())
@@ -69,7 +79,8 @@ void startWalk(std::optional<FolderWalk>& walk, const ScanOptions& scan)
 class FilesToSearch {
 public:
     /// A folder or a list that cannot be read is reported to `output`, which must outlive the object.
-    FilesToSearch(const FindOptions& options, CommandOutput& output) : m_output(output)
+    FilesToSearch(const FindOptions& options, CommandOutput& output)
+        : m_output(output), m_hasFolder(!options.scan.folder.empty()), m_isWhole(!m_hasFolder)
     {
         const ScanOptions& scan = options.scan;
         if (!scan.folder.empty())
@@ -83,11 +94,28 @@ public:
         auto file = m_walk ? m_walk->next(m_output.progress(), m_output) : std::nullopt;
         if (file)
             return std::move(file->path);
-        return m_place == m_listed.size() ? std::nullopt : std::optional(std::move(m_listed[m_place++]));
+        m_isWhole = m_isWhole || (m_walk && !interrupted());
+        return m_place == m_listed.size() ? std::nullopt : std::optional(m_listed[m_place++]);
+    }
+
+    bool hasFolder() const { return m_hasFolder; }
+
+    /// Whether the folder, if any, was gone through to its end.
+    bool isWhole() const { return m_isWhole; }
+
+    /// Those of the list.
+    const std::vector<std::string>& listed() const { return m_listed; }
+
+    /// Those of the list that next() has not returned.
+    std::vector<std::string> rest() const
+    {
+        return {m_listed.begin() + static_cast<std::ptrdiff_t>(m_place), m_listed.end()};
     }
 
 private:
     CommandOutput& m_output;
+    bool m_hasFolder;
+    bool m_isWhole;
     std::optional<FolderWalk> m_walk;
     std::vector<std::string> m_listed;
     std::size_t m_place = 0;
@@ -124,6 +152,19 @@ private:
     std::vector<Error> m_errors;
 };
 
+/// Ends the command, which did not do the files `undone` and those that are left of `files`.
+int finishFind(CommandOutput& output, FailedList& list, const FilesToSearch& files, std::vector<std::string> undone)
+{
+    const bool isKnown = files.isWhole() && (output.flush() || !files.hasFolder());
+    if (list.isWanted() && !isKnown) {
+        output.write({.errors = errorLine("", "No list of failed files, as it would lack files of the folder")});
+        list.giveUp();
+    }
+    const std::vector<std::string> rest = files.rest();
+    undone.insert(undone.end(), rest.begin(), rest.end());
+    return list.finish(output, undone, files.listed());
+}
+
 int runFind(const FindOptions& options)
 {
     CommandOutput output;
@@ -140,7 +181,17 @@ int runFind(const FindOptions& options)
         return kWrongUsage;
     }
     FilesToSearch files(options, output);
+    FailedList list(options.files);
+    list.checkNames(files.listed());
     UncheckedFiles unchecked;
+    std::deque<std::string> begun; // the files from the one whose result is next
+    std::vector<std::string> undone;
+    const auto next = [&] {
+        auto path = unchecked.areTooMany() ? std::nullopt : files.next();
+        if (path)
+            begun.push_back(*path);
+        return path;
+    };
     const auto work = [&](const std::string& path) {
         FileResult result;
         ErrorTrap trap;
@@ -148,21 +199,27 @@ int runFind(const FindOptions& options)
             if (filter->keeps(path))
                 result.output = path + (options.files.zeroSeparated ? '\0' : '\n');
         });
+        result.failed = trap.pending();
         if (trap.pending())
             unchecked.add(trap.take());
         return result;
     };
-    forEachFile([&] { return unchecked.areTooMany() ? std::nullopt : files.next(); }, options.files.jobs, work,
-                [&](const FileResult& result) { output.write(result); }, output.progress());
+    const auto finish = [&](const FileResult& result) {
+        output.write(result);
+        if (hasFailed(result))
+            undone.push_back(begun.front());
+        begun.pop_front();
+    };
+    forEachFile(next, options.files.jobs, work, finish, output.progress());
     unchecked.report(output);
-    return output.finish();
+    return finishFind(output, list, files, undone);
 }
 
 } // namespace
 
 Command findCommand()
 {
-    return command("find", "Find files by name and metadata, one path a line", addFindOptions, runFind);
+    return command("find", "Print the paths of files found by name and metadata", addFindOptions, runFind);
 }
 
 } // namespace ovisto

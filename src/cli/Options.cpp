@@ -2,6 +2,7 @@
 
 #include "cli/Options.h"
 
+#include "cli/HelpText.h"
 #include "cli/TerminalText.h"
 #include "common/Error.h"
 #include "common/system/File.h"
@@ -23,7 +24,6 @@ namespace {
 
 void readNames(std::vector<std::string>& files, std::istream& input, char separator)
 {
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     bool isFirst = true;
     for (std::string name; std::getline(input, name, separator);) {
         if (std::exchange(isFirst, false) && name.starts_with(kByteOrderMark))
@@ -54,19 +54,29 @@ void addFileList(CLI::App& parser, FileOptions& options)
 {
     parser
         .add_option("--files-from", options.filesFrom,
-                    "Read more file names from FILE, one a line; - for standard input")
-        ->option_text("FILE");
-    parser.add_flag("-0", options.zeroSeparated,
-                    "Names end with NUL bytes, not line ends: those in --files-from, those that find prints");
+                    "Read more file names from FILE, one a line; - means standard input")
+        ->option_text("FILE")
+        ->group(kCommonOptions);
     parser
-        .add_option(
-            "--dictionary", options.dictionary,
-            "Another tag dictionary for the commands that need one: show, set, delete, add, report, find --values")
-        ->option_text("FILE");
+        .add_option("--failed-to", options.failedTo,
+                    "At the end, write to FILE the names of the files that were not done: those that failed and, after "
+                    "an interruption, those not reached. It is empty if all were done")
+        ->option_text("FILE")
+        ->group(kCommonOptions);
+    parser
+        .add_flag("-0", options.zeroSeparated,
+                  "Names in these files, and those that find prints, end with NUL bytes instead of line ends")
+        ->group(kCommonOptions);
     options.jobs = std::max(1U, std::thread::hardware_concurrency());
-    parser.add_option("--jobs", options.jobs, "Files worked on at the same time (default: one a core)")
+    parser.add_option("--jobs", options.jobs, "Work on N files at the same time (default: one for each core)")
         ->option_text("N")
-        ->check(jobsObjection);
+        ->check(jobsObjection)
+        ->group(kCommonOptions);
+    parser
+        .add_option("--dictionary", options.dictionary,
+                    "Take labels, data types and meanings from this tag dictionary, not the program's own")
+        ->option_text("FILE")
+        ->group(kCommonOptions);
 }
 
 void requireFiles(const FileOptions& options)
@@ -77,12 +87,14 @@ void requireFiles(const FileOptions& options)
 
 void addWritingOptions(CLI::App& parser, WritingOptions& options)
 {
-    parser.add_flag("--rebuild", options.rebuild,
-                    "Write the Exif segment anew instead of changing it where it stands; check says what that loses");
+    parser.add_flag(
+        "--rebuild", options.rebuild,
+        "Write the Exif segment anew instead of changing it where it stands. The command check says what that "
+        "would lose; the old file is kept as FILE.original");
     parser.add_flag("--force", options.force,
-                    "Change a file as it is now if another program changes it meanwhile, instead of refusing");
+                    "If another program changes a file in the meantime, change it as it is now instead of refusing");
     addBasicOption(parser, options.asked);
-    parser.add_flag("--verbose", options.verbose, "Say how much of each file was changed");
+    parser.add_flag("--verbose", options.verbose, "Say what was changed in each file, on standard error");
 }
 
 std::string savedLines(const WritingOptions& options, const std::string& path, const SaveReceipt& receipt)
@@ -101,7 +113,8 @@ void addKeepOptions(CLI::App& parser, KeepOptions& keep)
 {
     parser.add_flag("!--no-maker-notes", keep.pCodifyMakerNote, "Leave out maker notes");
     parser.add_flag("!--no-thumbnails", keep.pCodifyThumb, "Leave out thumbnails");
-    parser.add_flag("!--no-nonstandard-exif", keep.pCodifyExif1, "Leave out APP1 segments that are not Exif");
+    parser.add_flag("!--no-nonstandard-exif", keep.pCodifyExif1,
+                    "Leave out APP1 segments that are not Exif, such as XMP");
 }
 
 void addBasicOption(CLI::App& parser, Reading& reading)
@@ -109,14 +122,14 @@ void addBasicOption(CLI::App& parser, Reading& reading)
     reading = Reading::Full;
     parser.add_flag_callback(
         "--basic", [&reading] { reading = Reading::Basic; },
-        "Read texts through one code page and three directories only, as xml does");
+        "Read in the basic way, as xml does: texts through Windows-1252, and no position");
 }
 
 void addFullOption(CLI::App& parser, KeepOptions& keep)
 {
     parser.add_flag_callback(
         "--full", [&keep] { keep.reading = Reading::Full; },
-        "Read everything: texts in any language, positions, bytes and numbers exactly");
+        "Read everything: texts in any language, the position, all bytes and numbers exactly");
 }
 
 std::vector<std::string> fileNames(const FileOptions& options)

@@ -7,6 +7,7 @@
 #include "writer/DocumentSave.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace CLI {
@@ -17,11 +18,15 @@ namespace ovisto {
 
 // Options that several commands take.
 
+/// What a list of names may begin with; it is no part of the first one.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 /// What every command takes: files, and how to process them.
 struct FileOptions {
     std::vector<std::string> files; ///< those named on the command line
     std::string filesFrom;          ///< a file with more of them, "-" for standard input; empty for none
     bool zeroSeparated = false;     ///< names in it, and those written, end with zero bytes instead of line ends
+    std::string failedTo;           ///< a file for the names of those that were not done; empty for none
     std::string dictionary;         ///< empty for the program's own
     unsigned jobs = 1;
 };

@@ -24,12 +24,16 @@ struct ShowOptions {
 
 void addShowOptions(CLI::App& parser, ShowOptions& options)
 {
-    addFiles(parser, options.files);
-    parser.add_flag("--technical", options.technical, "Show technical properties too");
-    parser.add_flag("--raw", options.raw, "Show values only as they are in the document: 1/250, not 1/250 s");
+    parser.add_flag("--technical", options.technical, "Show technical properties, too");
+    parser.add_flag("--raw", options.raw, "Show only stored values: 1/250 and not 1/250 s");
     parser.add_flag("--private", options.onlyPrivate,
-                    "Show what tells of people and places instead: its kind, size and place; see clean");
+                    "Show instead what tells of people and places, and clean takes away: its kind, size and place");
     addBasicOption(parser, options.reading);
+    addFiles(parser, options.files);
+    parser.footer("Each line has the name of a property, what its value means, in square brackets what is stored, and "
+                  "the data type:\n"
+                  "\n"
+                  "  Exposure Time: 1/125 s [1/125] (Rational)");
 }
 
 /// What clean would take away, one a line, after the name that --keep has for it.
@@ -47,7 +51,7 @@ int runShow(const ShowOptions& options)
 {
     const std::vector<std::string> files = fileNames(options.files);
     const TagDictionary dictionary = loadDictionary(options.files);
-    return runEach(files, options.files.jobs, [&](const std::string& path, FileResult& result, ErrorReporter&) {
+    return runEach(options.files, files, [&](const std::string& path, FileResult& result, ErrorReporter&) {
         const std::string text = options.onlyPrivate
                                      ? privateText(path, dictionary)
                                      : propertyText(loadDocument(path, {.reading = options.reading}), dictionary,
@@ -60,7 +64,7 @@ int runShow(const ShowOptions& options)
 
 Command showCommand()
 {
-    return command("show", "Show the properties as a tree", addShowOptions, runShow);
+    return command("show", "Print the properties of files as a tree", addShowOptions, runShow);
 }
 
 } // namespace ovisto

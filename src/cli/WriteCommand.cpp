@@ -27,7 +27,9 @@ struct WriteOptions {
 
 void addWriteOptions(CLI::App& parser, WriteOptions& options)
 {
-    parser.add_option("--document", options.document, "The document to write, edited; else the file's own")
+    parser
+        .add_option("--document", options.document,
+                    "Save this document, an edited one, in the only FILE (default: each file from its own document)")
         ->option_text("XML");
     addWritingOptions(parser, options.writing);
     addFiles(parser, options.files);
@@ -107,21 +109,20 @@ int runWrite(const WriteOptions& options)
     deferInterruption();
     files = withoutRepeats(std::move(files));
     const SparedFile isSpared = sparing(files);
-    return runEach(
-        files, options.files.jobs, [&](const std::string& path, FileResult& result, ErrorReporter& reporter) {
-            const SaveReceipt receipt = options.document.empty() ? writeAnew(options, path, reporter, isSpared)
-                                                                 : writeEdited(options, path, reporter, isSpared);
-            result.notes = savedLines(options.writing, path, receipt);
-            if (receipt.notOnDisk)
-                result.errors = errorLine(path, receipt.notOnDisk->description);
-        });
+    return runEach(options.files, files, [&](const std::string& path, FileResult& result, ErrorReporter& reporter) {
+        const SaveReceipt receipt = options.document.empty() ? writeAnew(options, path, reporter, isSpared)
+                                                             : writeEdited(options, path, reporter, isSpared);
+        result.notes = savedLines(options.writing, path, receipt);
+        if (receipt.notOnDisk)
+            result.errors = errorLine(path, receipt.notOnDisk->description);
+    });
 }
 
 } // namespace
 
 Command writeCommand()
 {
-    return command("write", "Save a file from its metadata document", addWriteOptions, runWrite);
+    return command("write", "Save files from their metadata documents", addWriteOptions, runWrite);
 }
 
 } // namespace ovisto

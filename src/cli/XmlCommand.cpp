@@ -5,6 +5,8 @@
 #include "cli/Options.h"
 #include "reader/JpegXml.h"
 
+#include <CLI/CLI.hpp>
+
 #include <utility>
 
 namespace ovisto {
@@ -18,9 +20,13 @@ struct XmlOptions {
 
 void addXmlOptions(CLI::App& parser, XmlOptions& options)
 {
-    addFiles(parser, options.files);
-    addKeepOptions(parser, options.keep);
     addFullOption(parser, options.keep);
+    addKeepOptions(parser, options.keep);
+    addFiles(parser, options.files);
+    parser.footer(
+        "The documents follow one another, each an element JPEG without an XML declaration. Put between <JPEGs> "
+        "and </JPEGs>, they are one document. Without --full, files are read in the basic way: texts through "
+        "Windows-1252, and no position.");
 }
 
 int runXml(const XmlOptions& options)
@@ -31,14 +37,14 @@ int runXml(const XmlOptions& options)
         if (translation.error)
             throw Error(*translation.error);
     };
-    return runEach(fileNames(options.files), options.files.jobs, work);
+    return runEach(options.files, fileNames(options.files), work);
 }
 
 } // namespace
 
 Command xmlCommand()
 {
-    return command("xml", "Write the metadata documents to standard output", addXmlOptions, runXml);
+    return command("xml", "Print the metadata documents (XML) of files", addXmlOptions, runXml);
 }
 
 } // namespace ovisto

@@ -44,6 +44,12 @@ std::string onTerminal(const std::vector<std::string>& arguments)
     return runCommand({"script", "-qec", line + " >/dev/null", "/dev/null"}).output;
 }
 
+std::string textOf(const std::string& path)
+{
+    const Bytes content = contentOf(path);
+    return {content.begin(), content.end()};
+}
+
 std::string titleOf(const std::string& path)
 {
     return loadDocument(path).selectSingleNode(kTitle).text();
@@ -315,6 +321,19 @@ TEST(CommandLine, GivesUpASearchThatRunsTooLongOnManyFiles)
     for (int i = 1; i <= 20; ++i)
         std::filesystem::create_symlink(file, folder.path(std::to_string(i) + ".jpg"));
     expectOneLine(ovisto(search), "The search ended early, because 1", " files could not be checked. The first: ");
+    // The files that it did not check are known only without a folder.
+    const TemporaryFolder lists;
+    const std::string list = lists.file("undone", "as before");
+    std::vector<std::string> arguments = search;
+    arguments.insert(arguments.end(), {"--failed-to", list});
+    EXPECT_NE(ovisto(arguments).errors.find("lack files of the folder"), std::string::npos);
+    EXPECT_EQ(textOf(list), "as before");
+    std::string files = found + '\n';
+    for (int i = 0; i <= 20; ++i)
+        files += folder.path(std::to_string(i) + ".jpg") + '\n';
+    arguments[1] = "--files-from=-";
+    EXPECT_EQ(ovisto(arguments, files).status, 1);
+    EXPECT_EQ(textOf(list), files.substr(files.find('\n') + 1));
 }
 
 TEST(CommandLine, FindsFilesInScanOrder)
@@ -433,6 +452,73 @@ TEST(CommandLine, DoesNotWriteAReportOverAPhotograph)
     const std::string styleSheet = OVISTO_DATA_FOLDER "reports/list.xsl";
     expectOneLine(ovisto({"report", "--style", styleSheet, "--output", first, second}), first, "not replaced");
     EXPECT_EQ(contentOf(first), fullPhotograph(true));
+}
+
+TEST(CommandLine, ListsTheFilesThatItDidNotDo)
+{
+    const TemporaryFolder folder;
+    const TemporaryFolder lists;
+    const std::string list = lists.path("undone");
+    const std::string style = OVISTO_DATA_FOLDER "reports/list.xsl";
+    const std::string broken = folder.file("a.jpg", "no photograph");
+    const std::string none = folder.path("none.jpg");
+    std::string files;
+    for (int i = 0; i < 40; ++i)
+        files += folder.file("good" + std::to_string(i) + ".jpg", JpegBytes().app0().end()) + '\n' +
+                 (i == 7    ? none + '\n'
+                  : i == 30 ? broken + '\n'
+                            : "");
+    const std::vector<std::vector<std::string>> commands = {{"show"},
+                                                            {"xml"},
+                                                            {"export"},
+                                                            {"check"},
+                                                            {"set", kTitle, "New"},
+                                                            {"clean"},
+                                                            {"report", "--style", style},
+                                                            {"report", "--style", "list", "--output", lists.path("r")}};
+    for (const auto& command : commands) {
+        for (const std::string& only : {std::string(), folder.path("good1.jpg") + '\n'}) {
+            std::vector<std::string> arguments = command;
+            arguments.insert(arguments.end(), {"--jobs", "3", "--files-from", "-", "--failed-to", list});
+            EXPECT_EQ(ovisto(arguments, only.empty() ? files : only).status, only.empty() ? 1 : 0) << command.front();
+            EXPECT_EQ(textOf(list), only.empty() ? none + '\n' + broken + '\n' : "") << command.front();
+        }
+    }
+    // What is still to be done may stand in the same file. A name with a line break needs -0.
+    const std::string strange = folder.path("line\nbreak.jpg");
+    lists.file("undone", none + '\0' + strange + '\0');
+    EXPECT_EQ(ovisto({"set", kTitle, "New", "-0", "--files-from", list, "--failed-to", list}).status, 1);
+    EXPECT_EQ(textOf(list), none + '\0' + strange + '\0');
+    const std::string good = folder.path("good3.jpg");
+    const Bytes before = contentOf(good);
+    expectOneLine(ovisto({"set", kTitle, "Newer", "--failed-to", list, good, strange}), list, "with -0");
+    expectOneLine(ovisto({"set", kTitle, "Newer", "--failed-to", folder.path("no/list"), good}), "no/list",
+                  "no folder");
+    expectOneLine(ovisto({"set", kTitle, "Newer", "--failed-to", good, good}), good, "not replaced by a list");
+    EXPECT_EQ(ovisto({"set", "nonsense[", "Newer", "--failed-to", list, good}).status, 2);
+    EXPECT_EQ(contentOf(good), before) << "nothing is done without the list";
+    EXPECT_EQ(textOf(list), none + '\0' + strange + '\0') << "nor is the list written when nothing is done";
+    runCommand({"sh", "-c", "'" OVISTO_CLI "' xml '" + good + "' --failed-to '" + list + "' >/dev/full"});
+    EXPECT_EQ(textOf(list), good + '\n') << "what is lost on standard output was not done";
+}
+
+TEST(CommandLine, FindsItsOwnStyleSheetsByName)
+{
+    const TemporaryFolder folder;
+    const std::string sample = OVISTO_OWN_SAMPLES "little-endian.jpg";
+    const auto report = [&](const std::string& style) {
+        return runCommand(
+            {"sh", "-c",
+             "cd '" + folder.path("") + "' && '" OVISTO_CLI "' report --style " + style + " '" + sample + "'"});
+    };
+    const std::string own = "<t xsl:version='1.0' xmlns:xsl='http://www.w3.org/1999/XSL/Transform'>own</t>";
+    folder.file("csv", own);
+    folder.file("mine", own);
+    EXPECT_EQ(report("csv").output.find("Folder,File,Title"), 0U) << "whatever is in the current folder";
+    for (const char* file : {"./csv", "mine"})
+        EXPECT_NE(report(file).output.find("<t>own</t>"), std::string::npos) << file;
+    expectOneLine(report("tabel"), "tabel: ", "csv, list, statistics, table");
+    expectOneLine(report("table.xsl"), "table.xsl", "File not found");
 }
 
 TEST(CommandLine, NoticesThatItsOutputIsLost)

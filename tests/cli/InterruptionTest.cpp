@@ -75,6 +75,12 @@ private:
     int m_errors = -1;
 };
 
+std::string textOf(const std::string& path)
+{
+    const Bytes content = contentOf(path);
+    return {content.begin(), content.end()};
+}
+
 constexpr std::size_t kMoreThanAPipeHolds = 200'000;
 
 /// Interrupts a command in the middle of what it says on standard error. Returns what that was.
@@ -109,7 +115,8 @@ TEST(Interruption, EndsCommandsThatWriteAfterTheFileAtHand)
         const std::string noFile = folder.path(std::string(kMoreThanAPipeHolds, 'x')) + '\n';
         const std::string list = file("a.jpg") + noFile + file("b.jpg") + file("c.jpg") + file("d.jpg");
         std::vector<std::string> arguments = c.arguments;
-        arguments.insert(arguments.end(), {"--jobs", "1", "--files-from", lists.file("list", list)});
+        arguments.insert(arguments.end(), {"--jobs", "1", "--files-from", lists.file("list", list), "--failed-to",
+                                           lists.path("undone")});
         // What it says of the first file may come when it has begun with the next one, which it finishes.
         const std::string errors = interruptAtFirstError(arguments);
         EXPECT_EQ(errors.find("c.jpg"), std::string::npos) << "went on after the file at hand";
@@ -120,7 +127,13 @@ TEST(Interruption, EndsCommandsThatWriteAfterTheFileAtHand)
         for (const std::string& name : folder.names())
             EXPECT_TRUE(name.ends_with(".jpg") || name.ends_with(".jpg.XML") || name.ends_with(".original")) << name;
         EXPECT_FALSE(std::filesystem::exists(folder.path("d.jpg.XML")));
-        EXPECT_EQ(lists.names(), std::vector<std::string>{"list"}) << "a report on some of the files is none";
+        EXPECT_EQ(lists.names(), (std::vector<std::string>{"list", "undone"})) << "a report on some files is none";
+        const std::string undone = textOf(lists.path("undone"));
+        const std::string rest = folder.path("c.jpg") + '\n' + folder.path("d.jpg") + '\n';
+        if (c.written.empty())
+            EXPECT_EQ(undone, list);
+        else
+            EXPECT_TRUE(undone == noFile + rest || undone == noFile + folder.path("b.jpg") + '\n' + rest) << undone;
     }
 }
 
@@ -139,18 +152,22 @@ TEST(Interruption, EndsAChangeOfManyFilesAfterThoseAtHand)
         present += files.back() + '\n';
     }
     // One job fails with its half of the files and waits to say so, while the other one is at work.
-    const std::string errors = interruptAtFirstError(
-        {"set", kTitle, "New", "--jobs", "2", "--files-from", folder.file("list", missing + present)});
+    const std::string errors =
+        interruptAtFirstError({"set", kTitle, "New", "--jobs", "2", "--files-from",
+                               folder.file("list", missing + present), "--failed-to", folder.path("undone")});
     EXPECT_EQ(std::ranges::count(errors, '\n'), kFiles + 1);
-    EXPECT_EQ(folder.names().size(), files.size() + 1) << "no temporary file is left";
+    EXPECT_EQ(folder.names().size(), files.size() + 2) << "no temporary file is left";
     int changed = 0;
     for (const std::string& file : files) {
-        if (contentOf(file) == before)
+        if (contentOf(file) == before) {
+            missing += file + '\n';
             continue;
+        }
         EXPECT_EQ(loadDocument(file).selectSingleNode(kTitle).text(), "New");
         ++changed;
     }
     EXPECT_LT(changed, kFiles);
+    EXPECT_EQ(textOf(folder.path("undone")), missing) << "what failed and what was not reached";
     const std::string counts = std::to_string(changed) + " changed, 500 failed\n";
     EXPECT_TRUE(errors.ends_with("ovisto-cli: Interrupted after " + std::to_string(kFiles + changed) +
                                  " of 1,000 files: " + counts))
