@@ -69,7 +69,8 @@ void addReportOptions(CLI::App& parser, ReportCommandOptions& options)
         ->check(CLI::ExistingDirectory);
     parser.add_option("--output", options.output, "Write the report to FILE, not to standard output")
         ->option_text("FILE");
-    parser.add_option("--encoding", options.encoding, "Write utf-8 (the default) or utf-16")
+    parser
+        .add_option("--encoding", options.encoding, "Write the report in this encoding: utf-8 (the default) or utf-16")
         ->option_text("ENCODING")
         ->check(CLI::IsMember({"utf-8", "utf-16"}));
     addKeepOptions(parser, options.keep);
