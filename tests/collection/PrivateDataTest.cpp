@@ -232,8 +232,10 @@ TEST(PrivateData, SaysWhatStaysAndFails)
     exif.ifd0({exif.ascii(0x013B, "Zoe the photographer")});
     const Bytes noted = {0x11, 0xFF, 0xFE, 0, 5, 'Z', 'o', 'e', 0x22};
     const std::string path = folder.file("a.jpg", JpegBytes().exif(exif).end(noted));
-    const CommandRun run = ovisto({"clean", path});
+    const TemporaryFolder lists;
+    const CommandRun run = ovisto({"clean", "--failed-to", lists.path("undone"), path});
     EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(contentOf(lists.path("undone")), bytes(path + "\n"));
     EXPECT_NE(run.errors.find("FFFE , 7 bytes, inside the image data"), std::string::npos) << run.errors;
     EXPECT_EQ(asText(kindsIn(path)), "comments ");
     Bytes cut = JpegBytes().exif(exif).end();
