@@ -49,7 +49,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv); // takes its own options out of argv
     QApplication::setApplicationName(QStringLiteral("Ovisto"));
     QApplication::setApplicationVersion(QString::fromLatin1(ovisto::programVersion()));
-    QApplication::setDesktopFileName(QStringLiteral("ovisto"));
+    QApplication::setDesktopFileName(QStringLiteral("org.castelmar.ovisto"));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::translate("main", "Shows and edits the metadata of JPEG files."));

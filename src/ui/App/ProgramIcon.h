@@ -8,7 +8,7 @@
 
 namespace ovisto {
 
-/// The icon of the program, in all its sizes, from the folder of its data.
+/// The icon of the program, in all its sizes: with the data in `dataFolder`, or installed beside it as the desktop's.
 QIcon programIcon(const std::string& dataFolder);
 
 } // namespace ovisto
