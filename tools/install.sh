@@ -6,6 +6,7 @@ BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libxml2-dev libxslt1-dev libpcr
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libxml2-utils libimage-exiftool-perl strace python3)
 TEST_PACKAGES+=(zsh fish man-db parallel) # completions, manual pages, the recipe for large archives
 LINT_PACKAGES=(clang-format clang-tidy)
+PACKAGE_PACKAGES=(lintian desktop-file-utils appstream mmdebstrap debian-archive-keyring xvfb x11-utils)
 FUZZ_PACKAGES=(clang libclang-rt-dev)
 
 # Where ccache is installed, CMake uses it, and a checkout in another folder finds what an earlier one compiled.

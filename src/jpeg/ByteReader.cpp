@@ -130,8 +130,12 @@ void ByteReader::checkLength(std::int64_t length) const
 const ByteReader::Page& ByteReader::page(std::int64_t start)
 {
     const auto* const kept = std::ranges::find(m_pages, start, &Page::start);
-    if (kept != m_pages.end())
-        return *kept;
+    return kept != m_pages.end() ? *kept : readPage(start);
+}
+
+/// Reads the page that begins at `start`, in place of the oldest one.
+const ByteReader::Page& ByteReader::readPage(std::int64_t start)
+{
     Page& read = m_pages[m_nextPage];
     m_nextPage = (m_nextPage + 1) % m_pages.size();
     read.start = -1;

@@ -72,6 +72,7 @@ private:
     };
 
     const Page& page(std::int64_t start);
+    const Page& readPage(std::int64_t start);
     std::span<const std::uint8_t> stretch(std::int64_t index, std::int64_t length);
     template <std::size_t N> std::array<std::uint8_t, N> bytesAt(FilePos pointer);
     [[noreturn]] void fail(Error error);
