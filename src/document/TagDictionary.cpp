@@ -16,10 +16,30 @@ namespace {
 /// All elements but those that name single values of an entry.
 constexpr const char* kAllEntries = "//*[not(self::value or self::flag)]";
 
+/// Where the label that an entry came with stays when it gets one of another language.
+constexpr const char* kSourceLabel = "sourceLabel";
+
 bool isEntry(const ConstXmlNode& node)
 {
     const std::string name = node.name();
     return node.isElement() && name != "value" && name != "flag";
+}
+
+void setAttribute(XmlNode node, const char* name, const std::string& text)
+{
+    if (!text.empty())
+        node.setAttribute(name, text);
+}
+
+/// Gives the values or flags that `entry` names the words that `texts` has for them.
+void setValueTexts(XmlNode entry, const ConstXmlNode& texts, std::string_view element)
+{
+    for (const XmlNode& value : entry.childElements(element)) {
+        for (const ConstXmlNode& text : texts.childElements(element)) {
+            if (text.attribute("raw") == value.attribute("raw") && text.attribute("mask") == value.attribute("mask"))
+                setAttribute(value, "text", text.attribute("text"));
+        }
+    }
 }
 
 } // namespace
@@ -27,6 +47,12 @@ bool isEntry(const ConstXmlNode& node)
 std::string DictionaryEntry::label() const
 {
     return AttributeGet(m_node, "label");
+}
+
+std::string DictionaryEntry::sourceLabel() const
+{
+    const std::string source = AttributeGet(m_node, kSourceLabel);
+    return source.empty() ? label() : source;
 }
 
 std::string DictionaryEntry::help() const
@@ -75,6 +101,24 @@ TagDictionary::TagDictionary(const std::string& path)
     XMLLoad(m_document, path);
     for (const ConstXmlNode& node : std::as_const(m_document).selectNodes(kAllEntries))
         m_entries.emplace(NodeXPath(node), node);
+}
+
+void TagDictionary::setTexts(const std::string& path)
+{
+    XmlDocument file;
+    XMLLoad(file, path);
+    std::unordered_map<std::string, ConstXmlNode> texts;
+    for (const ConstXmlNode& node : std::as_const(file).selectNodes(kAllEntries))
+        texts.emplace(NodeXPath(node), node);
+    for (const XmlNode& entry : m_document.selectNodes(kAllEntries)) {
+        const ConstXmlNode text = texts[NodeXPath(entry)];
+        if (entry.attribute(kSourceLabel).empty())
+            setAttribute(entry, kSourceLabel, entry.attribute("label"));
+        setAttribute(entry, "label", text.attribute("label"));
+        setAttribute(entry, "help", text.attribute("help"));
+        setValueTexts(entry, text, "value");
+        setValueTexts(entry, text, "flag");
+    }
 }
 
 DictionaryEntry TagDictionary::entry(const std::string& nodePath) const

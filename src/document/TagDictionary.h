@@ -30,6 +30,8 @@ public:
 
     /// The caption for people, in UTF-8.
     std::string label() const;
+    /// The one of the dictionary itself, whatever language it was given.
+    std::string sourceLabel() const;
     /// What the value is about, in UTF-8, for people.
     std::string help() const;
     /// How values are put into words; the formats are those of valueText(). Empty for as they are.
@@ -57,6 +59,10 @@ class TagDictionary {
 public:
     /// Loads the dictionary file, ProgramFolder().data + "Merovel.xml" as a rule. Raises what XMLLoad() raises.
     explicit TagDictionary(const std::string& path);
+
+    /// Gives the entries the texts of another language: the labels, helps and words for values of the elements at the
+    /// same paths in the file. What has none there keeps its own. Raises what XMLLoad() raises.
+    void setTexts(const std::string& path);
 
     /// The entry for a node path, as NodeXPath() writes it or any other that selects it; no entry where it selects
     /// no element. Raises kInvalidCall for what is no path.

@@ -33,7 +33,8 @@ LeafTree loadLeaves(XmlDocument& JpegDoc, const TagDictionary& Merovel, bool tec
     std::size_t LeafCounter = 0;
     const ValueTexts texts{.dictionary = &Merovel, .words = &words};
     for (const ShownNode<XmlNode>& item : propertyTree(JpegDoc, Merovel, technical)) {
-        AttributeSet(item.node, "label", item.label);
+        // A document does not depend on the language of the window.
+        AttributeSet(item.node, "label", item.entry ? item.entry.sourceLabel() : item.label);
         if (XmlNode* node = tree.osProperties.nodeOf(item.path)) {
             *node = item.node;
             continue;
