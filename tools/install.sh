@@ -2,7 +2,7 @@
 # Sourced by the scripts that build and test: the Debian 12 packages that the project needs, and how to install them.
 
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libxml2-dev libxslt1-dev libpcre2-dev libunistring-dev libjpeg62-turbo-dev
-    libcli11-dev libutfcpp-dev libmimalloc-dev qt6-base-dev)
+    libcli11-dev libutfcpp-dev libmimalloc-dev qt6-base-dev qt6-tools-dev qt6-l10n-tools)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libxml2-utils libimage-exiftool-perl strace python3)
 TEST_PACKAGES+=(zsh fish man-db parallel) # completions, manual pages, the recipe for large archives
 LINT_PACKAGES=(clang-format clang-tidy)

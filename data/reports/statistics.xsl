@@ -10,9 +10,11 @@
   <xsl:key name="values" match="value" use="."/>
 
   <xsl:template match="/JPEGs">
-    <html lang="en">
+    <xsl:variable name="heading"><xsl:call-template name="words"><xsl:with-param name="text" select="'Statistics'"/></xsl:call-template></xsl:variable>
+    <xsl:variable name="language"><xsl:apply-templates select="." mode="language"/></xsl:variable>
+    <html lang="{$language}">
       <head>
-        <title>Statistics</title>
+        <title><xsl:value-of select="$heading"/></title>
         <style>
           body { margin: 2em auto; max-width: 60em; padding: 0 1.5em; background: #fbfaf8; color: #26292c;
                  font: 15px/1.45 "Segoe UI", "Noto Sans", "DejaVu Sans", sans-serif; }
@@ -28,7 +30,7 @@
         </style>
       </head>
       <body>
-        <h1>Statistics</h1>
+        <h1><xsl:value-of select="$heading"/></h1>
         <p><xsl:apply-templates select="." mode="number"/></p>
         <xsl:variable name="cameras">
           <xsl:for-each select="JPEG"><value><xsl:apply-templates select="." mode="camera"/></value></xsl:for-each>
@@ -86,7 +88,7 @@
         </row>
       </xsl:for-each>
     </xsl:variable>
-    <h2><xsl:value-of select="$title"/></h2>
+    <h2><xsl:call-template name="words"><xsl:with-param name="text" select="$title"/></xsl:call-template></h2>
     <xsl:apply-templates select="exsl:node-set($rows)" mode="bars"/>
   </xsl:template>
 
@@ -107,7 +109,7 @@
         <xsl:variable name="width" select="round(@count div $most * 480)"/>
         <text x="280" y="{$top + 14}" text-anchor="end">
           <xsl:choose>
-            <xsl:when test="normalize-space(@label) = ''">not known</xsl:when>
+            <xsl:when test="normalize-space(@label) = ''"><xsl:call-template name="words"><xsl:with-param name="text" select="'not known'"/></xsl:call-template></xsl:when>
             <xsl:when test="string-length(@label) &gt; 32"><xsl:value-of select="concat(substring(@label, 1, 31), '…')"/></xsl:when>
             <xsl:otherwise><xsl:value-of select="@label"/></xsl:otherwise>
           </xsl:choose>

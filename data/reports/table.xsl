@@ -7,9 +7,11 @@
   <xsl:output method="html" indent="no"/>
 
   <xsl:template match="/JPEGs">
-    <html lang="en">
+    <xsl:variable name="heading"><xsl:call-template name="words"><xsl:with-param name="text" select="'Shots'"/></xsl:call-template></xsl:variable>
+    <xsl:variable name="language"><xsl:apply-templates select="." mode="language"/></xsl:variable>
+    <html lang="{$language}">
       <head>
-        <title>Shots</title>
+        <title><xsl:value-of select="$heading"/></title>
         <style>
           body { margin: 2em auto; max-width: 76em; padding: 0 1.5em; background: #fbfaf8; color: #26292c;
                  font: 15px/1.45 "Segoe UI", "Noto Sans", "DejaVu Sans", sans-serif; }
@@ -28,13 +30,20 @@
         </style>
       </head>
       <body>
-        <h1>Shots</h1>
+        <h1><xsl:value-of select="$heading"/></h1>
         <p><xsl:apply-templates select="." mode="number"/></p>
         <table>
           <thead>
             <tr>
-              <th>Photograph</th><th>Date</th><th>Camera</th><th>Lens</th>
-              <th class="number">Time</th><th class="number">Aperture</th><th class="number">ISO</th><th class="number">Focal length</th><th>Place</th>
+              <th><xsl:call-template name="words"><xsl:with-param name="text" select="'Photograph'"/></xsl:call-template></th>
+              <th><xsl:call-template name="words"><xsl:with-param name="text" select="'Date'"/></xsl:call-template></th>
+              <th><xsl:call-template name="words"><xsl:with-param name="text" select="'Camera'"/></xsl:call-template></th>
+              <th><xsl:call-template name="words"><xsl:with-param name="text" select="'Lens'"/></xsl:call-template></th>
+              <th class="number"><xsl:call-template name="words"><xsl:with-param name="text" select="'Time'"/></xsl:call-template></th>
+              <th class="number"><xsl:call-template name="words"><xsl:with-param name="text" select="'Aperture'"/></xsl:call-template></th>
+              <th class="number"><xsl:call-template name="words"><xsl:with-param name="text" select="'ISO'"/></xsl:call-template></th>
+              <th class="number"><xsl:call-template name="words"><xsl:with-param name="text" select="'Focal length'"/></xsl:call-template></th>
+              <th><xsl:call-template name="words"><xsl:with-param name="text" select="'Place'"/></xsl:call-template></th>
             </tr>
           </thead>
           <tbody><xsl:apply-templates select="JPEG"/></tbody>

@@ -119,7 +119,7 @@ std::optional<Error> FailedChecks::summary() const
     if (m_count <= 1)
         return m_first;
     const Message message = areTooMany() ? Message::SearchGivenUp : Message::FilesNotChecked;
-    return Error{m_first->number, {message, std::to_string(m_count), m_first->description}};
+    return Error{m_first->number, {message, m_count, m_first->description}};
 }
 
 ContentFilter::ContentFilter(const ContentSearch& search)

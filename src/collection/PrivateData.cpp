@@ -523,7 +523,7 @@ const PrivateKindRow& privateKindRow(PrivateKind kind)
 Phrase findingText(const PrivateFinding& finding)
 {
     const Phrase text(finding.isClosed ? Message::PrivateFindingClosed : Message::PrivateFinding, finding.what,
-                      std::to_string(finding.size), finding.place);
+                      finding.size, finding.place);
     return finding.obstacle.isEmpty() ? text : Phrase(Message::PrivateFindingStays, text, finding.obstacle);
 }
 

@@ -10,6 +10,7 @@
 #include "document/MetadataDocument.h"
 
 #include <algorithm>
+#include <charconv>
 #include <optional>
 
 namespace ovisto {
@@ -62,6 +63,14 @@ std::string writeReport(const std::string& report, const std::string& folder, Er
     return written ? path : std::string();
 }
 
+/// A number of things that a style sheet has counted.
+std::int64_t wholeCount(const std::string& number)
+{
+    std::int64_t count = 0;
+    std::from_chars(number.data(), number.data() + number.size(), count);
+    return count;
+}
+
 } // namespace
 
 std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files, const KeepOptions& keep,
@@ -89,10 +98,20 @@ std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files,
 Transformation transformDocuments(XmlDocument& documents, XmlDocument styleSheet, TextEncoding encoding,
                                   const ValueTexts& values)
 {
-    const NodeFunction text{.nameSpace = "urn:ovisto:values", .name = "text", .text = [&](const ConstXmlNode& element) {
-                                return values.of(element);
-                            }};
-    return transformNode(documents, std::move(styleSheet), encoding, {text});
+    const std::string nameSpace = "urn:ovisto:values";
+    using Arguments = std::vector<SheetArgument>;
+    const SheetFunction text{nameSpace, "text", 1, [&](const Arguments& arguments) {
+                                 const SheetArgument& value = arguments.front();
+                                 return value.element ? values.of(value.element) : value.string;
+                             }};
+    const SheetFunction words{nameSpace, "words", 1, [&](const Arguments& arguments) {
+                                  return values.words->reportWords(arguments.front().text());
+                              }};
+    const SheetFunction counted{nameSpace, "counted", 3, [&](const Arguments& arguments) {
+                                    return values.words->reportCount(wholeCount(arguments[0].text()),
+                                                                     arguments[1].text(), arguments[2].text());
+                                }};
+    return transformNode(documents, std::move(styleSheet), encoding, {text, words, counted});
 }
 
 ReportResult makeReport(const std::vector<std::string>& files, const ReportOptions& options, Progress& progress,

@@ -28,8 +28,9 @@ struct FileFailure {
 std::vector<FileFailure> combineDocuments(const std::vector<std::string>& files, const KeepOptions& keep,
                                           OutputFile& combined, Progress& progress);
 
-/// Transforms combined documents with a style sheet. The function text(), of a node, in the name space
-/// "urn:ovisto:values" gives it the texts of values.
+/// Transforms combined documents with a style sheet. Functions in the name space "urn:ovisto:values" give it texts for
+/// people, in the language of `values`: text(NODE) what the value of a node means, words('Camera') its own headings,
+/// and counted(NUMBER, '%n photograph', '%n photographs') those with a number.
 Transformation transformDocuments(XmlDocument& documents, XmlDocument styleSheet, TextEncoding encoding,
                                   const ValueTexts& values);
 

@@ -2,11 +2,10 @@
 
 #include "common/Message.h"
 
+#include "common/TranslationMarks.h"
+
 #include <cstddef>
 #include <iterator>
-
-// By this name Qt's lupdate finds the texts that are to be translated; the library itself does without Qt.
-#define QT_TRANSLATE_NOOP(context, text) text
 
 namespace ovisto {
 
@@ -15,6 +14,8 @@ namespace {
 struct MessageText {
     Message message;
     const char* text;
+    int counted = 0;             ///< which detail is a number of things, from 1; 0 for none
+    const char* ofOne = nullptr; ///< in English, with one of them
 };
 
 constexpr MessageText kTexts[] = {
@@ -85,7 +86,8 @@ constexpr MessageText kTexts[] = {
     {Message::NodeNotCreated,
      QT_TRANSLATE_NOOP("Message", "The file does not have this node, and it cannot be created without an entry in the "
                                   "tag dictionary.")},
-    {Message::SeveralNodes, QT_TRANSLATE_NOOP("Message", "%1 nodes of the file have this path.")},
+    {Message::SeveralNodes, QT_TRANSLATE_N_NOOP("Message", "%1 nodes of the file have this path."), 1,
+     "%1 node of the file has this path."},
     {Message::CharacterLost,
      QT_TRANSLATE_NOOP("Message", "\"%1\" would be written as \"?\": in a basic document, %2 holds Western European "
                                   "texts only.")},
@@ -123,8 +125,10 @@ constexpr MessageText kTexts[] = {
     {Message::SegmentWriteLong, QT_TRANSLATE_NOOP("Message", "Temp file write long %1")},
     {Message::SegmentWriteString, QT_TRANSLATE_NOOP("Message", "Temp file write string")},
     {Message::SegmentLengthWrong,
-     QT_TRANSLATE_NOOP("Message", "The segment would have %1 bytes, but its length says %2")},
-    {Message::ValueLengthWrong, QT_TRANSLATE_NOOP("Message", "The value would have %1 bytes instead of %2")},
+     QT_TRANSLATE_N_NOOP("Message", "The segment would have %1 bytes, but its length says %2"), 1,
+     "The segment would have %1 byte, but its length says %2"},
+    {Message::ValueLengthWrong, QT_TRANSLATE_N_NOOP("Message", "The value would have %1 bytes instead of %2"), 1,
+     "The value would have %1 byte instead of %2"},
     {Message::ExifLengthFailed, QT_TRANSLATE_NOOP("Message", "Exif section - calculate data length")},
     {Message::ExifOffsetsFailed, QT_TRANSLATE_NOOP("Message", "Exif Offset Calculation failed")},
     {Message::MakerNoteNotTiedUp,
@@ -138,9 +142,12 @@ constexpr MessageText kTexts[] = {
     {Message::SegmentsLeadNowhere, QT_TRANSLATE_NOOP("Message", "The segments of the file do not lead to its image")},
     {Message::SegmentTooLong, QT_TRANSLATE_NOOP("Message", "The segment would be longer than 65,535 bytes")},
     {Message::ExifTooLong,
-     QT_TRANSLATE_NOOP("Message", "The Exif segment would be %1 bytes longer than the 65,535 "
-                                  "that it has room for; rebuilding (\"Keep Untouched Data?\" off, "
-                                  "--rebuild) may make it shorter")},
+     QT_TRANSLATE_N_NOOP("Message", "The Exif segment would be %1 bytes longer than the 65,535 "
+                                    "that it has room for; rebuilding (\"Keep Untouched Data?\" off, "
+                                    "--rebuild) may make it shorter"),
+     1,
+     "The Exif segment would be %1 byte longer than the 65,535 that it has room for; rebuilding (\"Keep Untouched "
+     "Data?\" off, --rebuild) may make it shorter"},
     {Message::ExifRepeats, QT_TRANSLATE_NOOP("Message", "The Exif directories name the same bytes again and again")},
     {Message::DirectoryNotRead,
      QT_TRANSLATE_NOOP("Message", "The directory could not be read, so that nothing in it can be changed")},
@@ -165,7 +172,8 @@ constexpr MessageText kTexts[] = {
     {Message::WouldDiffer, QT_TRANSLATE_NOOP("Message", "%1 would not be the same")},
     {Message::WouldHaveOtherLink, QT_TRANSLATE_NOOP("Message", "%1 would have another link to the next directory")},
     {Message::WouldHaveOtherEntries, QT_TRANSLATE_NOOP("Message", "%1 would not have the entries that it should")},
-    {Message::WouldHaveSegments, QT_TRANSLATE_NOOP("Message", "The file would have %1 segments instead of %2")},
+    {Message::WouldHaveSegments, QT_TRANSLATE_N_NOOP("Message", "The file would have %1 segments instead of %2"), 1,
+     "The file would have %1 segment instead of %2"},
     {Message::ReadsOther, QT_TRANSLATE_NOOP("Message", "%1 reads %2 instead of %3")},
     {Message::HasOtherType,
      QT_TRANSLATE_NOOP("Message", "%1 has type %2 and count %3 instead of type %4 and count %5")},
@@ -175,7 +183,8 @@ constexpr MessageText kTexts[] = {
     {Message::Differs, QT_TRANSLATE_NOOP("Message", "%1 is not the same")},
     {Message::HasOtherLink, QT_TRANSLATE_NOOP("Message", "%1 has another link to the next directory")},
     {Message::HasOtherEntries, QT_TRANSLATE_NOOP("Message", "%1 does not have the entries that it should")},
-    {Message::HasOtherSegments, QT_TRANSLATE_NOOP("Message", "The file has %1 segments instead of %2")},
+    {Message::HasOtherSegments, QT_TRANSLATE_N_NOOP("Message", "The file has %1 segments instead of %2"), 1,
+     "The file has %1 segment instead of %2"},
     {Message::ExifHeader, QT_TRANSLATE_NOOP("Message", "The header of the Exif segment")},
     {Message::ExifSegment, QT_TRANSLATE_NOOP("Message", "The Exif segment")},
     {Message::ImageAt, QT_TRANSLATE_NOOP("Message", "The image at %1")},
@@ -184,11 +193,11 @@ constexpr MessageText kTexts[] = {
     {Message::SharedBytes, QT_TRANSLATE_NOOP("Message", "%1 shared bytes with another value, which still has them")},
     {Message::TrailerPositions,
      QT_TRANSLATE_NOOP("Message", "The data after the picture names positions in the file, which are others now")},
-    {Message::OneValueChanged, QT_TRANSLATE_NOOP("Message", "1 value changed, %1 unchanged, picture identical.")},
-    {Message::ValuesChanged, QT_TRANSLATE_NOOP("Message", "%1 values changed, %2 unchanged, picture identical.")},
+    {Message::ValuesChanged, QT_TRANSLATE_N_NOOP("Message", "%1 values changed, %2 unchanged, picture identical."), 1,
+     "%1 value changed, %2 unchanged, picture identical."},
     {Message::OriginalKept, QT_TRANSLATE_NOOP("Message", "%1. The original is kept as %2")},
     {Message::OriginalWasThere, QT_TRANSLATE_NOOP("Message", "%1. %2 was there already and stays as the original")},
-    {Message::AndMore, QT_TRANSLATE_NOOP("Message", "%1, and %2 more")},
+    {Message::AndMore, QT_TRANSLATE_N_NOOP("Message", "%1, and %2 more"), 2, "%1, and %2 more"},
 
     {Message::PrivatePosition, QT_TRANSLATE_NOOP("Message", "Position")},
     {Message::PrivateSerial, QT_TRANSLATE_NOOP("Message", "Serial numbers")},
@@ -232,8 +241,9 @@ constexpr MessageText kTexts[] = {
     {Message::InPictureStays, QT_TRANSLATE_NOOP("Message", "It stays, because the image data is never changed")},
     {Message::NothingToCut, QT_TRANSLATE_NOOP("Message", "It stays, because it cannot be told from the picture")},
     {Message::GoesWithOthers, QT_TRANSLATE_NOOP("Message", "It goes only with the whole Exif data")},
-    {Message::PrivateFinding, QT_TRANSLATE_NOOP("Message", "%1, %2 bytes, %3")},
-    {Message::PrivateFindingClosed, QT_TRANSLATE_NOOP("Message", "%1, %2 bytes, %3; the program cannot look into it")},
+    {Message::PrivateFinding, QT_TRANSLATE_N_NOOP("Message", "%1, %2 bytes, %3"), 2, "%1, %2 byte, %3"},
+    {Message::PrivateFindingClosed, QT_TRANSLATE_N_NOOP("Message", "%1, %2 bytes, %3; the program cannot look into it"),
+     2, "%1, %2 byte, %3; the program cannot look into it"},
     {Message::PrivateFindingStays, QT_TRANSLATE_NOOP("Message", "%1. %2.")},
     {Message::TellsNothing, QT_TRANSLATE_NOOP("Message", "Nothing was found that identifies a person or a place")},
     {Message::CutPicture, QT_TRANSLATE_NOOP("Message", "The picture up to its end")},
@@ -250,8 +260,7 @@ constexpr MessageText kTexts[] = {
     {Message::ValueCelsius, QT_TRANSLATE_NOOP("Message", "%1 °C")},
     {Message::ValuePerCent, QT_TRANSLATE_NOOP("Message", "%1 %")},
     {Message::ValueHectopascals, QT_TRANSLATE_NOOP("Message", "%1 hPa")},
-    {Message::ValueBytes, QT_TRANSLATE_NOOP("Message", "%1 bytes")},
-    {Message::ValueOneByte, QT_TRANSLATE_NOOP("Message", "1 byte")},
+    {Message::ValueBytes, QT_TRANSLATE_N_NOOP("Message", "%1 bytes"), 1, "%1 byte"},
 
     {Message::RootIsNotJpeg, QT_TRANSLATE_NOOP("Message", "The root element is %1, not JPEG")},
     {Message::FolderNotFound, QT_TRANSLATE_NOOP("Message", "Folder not found")},
@@ -259,9 +268,11 @@ constexpr MessageText kTexts[] = {
                                                          "Files' button to try again.")},
     {Message::FilesFound, QT_TRANSLATE_NOOP("Message", "List of files found (%1)")},
     {Message::CheckingContents, QT_TRANSLATE_NOOP("Message", "Checking file contents")},
-    {Message::FilesNotChecked, QT_TRANSLATE_NOOP("Message", "%1 files could not be checked. The first: %2")},
+    {Message::FilesNotChecked, QT_TRANSLATE_N_NOOP("Message", "%1 files could not be checked. The first: %2"), 1,
+     "%1 file could not be checked. The first: %2"},
     {Message::SearchGivenUp,
-     QT_TRANSLATE_NOOP("Message", "The search ended early, because %1 files could not be checked. The first: %2")},
+     QT_TRANSLATE_N_NOOP("Message", "The search ended early, because %1 files could not be checked. The first: %2"), 1,
+     "The search ended early, because %1 file could not be checked. The first: %2"},
     {Message::OpenFile, QT_TRANSLATE_NOOP("Message", "Open File %1")},
     {Message::ReadFile, QT_TRANSLATE_NOOP("Message", "Read File %1")},
     {Message::CreateFile, QT_TRANSLATE_NOOP("Message", "Create file %1")},
@@ -269,6 +280,13 @@ constexpr MessageText kTexts[] = {
     {Message::SaveXmlFile, QT_TRANSLATE_NOOP("Message", "Save XML File %1")},
     {Message::DocumentCorrupt, QT_TRANSLATE_NOOP("Message", "Internal XML document corrupt")},
     {Message::TransformXml, QT_TRANSLATE_NOOP("Message", "Transform XML")},
+
+    {Message::LoadXml, QT_TRANSLATE_NOOP("Message", "loadXML")},
+    {Message::DocumentNotShown, QT_TRANSLATE_NOOP("Message", "Internal JpegXml document error")},
+    {Message::InvalidPicture, QT_TRANSLATE_NOOP("Message", "Invalid picture")},
+    {Message::InvalidThumbnail, QT_TRANSLATE_NOOP("Message", "Invalid thumbnail")},
+    {Message::OpenReport, QT_TRANSLATE_NOOP("Message", "Open %1")},
+    {Message::NoProgramOpens, QT_TRANSLATE_NOOP("Message", "No program was found that opens it")},
 };
 
 constexpr bool isInOrder()
@@ -286,6 +304,17 @@ static_assert(isInOrder(), "a message is found by its number");
 const char* sourceText(Message message)
 {
     return kTexts[static_cast<std::size_t>(message)].text;
+}
+
+const char* sourceText(Message message, std::optional<std::int64_t> count)
+{
+    const MessageText& row = kTexts[static_cast<std::size_t>(message)];
+    return count == 1 && row.ofOne != nullptr ? row.ofOne : row.text;
+}
+
+int countedDetail(Message message)
+{
+    return kTexts[static_cast<std::size_t>(message)].counted;
 }
 
 } // namespace ovisto

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace ovisto {
 
@@ -141,7 +142,6 @@ enum class Message : std::uint8_t {
     Picture,
     SharedBytes,
     TrailerPositions,
-    OneValueChanged,
     ValuesChanged,
     OriginalKept,
     OriginalWasThere,
@@ -205,7 +205,6 @@ enum class Message : std::uint8_t {
     ValuePerCent,
     ValueHectopascals,
     ValueBytes,
-    ValueOneByte,
     // Collections
     RootIsNotJpeg,
     FolderNotFound,
@@ -221,10 +220,23 @@ enum class Message : std::uint8_t {
     SaveXmlFile,
     DocumentCorrupt,
     TransformXml,
+    // What the window shows
+    LoadXml,
+    DocumentNotShown,
+    InvalidPicture,
+    InvalidThumbnail,
+    OpenReport,
+    NoProgramOpens,
 };
 
 /// The English text of a message, UTF-8, with %1, %2 and so on where its details belong. Translations are looked up by
 /// it, in the context "Message".
 const char* sourceText(Message message);
+
+/// The same where the text counts something: with one of it, the text has its singular.
+const char* sourceText(Message message, std::optional<std::int64_t> count);
+
+/// Which detail of a message, from 1, is the number that the form of its words depends on; 0 for none.
+int countedDetail(Message message);
 
 } // namespace ovisto

@@ -53,19 +53,26 @@ Phrase Phrase::shortened(std::size_t most) const
     return phrase;
 }
 
-std::string Phrase::words(const std::function<std::string(Message)>& textOf) const
+/// The number of things that the phrase is about.
+std::optional<std::int64_t> Phrase::counted() const
+{
+    const auto place = static_cast<std::size_t>(countedDetail(m_message));
+    return place > 0 && place <= m_details.size() ? m_details[place - 1].m_count : std::nullopt;
+}
+
+std::string Phrase::words(const TextOf& textOf) const
 {
     if (m_message == Message::AsItIs)
         return cut(m_text, m_most);
     std::vector<std::string> details;
     for (const Phrase& detail : m_details)
         details.push_back(detail.words(textOf));
-    return cut(filled(textOf(m_message), details), m_most);
+    return cut(filled(textOf(m_message, counted()), details), m_most);
 }
 
 std::string inEnglish(const Phrase& phrase)
 {
-    return phrase.words(sourceText);
+    return phrase.words([](Message message, std::optional<std::int64_t> count) { return sourceText(message, count); });
 }
 
 } // namespace ovisto

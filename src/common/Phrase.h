@@ -4,8 +4,11 @@
 
 #include "common/Message.h"
 
+#include <concepts>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,6 +22,10 @@ public:
     Phrase() = default;
     Phrase(std::string text) : m_text(std::move(text)) {}
     Phrase(const char* text) : m_text(text) {}
+    /// A number of things, which the form of the words around it may depend on.
+    Phrase(std::integral auto count) : Phrase(std::to_string(count), static_cast<std::int64_t>(count)) {}
+    /// The same, written in another way.
+    Phrase(std::string text, std::int64_t count) : m_text(std::move(text)), m_count(count) {}
     template <class... Details>
     Phrase(Message message, Details&&... details) : m_message(message), m_details{std::forward<Details>(details)...}
     {
@@ -34,14 +41,18 @@ public:
     /// The phrase, its words cut after `most` characters (and "..." put there).
     Phrase shortened(std::size_t most) const;
 
-    /// The words. `textOf` gives the text of a message in the language wanted.
-    std::string words(const std::function<std::string(Message)>& textOf) const;
+    /// Gives the text of a message in the language wanted; of one that counts something, in the form for so many.
+    using TextOf = std::function<std::string(Message message, std::optional<std::int64_t> count)>;
+    std::string words(const TextOf& textOf) const;
 
     bool operator==(const Phrase&) const = default;
 
 private:
+    std::optional<std::int64_t> counted() const;
+
     Message m_message = Message::AsItIs;
     std::string m_text; ///< of a phrase that is the same in every language
+    std::optional<std::int64_t> m_count;
     std::vector<Phrase> m_details;
     std::size_t m_most = std::string::npos;
 };

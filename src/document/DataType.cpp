@@ -2,6 +2,7 @@
 
 #include "document/DataType.h"
 
+#include "common/TranslationMarks.h"
 #include "common/text/Hex.h"
 #include "common/text/NumberText.h"
 #include "common/text/Unicode.h"
@@ -18,25 +19,25 @@ namespace {
 
 // Two Shorts would fit into the entry; they are nevertheless stored outside.
 constexpr DataType kDataTypes[] = {
-    {kByte, "Byte", ValueForm::Hexadecimal, 1, kValueFieldSize},
-    {kString, "String", ValueForm::Text, 1, kValueFieldSize},
-    {kShort, "Short", ValueForm::Short, 2, 1},
-    {kLong, "Long", ValueForm::Long, 4, 1},
-    {kRational, "Rational", ValueForm::Rational, 8, 0},
-    {kSignedByte, "Signed Byte", ValueForm::Hexadecimal, 1, kValueFieldSize},
-    {kUndefined, "Undefined", ValueForm::RawText, 1, kValueFieldSize},
-    {kSignedShort, "Signed Short", ValueForm::Short, 2, 1},
-    {kSignedLong, "Signed Long", ValueForm::Long, 4, 1},
-    {kSignedRational, "Signed Rational", ValueForm::Rational, 8, 0},
-    {kUnicodeString, "Unicode String", ValueForm::WideText, 1, kValueFieldSize},
+    {kByte, QT_TRANSLATE_NOOP("DataType", "Byte"), ValueForm::Hexadecimal, 1, kValueFieldSize},
+    {kString, QT_TRANSLATE_NOOP("DataType", "String"), ValueForm::Text, 1, kValueFieldSize},
+    {kShort, QT_TRANSLATE_NOOP("DataType", "Short"), ValueForm::Short, 2, 1},
+    {kLong, QT_TRANSLATE_NOOP("DataType", "Long"), ValueForm::Long, 4, 1},
+    {kRational, QT_TRANSLATE_NOOP("DataType", "Rational"), ValueForm::Rational, 8, 0},
+    {kSignedByte, QT_TRANSLATE_NOOP("DataType", "Signed Byte"), ValueForm::Hexadecimal, 1, kValueFieldSize},
+    {kUndefined, QT_TRANSLATE_NOOP("DataType", "Undefined"), ValueForm::RawText, 1, kValueFieldSize},
+    {kSignedShort, QT_TRANSLATE_NOOP("DataType", "Signed Short"), ValueForm::Short, 2, 1},
+    {kSignedLong, QT_TRANSLATE_NOOP("DataType", "Signed Long"), ValueForm::Long, 4, 1},
+    {kSignedRational, QT_TRANSLATE_NOOP("DataType", "Signed Rational"), ValueForm::Rational, 8, 0},
+    {kUnicodeString, QT_TRANSLATE_NOOP("DataType", "Unicode String"), ValueForm::WideText, 1, kValueFieldSize},
 };
 
 // Number 11 means the wide texts of Windows for their tags.
 constexpr DataType kFullDataTypes[] = {
-    {kFloat, "Float", ValueForm::Real, 4, 1},
-    {kDouble, "Double", ValueForm::Real, 8, 0},
-    {kIfd, "Directory Position", ValueForm::Long, 4, 1},
-    {kUtf8String, "UTF-8 String", ValueForm::Text, 1, kValueFieldSize},
+    {kFloat, QT_TRANSLATE_NOOP("DataType", "Float"), ValueForm::Real, 4, 1},
+    {kDouble, QT_TRANSLATE_NOOP("DataType", "Double"), ValueForm::Real, 8, 0},
+    {kIfd, QT_TRANSLATE_NOOP("DataType", "Directory Position"), ValueForm::Long, 4, 1},
+    {kUtf8String, QT_TRANSLATE_NOOP("DataType", "UTF-8 String"), ValueForm::Text, 1, kValueFieldSize},
 };
 
 std::int64_t characterLength(const std::string& text)

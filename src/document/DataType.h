@@ -47,7 +47,7 @@ enum class ValueForm {
 /// A data type.
 struct DataType {
     int number;            ///< the value of the attribute "d"
-    std::string_view name; ///< for people
+    std::string_view name; ///< for people, in English; translated in the context "DataType"
     ValueForm form;
     std::int64_t size;       ///< bytes of a component
     std::int64_t mostInside; ///< how many components fit into the entry itself; more are stored outside

@@ -95,7 +95,7 @@ XmlNode nodeToChange(XmlDocument& document, const NodeChange& change, const std:
         return *surplus;
     }
     if (!change.path.empty() && nodes.size() > 1)
-        throw Error{kInvalidCall, {Message::SeveralNodes, std::to_string(nodes.size())}};
+        throw Error{kInvalidCall, {Message::SeveralNodes, nodes.size()}};
     return nodes.front();
 }
 

@@ -405,9 +405,7 @@ Text versionText(const Value& value)
 
 std::string bytesText(std::int64_t count, const ValueWords& words)
 {
-    if (count == 1)
-        return words.phrase(Message::ValueOneByte);
-    return words.phrase({Message::ValueBytes, words.number(static_cast<double>(count), 0)});
+    return words.phrase({Message::ValueBytes, Phrase(words.number(static_cast<double>(count), 0), count)});
 }
 
 Text lengthText(const Value& value)

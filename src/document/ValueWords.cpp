@@ -80,6 +80,19 @@ std::string ValueWords::phrase(const Phrase& phrase) const
     return inEnglish(phrase);
 }
 
+std::string ValueWords::reportWords(const std::string& text) const
+{
+    return text;
+}
+
+std::string ValueWords::reportCount(std::int64_t count, const std::string& one, const std::string& many) const
+{
+    std::string text = count == 1 ? one : many;
+    if (const auto place = text.find("%n"); place != std::string::npos)
+        text.replace(place, 2, std::to_string(count));
+    return text;
+}
+
 const ValueWords& englishValueWords()
 {
     static const ValueWords words;

@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -37,6 +38,11 @@ public:
     virtual std::string number(double number, int decimals) const;
     virtual std::string moment(const Moment& moment) const;
     virtual std::string phrase(const Phrase& phrase) const;
+
+    /// A heading or another text that a style sheet has in English.
+    virtual std::string reportWords(const std::string& text) const;
+    /// The same with a number, which stands at %n: `one` for one thing, `many` for another number.
+    virtual std::string reportCount(std::int64_t count, const std::string& one, const std::string& many) const;
 
     std::size_t mostCharacters = std::string::npos; ///< of a value; more are cut, and "..." put there
 };

@@ -3,6 +3,7 @@
 #include "common/Libraries.h"
 #include "common/system/Process.h"
 #include "common/system/ProgramFolder.h"
+#include "ui/App/Language.h"
 #include "ui/App/MessageReporter.h"
 #include "ui/App/ProgramIcon.h"
 #include "ui/App/Settings.h"
@@ -11,6 +12,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLocale>
 
 #include <optional>
 #include <string>
@@ -19,10 +21,14 @@
 namespace {
 
 /// The tag dictionary, without which there is no program. Nothing when it cannot be loaded, which was reported.
-std::optional<ovisto::TagDictionary> loadDictionary(const std::string& folder, ovisto::ErrorReporter& reporter)
+std::optional<ovisto::TagDictionary> loadDictionary(const std::string& folder, const ovisto::Language& language,
+                                                    ovisto::ErrorReporter& reporter)
 {
     std::optional<ovisto::TagDictionary> Merovel;
     ovisto::attempt(reporter, "Merovel.xml", [&] { Merovel.emplace(folder + "Merovel.xml"); });
+    const std::string texts = language.dictionaryTexts(folder);
+    if (Merovel && !texts.empty())
+        ovisto::attempt(reporter, texts, [&] { Merovel->setTexts(texts); });
     return Merovel;
 }
 
@@ -51,6 +57,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(QString::fromLatin1(ovisto::programVersion()));
     QApplication::setDesktopFileName(QStringLiteral("org.castelmar.ovisto"));
 
+    const ovisto::Language language(QLocale::system().uiLanguages());
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::translate("main", "Shows and edits the metadata of JPEG files."));
     parser.addPositionalArgument(QStringLiteral("FILE|FOLDER"),
@@ -64,7 +71,7 @@ int main(int argc, char** argv)
     ovisto::MessageReporter reporter(dialogs);
     const ovisto::ProgramFolders folders = ovisto::ProgramFolder();
     QApplication::setWindowIcon(ovisto::programIcon(folders.data));
-    auto Merovel = loadDictionary(folders.data, reporter);
+    auto Merovel = loadDictionary(folders.data, language, reporter);
     if (!Merovel)
         return 1;
     ovisto::SystemDesktop desktop;

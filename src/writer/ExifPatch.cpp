@@ -721,7 +721,7 @@ std::vector<std::uint8_t> patchedExif(const TiffBlock& old, const std::vector<Pa
         bytes = Patch(old, parts, leftovers).patched(Padding::Use);
     const auto size = static_cast<std::int64_t>(bytes.size());
     if (size > kMostExifBytes)
-        throw Error{kOverflow, {Message::ExifTooLong, std::to_string(size - kMostExifBytes)}};
+        throw Error{kOverflow, {Message::ExifTooLong, size - kMostExifBytes}};
     return bytes;
 }
 

@@ -81,7 +81,7 @@ template <class Write> void writeLaidOut(SegmentWriter& writer, std::int64_t siz
     write();
     const std::int64_t written = writer.written() - start;
     if (written != size)
-        throw Error{kInvalidCall, {Message::ValueLengthWrong, std::to_string(written), std::to_string(size)}};
+        throw Error{kInvalidCall, {Message::ValueLengthWrong, written, size}};
 }
 
 /// Writes the value of an entry. What cannot be written is reported with the value, and raised.

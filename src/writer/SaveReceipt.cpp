@@ -59,7 +59,7 @@ public:
         if (isWhole)
             compareSegments();
         else
-            lose({Message::WouldHaveSegments, std::to_string(m_newSegments.size()), std::to_string(m_after.size())});
+            lose({Message::WouldHaveSegments, m_newSegments.size(), m_after.size()});
         compareImage();
         noteTrailer();
         return std::move(m_receipt);
@@ -337,17 +337,14 @@ Phrase afterTheFact(const Phrase& loss)
 
 Phrase summary(const SaveReceipt& receipt)
 {
-    const std::string unchanged = std::to_string(receipt.unchanged);
-    if (receipt.changed == 1)
-        return {Message::OneValueChanged, unchanged};
-    return {Message::ValuesChanged, std::to_string(receipt.changed), unchanged};
+    return {Message::ValuesChanged, receipt.changed, receipt.unchanged};
 }
 
 Phrase lossSummary(const SaveReceipt& receipt)
 {
     Phrase losses = afterTheFact(receipt.losses.front());
     if (receipt.losses.size() > 1)
-        losses = Phrase(Message::AndMore, losses, std::to_string(receipt.losses.size() - 1));
+        losses = Phrase(Message::AndMore, losses, receipt.losses.size() - 1);
     switch (receipt.original) {
     case Original::Kept:
         return {Message::OriginalKept, losses, receipt.originalName};

@@ -137,7 +137,7 @@ void SegmentWriter::writeZeros(std::size_t count)
 void checkSegmentLength(std::int64_t said, std::int64_t written)
 {
     if (written != said)
-        throw Error{kInvalidCall, {Message::SegmentLengthWrong, std::to_string(written), std::to_string(said)}};
+        throw Error{kInvalidCall, {Message::SegmentLengthWrong, written, said}};
 }
 
 } // namespace ovisto

@@ -14,7 +14,7 @@ TEST(Phrase, PutsItsDetailsWhereTheTextHasTheirPlaces)
 {
     const Phrase inner(Message::InContext, "100 %2", Phrase(Message::FilesFound, "3"));
     EXPECT_EQ(inEnglish({Message::InContext, "a", inner}), "a: 100 %2: List of files found (3)");
-    const auto otherLanguage = [](Message message) {
+    const auto otherLanguage = [](Message message, std::optional<std::int64_t> /*count*/) {
         return message == Message::InContext ? std::string("%2 <- %1 (%3)") : std::string("x%1");
     };
     EXPECT_EQ(inner.words(otherLanguage), "x3 <- 100 %2 (%3)") << "a place without a detail stays";

@@ -4,6 +4,7 @@
 
 #include "../support/CountingProgress.h"
 #include "common/system/File.h"
+#include "ui/App/Language.h"
 #include "ui/BatchForm/BatchForm.h"
 #include "ui/BatchResultForm/BatchResultForm.h"
 #include "ui/BrowserCapForm/BrowserCapForm.h"
@@ -141,6 +142,8 @@ public:
 
 class CollectionFormsTest : public QObject {
     Q_OBJECT
+
+    Language m_english{{u"en"_s}};
 
 private Q_SLOTS:
     void initTestCase() { ProgressForm::shortestShow = 0; }

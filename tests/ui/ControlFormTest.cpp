@@ -4,6 +4,7 @@
 
 #include "collection/DocumentLoad.h"
 #include "common/system/File.h"
+#include "ui/App/Language.h"
 #include "ui/App/MessageReporter.h"
 #include "ui/App/SystemDialogs.h"
 #include "ui/ControlForm/PictureBox.h"
@@ -69,6 +70,8 @@ void drop(Window& window, const std::string& path, const char* control = nullptr
 
 class ControlFormTest : public QObject {
     Q_OBJECT
+
+    Language m_english{{u"en"_s}};
 
 private Q_SLOTS:
     void saysWhatValuesMean()

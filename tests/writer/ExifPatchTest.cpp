@@ -299,7 +299,7 @@ TEST(ExifPatch, FillsASegmentToItsLastByteAndUsesPadding)
         return Photograph(photographWith(valueSize, padding)).save(set(kTitlePath, "Title"));
     };
     EXPECT_EQ(titleFits(most - head - need - 1, 0), "") << "an odd end is made even";
-    EXPECT_NE(titleFits(most - head - need + 1, 0).find("1 bytes longer"), std::string::npos);
+    EXPECT_NE(titleFits(most - head - need + 1, 0).find("1 byte longer"), std::string::npos);
     EXPECT_EQ(titleFits(most - head - need - 101, 101), "");
 }
 

@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="UTF-8"?>
 <!-- SPDX-License-Identifier: MIT -->
-<!-- How a photograph was taken, in readable form. For style sheets to import; apply each template but the first to a
-     JPEG element. -->
+<!-- How a photograph was taken, in readable form. For style sheets to import; apply each template that has a mode
+     to a JPEG element, and those of numbers and languages to JPEGs. -->
 <xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform"
                 xmlns:str="http://exslt.org/strings" xmlns:values="urn:ovisto:values"
                 exclude-result-prefixes="str values">
@@ -9,9 +9,30 @@
   <xsl:variable name="smallLetters" select="'abcdefghijklmnopqrstuvwxyz'"/>
   <xsl:variable name="capitals" select="'ABCDEFGHIJKLMNOPQRSTUVWXYZ'"/>
 
+  <!-- A text in the language of the window. Other programs do not have the function, and give it in English. -->
+  <xsl:template name="words">
+    <xsl:param name="text"/>
+    <xsl:choose>
+      <xsl:when test="function-available('values:words')"><xsl:value-of select="values:words($text)"/></xsl:when>
+      <xsl:otherwise><xsl:value-of select="$text"/></xsl:otherwise>
+    </xsl:choose>
+  </xsl:template>
+
   <xsl:template match="JPEGs" mode="number">
-    <xsl:value-of select="concat(count(JPEG), ' photograph')"/>
-    <xsl:if test="count(JPEG) != 1">s</xsl:if>
+    <xsl:choose>
+      <xsl:when test="function-available('values:counted')">
+        <xsl:value-of select="values:counted(count(JPEG), '%n photograph', '%n photographs')"/>
+      </xsl:when>
+      <xsl:otherwise>
+        <xsl:value-of select="concat(count(JPEG), ' photograph')"/>
+        <xsl:if test="count(JPEG) != 1">s</xsl:if>
+      </xsl:otherwise>
+    </xsl:choose>
+  </xsl:template>
+
+  <!-- For the attribute "lang" of a web page: the code of the language that its texts are in. -->
+  <xsl:template match="JPEGs" mode="language">
+    <xsl:call-template name="words"><xsl:with-param name="text" select="'en'"/></xsl:call-template>
   </xsl:template>
 
   <xsl:template match="JPEG" mode="title">

@@ -14,7 +14,7 @@ namespace ovisto {
 
 class XmlDocument;
 enum class TextEncoding;
-struct NodeFunction;
+struct SheetFunction;
 struct Transformation;
 
 /// A node of an XmlDocument for reading, or no node. No node answers every query with an empty result. A handle stays
@@ -59,7 +59,7 @@ public:
 
 protected:
     friend Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding,
-                                        const std::vector<NodeFunction>& functions);
+                                        const std::vector<SheetFunction>& functions);
     _xmlNode* m_node = nullptr;
 };
 

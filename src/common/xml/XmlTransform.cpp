@@ -222,36 +222,39 @@ Error tooMuchMemory()
     return {kOutOfMemory, Message::StyleSheetTooLarge};
 }
 
-/// The first node of an argument, which has been sorted; null if it is no node set.
-const xmlNode* firstNode(const xmlXPathObject& argument)
+SheetArgument sheetArgument(xmlXPathObject& value)
 {
-    const bool isNodeSet = argument.type == XPATH_NODESET || argument.type == XPATH_XSLT_TREE;
-    return isNodeSet ? xmlXPathNodeSetItem(argument.nodesetval, 0) : nullptr;
+    const bool isNodeSet = value.type == XPATH_NODESET || value.type == XPATH_XSLT_TREE;
+    xmlNode* first = isNodeSet ? xmlXPathNodeSetItem(value.nodesetval, 0) : nullptr; // they have been sorted
+    if (first != nullptr && first->type == XML_ELEMENT_NODE)
+        return {.element = ConstXmlNode(first)};
+    const XmlPtr<xmlChar> text(xmlXPathCastToString(&value));
+    return {.string = toString(text.get())};
 }
 
 /// Is called where a style sheet calls any of the functions.
 void callFunction(xmlXPathParserContext* parser, int argumentCount)
 {
-    if (argumentCount != 1) {
-        xmlXPathSetArityError(parser);
-        return;
-    }
     const auto& functions =
-        *static_cast<const std::vector<NodeFunction>*>(xsltXPathGetTransformContext(parser)->_private);
-    const auto function = std::ranges::find_if(functions, [&](const NodeFunction& one) {
+        *static_cast<const std::vector<SheetFunction>*>(xsltXPathGetTransformContext(parser)->_private);
+    const auto function = std::ranges::find_if(functions, [&](const SheetFunction& one) {
         return one.name == toString(parser->context->function) &&
                one.nameSpace == toString(parser->context->functionURI);
     });
-    const XmlPtr<xmlXPathObject> argument(valuePop(parser));
-    if (!argument || function == functions.end())
-        return;
-    const xmlNode* node = firstNode(*argument);
-    if (node == nullptr || node->type != XML_ELEMENT_NODE) {
-        valuePush(parser, xmlXPathConvertString(xmlXPathObjectCopy(argument.get())));
+    if (function == functions.end() || static_cast<std::size_t>(argumentCount) != function->arguments) {
+        xmlXPathSetArityError(parser);
         return;
     }
-    const std::string text = function->text(ConstXmlNode(const_cast<xmlNode*>(node)));
-    valuePush(parser, xmlXPathNewString(xmlText(text.c_str())));
+    std::vector<XmlPtr<xmlXPathObject>> values(function->arguments); // what they are made of lives as long
+    for (auto value = values.rbegin(); value != values.rend(); ++value)
+        value->reset(valuePop(parser));
+    std::vector<SheetArgument> arguments;
+    for (const auto& value : values) {
+        if (value)
+            arguments.push_back(sheetArgument(*value));
+    }
+    if (arguments.size() == values.size())
+        valuePush(parser, xmlXPathNewString(xmlText(function->result(arguments).c_str())));
 }
 
 std::string resultText(xmlDoc* result, xsltStylesheet* style)
@@ -267,7 +270,7 @@ std::string resultText(xmlDoc* result, xsltStylesheet* style)
 } // namespace
 
 Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding,
-                             const std::vector<NodeFunction>& functions)
+                             const std::vector<SheetFunction>& functions)
 {
     initialiseTransformer();
     importsLeft = kMostImports;
@@ -292,8 +295,8 @@ Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEnco
     const XsltPtr<xsltTransformContext> context(xsltNewTransformContext(style.get(), doc));
     limitSteps(*context, elements);
     reading.transformation = context.get();
-    context->_private = const_cast<std::vector<NodeFunction>*>(&functions);
-    for (const NodeFunction& function : functions)
+    context->_private = const_cast<std::vector<SheetFunction>*>(&functions);
+    for (const SheetFunction& function : functions)
         xsltRegisterExtFunction(context.get(), xmlText(function.name.c_str()), xmlText(function.nameSpace.c_str()),
                                 callFunction);
     const XmlPtr<xmlDoc> result(xsltApplyStylesheetUser(style.get(), doc, nullptr, nullptr, nullptr, context.get()));

@@ -21,12 +21,21 @@ struct Transformation {
     std::optional<Error> error;
 };
 
-/// A function for style sheets, of a node set: the text for its first node in document order, if that is an element.
-/// Another node, or another value, is converted to a string as XPath does.
-struct NodeFunction {
+/// What a style sheet gives to a function: the first node, in document order, of a node set if that is an element, else
+/// the string that XPath makes of the value.
+struct SheetArgument {
+    ConstXmlNode element = {};
+    std::string string = {};
+
+    std::string text() const { return element ? element.text() : string; }
+};
+
+/// A function for style sheets, which has a string for a result.
+struct SheetFunction {
     std::string nameSpace;
     std::string name;
-    std::function<std::string(const ConstXmlNode& element)> text; ///< must not raise anything
+    std::size_t arguments;                                                          ///< how many it takes
+    std::function<std::string(const std::vector<SheetArgument>& arguments)> result; ///< must not raise anything
 };
 
 /// Transforms `data` with an XSLT 1.0 style sheet that loadStyleSheet() loaded; EXSLT functions and msxsl:node-set()
@@ -36,6 +45,6 @@ struct NodeFunction {
 /// error in the style sheet is kInvalidCall, with reason and position. One that needs far more memory than the data
 /// (128 MB, plus 2 KB per element, plus four times the texts) is kOutOfMemory.
 Transformation transformNode(XmlDocument& data, XmlDocument styleSheet, TextEncoding encoding,
-                             const std::vector<NodeFunction>& functions = {});
+                             const std::vector<SheetFunction>& functions = {});
 
 } // namespace ovisto

@@ -3,6 +3,7 @@
 #include "ui/AboutForm/AboutForm.h"
 
 #include "common/Libraries.h"
+#include "ui/App/Text.h"
 
 #include <QApplication>
 #include <QProcess>
@@ -54,7 +55,7 @@ AboutForm::AboutForm(QWidget* owner) : QDialog(owner)
     ui.Icon->setPixmap(QApplication::windowIcon().pixmap(kIconSize));
     ui.Icon->setVisible(!QApplication::windowIcon().isNull());
     ui.Version->setText(tr("Version %1").arg(QString::fromLatin1(programVersion())));
-    ui.Libraries->setText(tr("Made with %1.").arg(libraryNames().join(QStringLiteral(", "))));
+    ui.Libraries->setText(tr("Made with %1.").arg(listed(libraryNames())));
     ui.FormCloser->setFocus();
     connect(ui.FormCloser, &QPushButton::clicked, this, &AboutForm::accept);
     connect(ui.SystemInfoShower, &QPushButton::clicked, this, &AboutForm::showSystemInfo);
@@ -69,7 +70,7 @@ void AboutForm::showSystemInfo()
         << tr("System: %1").arg(QSysInfo::prettyProductName())
         << tr("Kernel: %1 %2").arg(QSysInfo::kernelType(), QSysInfo::kernelVersion())
         << tr("Computer: %1").arg(QSysInfo::machineHostName())
-        << tr("Processor: %1, %n core(s)", nullptr, QThread::idealThreadCount()).arg(QSysInfo::currentCpuArchitecture())
+        << tr("Processor: %1, %Ln cores", nullptr, QThread::idealThreadCount()).arg(QSysInfo::currentCpuArchitecture())
         << tr("Window system: %1").arg(QGuiApplication::platformName());
     for (const QScreen* screen : QGuiApplication::screens()) {
         const QSize size = screen->size() * screen->devicePixelRatio();

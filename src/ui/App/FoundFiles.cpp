@@ -54,7 +54,7 @@ QVariant FoundFiles::data(const QModelIndex& index, int role) const
     case kFolderRole:
         return shownFolder(full);
     case Qt::AccessibleTextRole:
-        return nameOf(full) + QStringLiteral(", ") + shownFolder(full);
+        return listed({nameOf(full), shownFolder(full)});
     case Qt::ToolTipRole: {
         const QString tip = pathText(full);
         return Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip;

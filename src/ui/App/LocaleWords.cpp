@@ -15,6 +15,30 @@ namespace ovisto {
 
 namespace {
 
+/// What the style sheets that come with the program say.
+[[maybe_unused]] constexpr const char* kReportTexts[] = {
+    //: The code of the language that you translate into, such as "de" or "zh-CN"
+    QT_TRANSLATE_NOOP("Report", "en"),
+    QT_TRANSLATE_N_NOOP("Report", "%n photographs"),
+    //: The photographs that were taken: the title of a table
+    QT_TRANSLATE_NOOP("Report", "Shots"),
+    QT_TRANSLATE_NOOP("Report", "Photograph"),
+    QT_TRANSLATE_NOOP("Report", "Date"),
+    QT_TRANSLATE_NOOP("Report", "Camera"),
+    QT_TRANSLATE_NOOP("Report", "Lens"),
+    //: Exposure time
+    QT_TRANSLATE_NOOP("Report", "Time"),
+    QT_TRANSLATE_NOOP("Report", "Aperture"),
+    QT_TRANSLATE_NOOP("Report", "ISO"),
+    QT_TRANSLATE_NOOP("Report", "Focal length"),
+    QT_TRANSLATE_NOOP("Report", "Place"),
+    QT_TRANSLATE_NOOP("Report", "Statistics"),
+    QT_TRANSLATE_NOOP("Report", "Sensitivity"),
+    QT_TRANSLATE_NOOP("Report", "Month"),
+    //: A camera, a focal length, a sensitivity or a month
+    QT_TRANSLATE_NOOP("Report", "not known"),
+};
+
 QString without(const QRegularExpression& part, QString format)
 {
     return format.remove(part).trimmed();
@@ -83,6 +107,20 @@ std::string LocaleWords::moment(const Moment& moment) const
 std::string LocaleWords::phrase(const Phrase& phrase) const
 {
     return toQString(phrase).toStdString();
+}
+
+std::string LocaleWords::reportWords(const std::string& text) const
+{
+    return QCoreApplication::translate("Report", text.c_str()).toStdString();
+}
+
+/// The style sheets of other people have texts of which there is no translation.
+std::string LocaleWords::reportCount(std::int64_t count, const std::string& one, const std::string& many) const
+{
+    const int number = pluralNumber(static_cast<std::uint64_t>(count));
+    const QString words = QCoreApplication::translate("Report", many.c_str(), nullptr, number);
+    const QString source = QString::fromStdString(many).replace(QStringLiteral("%n"), QString::number(number));
+    return words != source ? words.toStdString() : ValueWords::reportCount(count, one, many);
 }
 
 } // namespace ovisto

@@ -21,6 +21,8 @@ public:
     std::string number(double number, int decimals) const override;
     std::string moment(const Moment& moment) const override;
     std::string phrase(const Phrase& phrase) const override;
+    std::string reportWords(const std::string& text) const override;
+    std::string reportCount(std::int64_t count, const std::string& one, const std::string& many) const override;
 
 private:
     QLocale m_locale;

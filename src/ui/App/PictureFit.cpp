@@ -41,13 +41,13 @@ QImage fittedPicture(QIODevice& file, QSize maximum)
     reader.setAutoTransform(true);
     const QSize size = reader.size();
     if (size.isEmpty())
-        throw Error{kInvalidPicture, "Invalid picture"};
+        throw Error{kInvalidPicture, Message::InvalidPicture};
     // The reader scales first and turns then: a picture lying on its side has to fit lying.
     const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     reader.setScaledSize(fittedSize(size, turned ? maximum.transposed() : maximum));
     QImage picture = reader.read();
     if (picture.isNull())
-        throw Error{kInvalidPicture, "Invalid picture"};
+        throw Error{kInvalidPicture, Message::InvalidPicture};
     return picture;
 }
 

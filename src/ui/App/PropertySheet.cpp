@@ -24,7 +24,9 @@ PropertySheet::PropertySheet(const std::string& path, QWidget* owner) : QDialog(
     addRow(*rows, tr("Name:"), file.fileName());
     addRow(*rows, tr("Folder:"), file.absolutePath());
     addRow(*rows, tr("Type:"), QMimeDatabase().mimeTypeForFile(file).comment());
-    addRow(*rows, tr("Size:"), tr("%1 bytes").arg(QLocale().toString(file.size())));
+    addRow(*rows, tr("Size:"),
+           tr("%1 bytes", nullptr, pluralNumber(static_cast<std::uint64_t>(file.size())))
+               .arg(QLocale().toString(file.size())));
     addRow(*rows, tr("Changed:"), timeText(file.lastModified()));
     addRow(*rows, tr("Last read:"), timeText(file.lastRead()));
     addRow(*rows, tr("Owner:"), file.owner());

@@ -7,7 +7,9 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
+#include <cstdint>
 #include <string>
 
 namespace ovisto {
@@ -20,11 +22,16 @@ inline QString toQString(const std::string& utf8)
 }
 
 /// The words of `phrase` in the language of the window.
-inline QString toQString(const Phrase& phrase)
-{
-    return toQString(phrase.words(
-        [](Message message) { return QCoreApplication::translate("Message", sourceText(message)).toStdString(); }));
-}
+QString toQString(const Phrase& phrase);
+
+/// A number of things as QCoreApplication::translate() takes it for the form of a text. The forms go by the last
+/// digits.
+int pluralNumber(std::uint64_t count);
+
+/// `text` with a full stop.
+QString sentence(const QString& text);
+/// The items of a list in one line.
+QString listed(const QStringList& items);
 
 /// A path for display. Bytes that are not UTF-8 become replacement characters.
 inline QString pathText(const std::string& path)

@@ -29,8 +29,7 @@ BatchForm::BatchForm(const TagDictionary& Merovel, bool technical, ReadingNow re
 
 void BatchForm::showFileCount()
 {
-    const int count = m_files.rowCount();
-    ui.FileCount->setText(count == 1 ? tr("The list has 1 file.") : tr("The list has %L1 files.").arg(count));
+    ui.FileCount->setText(tr("The list has %Ln files.", nullptr, m_files.rowCount()));
     offerStart();
 }
 

@@ -70,20 +70,20 @@ QString batchSummary(const std::vector<BatchResult>& results)
     const struct {
         BatchOutcome outcome;
         bool isAlwaysSaid;
-        QString text;
+        const char* text;
     } parts[] = {
-        {BatchOutcome::Changed, true, QCoreApplication::translate("BatchWatch", "%L1 changed")},
-        {BatchOutcome::Unchanged, true, QCoreApplication::translate("BatchWatch", "%L1 unchanged")},
-        {BatchOutcome::Failed, false, QCoreApplication::translate("BatchWatch", "%L1 failed")},
-        {BatchOutcome::NotReached, false, QCoreApplication::translate("BatchWatch", "%L1 not reached")},
+        {BatchOutcome::Changed, true, QT_TRANSLATE_N_NOOP("BatchWatch", "%Ln changed")},
+        {BatchOutcome::Unchanged, true, QT_TRANSLATE_N_NOOP("BatchWatch", "%Ln unchanged")},
+        {BatchOutcome::Failed, false, QT_TRANSLATE_N_NOOP("BatchWatch", "%Ln failed")},
+        {BatchOutcome::NotReached, false, QT_TRANSLATE_N_NOOP("BatchWatch", "%Ln not reached")},
     };
     QStringList said;
     for (const auto& part : parts) {
         const auto count = std::ranges::count(results, part.outcome, &BatchResult::outcome);
         if (count > 0 || part.isAlwaysSaid)
-            said << part.text.arg(count);
+            said << QCoreApplication::translate("BatchWatch", part.text, nullptr, static_cast<int>(count));
     }
-    return said.join(QStringLiteral(", ")) + u'.';
+    return sentence(listed(said));
 }
 
 } // namespace ovisto

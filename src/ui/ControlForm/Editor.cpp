@@ -209,7 +209,7 @@ void Editor::showPrivate()
     if (!attempt(m_parts.reporter, m_file.path(), [&] { list.emplace(m_file, m_parts.Merovel); }))
         return;
     if (list->findings().empty())
-        return dialogs.inform(toQString(Message::TellsNothing) + u'.');
+        return dialogs.inform(sentence(toQString(Message::TellsNothing)));
     if (PrivateForm(*list, &m_parts.window).exec() != QDialog::Accepted)
         return;
     RebuildTree();
@@ -283,7 +283,7 @@ void Editor::RebuildTree()
     trap.run([&] { leaves = m_file.loadTree(ui.menuShowTechnical->isChecked(), m_properties.words()); });
     m_osPane.showTexts();
     if (trap.pending())
-        return ErrorReport(m_parts.reporter, "Internal JpegXml document error", trap.take());
+        return ErrorReport(m_parts.reporter, Message::DocumentNotShown, trap.take());
     m_properties.showTree(leaves);
 }
 

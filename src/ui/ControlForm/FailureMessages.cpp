@@ -34,7 +34,8 @@ template <class Item> QString messageOf(const QString& heading, const std::vecto
     for (std::size_t i = 0; i < shown; ++i)
         lines << line(items[i]);
     if (items.size() > shown)
-        lines << QCoreApplication::translate("FailureMessages", "and %1 more").arg(items.size() - shown);
+        lines << QCoreApplication::translate("FailureMessages", "and %Ln more", nullptr,
+                                             pluralNumber(items.size() - shown));
     return lines.join(QStringLiteral("\r\n"));
 }
 
@@ -52,8 +53,8 @@ QString missingMessage(const std::vector<std::string>& missing)
 
 QString notReadMessage(const std::vector<FileFailure>& notRead)
 {
-    return messageOf(QCoreApplication::translate("FailureMessages", "Other folders that could not be read (%1):")
-                         .arg(notRead.size()),
+    return messageOf(QCoreApplication::translate("FailureMessages", "Other folders that could not be read (%Ln):",
+                                                 nullptr, pluralNumber(notRead.size())),
                      notRead);
 }
 

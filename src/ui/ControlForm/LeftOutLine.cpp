@@ -2,6 +2,8 @@
 
 #include "ui/ControlForm/LeftOutLine.h"
 
+#include "ui/App/Text.h"
+
 #include <QStatusBar>
 #include <QStringList>
 
@@ -59,9 +61,10 @@ void LeftOutLine::update()
     for (const Option& option : kOptions) {
         const QAction* item = ui.*option.item;
         if (!item->isChecked() || m_offWhenOpened.contains(item))
-            leftOut << QStringLiteral("<a href=\"%1\">%2</a>").arg(item->objectName(), tr(option.leftOut));
+            leftOut << QStringLiteral("<a href=\"%1\">%2</a>")
+                           .arg(item->objectName(), QCoreApplication::translate("LeftOutLine", option.leftOut));
     }
-    m_label.setText(tr("Saving leaves out: %1").arg(leftOut.join(QStringLiteral(", "))));
+    m_label.setText(tr("Saving leaves out: %1").arg(listed(leftOut)));
     m_label.setVisible(!leftOut.isEmpty());
 }
 

@@ -64,10 +64,10 @@ void ListActions::runBatch(const NodeChange& change)
     QStringList sentences(results.summary());
     if (hurt > 0)
         sentences
-            << tr("Lost something in %1 of %2 files, as \"Keep Untouched Data?\" is off. The originals are kept as "
-                  "NAME.original.")
-                   .arg(hurt)
-                   .arg(saved);
+            << tr("Lost something in %L1 of %Ln files, as \"Keep Untouched Data?\" is off. The originals are kept as "
+                  "NAME.original.",
+                  nullptr, saved)
+                   .arg(hurt);
     m_editor.savedLine().show(sentences.join(u' '));
     showResults(results);
 }
@@ -108,7 +108,7 @@ void ListActions::generateReport()
     if (!report.leftOut.empty())
         dialogs.show(leftOutMessage(report.leftOut));
     if (!report.path.empty() && !ShellVerb(desktop, report.path, m_parts.window, Verb::Open))
-        ErrorReport(m_parts.reporter, "Open " + report.path, {kInvalidCall, "No program was found that opens it"});
+        ErrorReport(m_parts.reporter, {Message::OpenReport, report.path}, {kInvalidCall, Message::NoProgramOpens});
 }
 
 void ListActions::showSlideShowOptions()

@@ -26,9 +26,9 @@ std::optional<QString> dataTypeCaption(std::string_view typeName, Protection pro
         return std::nullopt;
     const QString caption = QCoreApplication::translate("DataType", name.c_str());
     if (protection == Protection::Required)
-        return caption + QCoreApplication::translate("DataType", " Required");
+        return QCoreApplication::translate("DataType", "%1 Required").arg(caption);
     if (protection == Protection::Protected)
-        return caption + QCoreApplication::translate("DataType", " Protected");
+        return QCoreApplication::translate("DataType", "%1 Protected").arg(caption);
     return caption;
 }
 

@@ -293,7 +293,7 @@ void PropertyPane::loadThumbnail()
         ui.Image2->showPicture(turned(picture, thumbnailOrientation(m_file.document())));
     });
     if (trap.pending())
-        ErrorReport(m_parts.reporter, "Invalid thumbnail", trap.take());
+        ErrorReport(m_parts.reporter, Message::InvalidThumbnail, trap.take());
     std::error_code notThere;
     std::filesystem::remove(path, notThere);
 }

@@ -45,7 +45,7 @@ void ShownFile::open(const std::string& path, const KeepOptions& keep, WritingWa
             ErrorReport(reports, parseErrorText(*error), {});
     });
     if (trap.pending())
-        ErrorReport(reports, "loadXML", trap.take());
+        ErrorReport(reports, Message::LoadXml, trap.take());
     m_whyUnreadable.reset();
     if (!reports.all().empty()) {
         const auto& [context, error] = reports.all().front(); // the others only say what follows from it

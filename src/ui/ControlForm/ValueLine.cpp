@@ -23,21 +23,23 @@ namespace {
 /// The numbers that a data type takes, for people.
 struct NumberKind {
     int dataType;
-    const char* words;
+    const char* sentence;
 };
 
-constexpr const char* kShortNumbers = QT_TRANSLATE_NOOP("ValueLine", "whole numbers from 0 to 65535");
-constexpr const char* kLongNumbers = QT_TRANSLATE_NOOP("ValueLine", "whole numbers from 0 to 4294967295");
-constexpr const char* kRealNumbers = QT_TRANSLATE_NOOP("ValueLine", "numbers such as 2.5");
+constexpr const char* kShortNumbers =
+    QT_TRANSLATE_NOOP("ValueLine", "Only whole numbers from 0 to 65535 can be written.");
+constexpr const char* kLongNumbers =
+    QT_TRANSLATE_NOOP("ValueLine", "Only whole numbers from 0 to 4294967295 can be written.");
+constexpr const char* kRealNumbers = QT_TRANSLATE_NOOP("ValueLine", "Only numbers such as 2.5 can be written.");
 
 constexpr NumberKind kNumberKinds[] = {
     {kShort, kShortNumbers},
     {kLong, kLongNumbers},
     {kIfd, kLongNumbers},
-    {kSignedShort, QT_TRANSLATE_NOOP("ValueLine", "whole numbers from -32768 to 32767")},
-    {kSignedLong, QT_TRANSLATE_NOOP("ValueLine", "whole numbers from -2147483648 to 2147483647")},
-    {kRational, QT_TRANSLATE_NOOP("ValueLine", "fractions such as 1/125, up to 4294967295,")},
-    {kSignedRational, QT_TRANSLATE_NOOP("ValueLine", "fractions such as -1/3, up to 2147483647,")},
+    {kSignedShort, QT_TRANSLATE_NOOP("ValueLine", "Only whole numbers from -32768 to 32767 can be written.")},
+    {kSignedLong, QT_TRANSLATE_NOOP("ValueLine", "Only whole numbers from -2147483648 to 2147483647 can be written.")},
+    {kRational, QT_TRANSLATE_NOOP("ValueLine", "Only fractions such as 1/125, up to 4294967295, can be written.")},
+    {kSignedRational, QT_TRANSLATE_NOOP("ValueLine", "Only fractions such as -1/3, up to 2147483647, can be written.")},
     {kFloat, kRealNumbers},
     {kDouble, kRealNumbers},
 };
@@ -47,8 +49,7 @@ QString inWords(const Error& error, int dataType)
     const auto* kind = std::ranges::find(kNumberKinds, dataType, &NumberKind::dataType);
     if (kind == std::end(kNumberKinds) || (error.number != kTypeMismatch && error.number != kOverflow))
         return QCoreApplication::translate("ValueLine", "Cannot be written: %1").arg(toQString(error.description));
-    return QCoreApplication::translate("ValueLine", "Only %1 can be written.")
-        .arg(QCoreApplication::translate("ValueLine", kind->words));
+    return QCoreApplication::translate("ValueLine", kind->sentence);
 }
 
 /// A value that the entry names is shown as in its list.

@@ -30,7 +30,7 @@ QString noteText(const PrivateFinding& finding)
     if (finding.isClosed)
         sentences << PrivateForm::tr("Ovisto cannot look into it.");
     if (!finding.obstacle.isEmpty())
-        sentences << toQString(finding.obstacle) + u'.';
+        sentences << sentence(toQString(finding.obstacle));
     return sentences.join(u' ');
 }
 

@@ -239,11 +239,13 @@ void SlideForm::showSlide(const Slide& slide)
 /// the window has no title. That line appears without being asked for if something is wrong with the picture.
 void SlideForm::showCaption()
 {
-    const QString mark = m_clockwork.isPaused() ? tr(" (paused)") : QString();
+    const auto marked = [this](const QString& text) {
+        return m_clockwork.isPaused() ? tr("%1 (paused)").arg(text) : text;
+    };
     const QString facts = SlideDetails{m_remark, m_shownDetails.facts}.line();
-    ui.FileDetails->showTexts(m_shownDetails.title, m_fullscreen ? facts + mark : facts);
+    ui.FileDetails->showTexts(m_shownDetails.title, m_fullscreen ? marked(facts) : facts);
     ui.FileDetails->setVisible(m_details || !m_remark.isEmpty() || (m_fullscreen && m_clockwork.isPaused()));
-    const QString title = (hasCurrent() ? pathText(splitPath(m_wanted.front().path).name) : tr("Slide Show")) + mark;
+    const QString title = marked(hasCurrent() ? pathText(splitPath(m_wanted.front().path).name) : tr("Slide Show"));
     setAccessibleName(title); // where there is no title, too
     if (!m_fullscreen)
         setWindowTitle(title);
