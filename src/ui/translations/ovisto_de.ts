@@ -5,166 +5,166 @@
     <name>AboutForm</name>
     <message>
         <source>About Ovisto</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Ovisto</translation>
     </message>
     <message>
         <source>Shows what a JPEG photograph tells about itself, and lets you edit it: titles, keywords, dates, the camera&apos;s notes. The picture itself is never compressed again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was ein JPEG-Foto über sich selbst verrät, und lässt Sie es bearbeiten: Titel, Stichwörter, Datumsangaben, die Notizen der Kamera. Das Bild selbst wird nie neu komprimiert.</translation>
     </message>
     <message>
         <source>System information</source>
-        <translation type="unfinished"></translation>
+        <translation>Systeminformationen</translation>
     </message>
     <message>
         <source>&amp;System Information</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Systeminformationen</translation>
     </message>
     <message>
         <source>Show what is known about this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigen, was über diesen Computer bekannt ist</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
 </context>
 <context>
     <name>Advice</name>
     <message>
         <source>Change the value, or delete the property.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern Sie den Wert oder löschen Sie die Eigenschaft.</translation>
     </message>
     <message>
         <source>Close other programs, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden Sie andere Programme und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>Type a value of the data type that is shown below it: a whole number, or a fraction such as 1/125. Several are separated by commas.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie einen Wert des Datentyps ein, der darunter angezeigt wird: eine ganze Zahl oder einen Bruch wie 1/125. Mehrere werden durch Kommas getrennt.</translation>
     </message>
     <message>
         <source>Check whether the file was moved, renamed or deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen Sie, ob die Datei verschoben, umbenannt oder gelöscht wurde.</translation>
     </message>
     <message>
         <source>Copy what you can to another disk, and work there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren Sie, was noch zu retten ist, auf einen anderen Datenträger und arbeiten Sie dort weiter.</translation>
     </message>
     <message>
         <source>Free some space on the disk, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaffen Sie Platz auf dem Datenträger und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>Check the permissions of the file and of its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen Sie die Zugriffsrechte der Datei und ihres Ordners.</translation>
     </message>
     <message>
         <source>Check that the disk or card is connected, and that the folder was not renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen Sie, ob der Datenträger oder die Speicherkarte angeschlossen ist und der Ordner nicht umbenannt wurde.</translation>
     </message>
     <message>
         <source>The file is not a JPEG photograph, or it is damaged. If it was one, restore it from your backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist kein JPEG-Foto oder sie ist beschädigt. Wenn sie eines war, stellen Sie sie aus Ihrer Sicherung wieder her.</translation>
     </message>
 </context>
 <context>
     <name>BatchForm</name>
     <message>
         <source>Batch Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Stapelverarbeitung</translation>
     </message>
     <message>
         <source>Carry out the following action on all selected images in the Files Found List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgende Aktion an allen ausgewählten Bildern in der Liste der gefundenen Dateien ausführen …</translation>
     </message>
     <message>
         <source>&amp;Node</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Knoten</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten</translation>
     </message>
     <message>
         <source>&amp;Set to value</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf &amp;Wert setzen</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>&amp;Delete Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten &amp;löschen</translation>
     </message>
     <message>
         <source>S&amp;tart</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Starten</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;bbrechen</translation>
     </message>
 </context>
 <context>
     <name>BatchResultForm</name>
     <message>
         <source>Batch Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis der Stapelverarbeitung</translation>
     </message>
     <message>
         <source>Files and results</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien und Ergebnisse</translation>
     </message>
     <message>
         <source>&amp;Keep only the failed in the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur &amp;fehlgeschlagene in der Liste behalten</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
 </context>
 <context>
     <name>BatchWatch</name>
     <message>
         <source>Go on with the other files? Those that fail are listed at the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit den übrigen Dateien weitermachen? Fehlgeschlagene werden am Ende aufgelistet.</translation>
     </message>
     <message>
         <source>&amp;Go On</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weitermachen</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anhalten</translation>
     </message>
     <message numerus="yes">
         <source>%Ln changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln geändert</numerusform>
+            <numerusform>%Ln geändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln unchanged</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln unverändert</numerusform>
+            <numerusform>%Ln unverändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln fehlgeschlagen</numerusform>
+            <numerusform>%Ln fehlgeschlagen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln not reached</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln nicht erreicht</numerusform>
+            <numerusform>%Ln nicht erreicht</numerusform>
         </translation>
     </message>
 </context>
@@ -172,517 +172,517 @@
     <name>BrowserCapForm</name>
     <message>
         <source>Find Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien suchen</translation>
     </message>
     <message>
         <source>Folders / Directories</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner / Verzeichnisse</translation>
     </message>
     <message>
         <source>Folder to scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu durchsuchender Ordner</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Go to the folder above</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum übergeordneten Ordner</translation>
     </message>
     <message>
         <source>Go to the home folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum persönlichen Ordner</translation>
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Scan Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchoptionen</translation>
     </message>
     <message>
         <source>Filename Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateinamensmuster</translation>
     </message>
     <message>
         <source>list of file extensions separated by semicolon;</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste von Dateiendungen, durch Semikolon getrennt;</translation>
     </message>
     <message>
         <source>Scan Subfolders as well?</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch Unterordner durchsuchen?</translation>
     </message>
     <message>
         <source>Scan Subfolders of selected folder?</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterordner des ausgewählten Ordners durchsuchen?</translation>
     </message>
     <message>
         <source>Add files found to list?</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Dateien zur Liste hinzufügen?</translation>
     </message>
     <message>
         <source>Add to list of files found (or clear)?</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Liste der gefundenen Dateien hinzufügen (oder sie leeren)?</translation>
     </message>
     <message>
         <source>Content Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhaltsfilter</translation>
     </message>
     <message>
         <source>Containing words</source>
-        <translation type="unfinished"></translation>
+        <translation>Enthaltene Wörter</translation>
     </message>
     <message>
         <source>Words to search for, or regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesuchte Wörter oder regulärer Ausdruck</translation>
     </message>
     <message>
         <source>(separate words with commas)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Wörter durch Kommas trennen)</translation>
     </message>
     <message>
         <source>Must find ALL words?</source>
-        <translation type="unfinished"></translation>
+        <translation>Müssen ALLE Wörter vorkommen?</translation>
     </message>
     <message>
         <source>File must have all words, or any of them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Muss die Datei alle Wörter enthalten oder nur eines davon?</translation>
     </message>
     <message>
         <source>Find whole words only?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ganze Wörter finden?</translation>
     </message>
     <message>
         <source>Look for whole words only or part of word</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ganze Wörter oder auch Wortteile suchen</translation>
     </message>
     <message>
         <source>Treat the text above as a Regular Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Text oben als regulären Ausdruck behandeln</translation>
     </message>
     <message>
         <source>Regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Regulärer Ausdruck</translation>
     </message>
     <message>
         <source>Or, if you know how to write regular expressions, then enter your RegExp above and tick this box.</source>
-        <translation type="unfinished"></translation>
+        <translation>Oder, wenn Sie sich mit regulären Ausdrücken auskennen: Geben Sie oben einen ein und kreuzen Sie dieses Feld an.</translation>
     </message>
     <message>
         <source>Search shown values, too</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch angezeigte Werte durchsuchen</translation>
     </message>
     <message>
         <source>Also look for the text above in the values as the property tree shows them, such as &quot;turned right&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Text oben auch in den Werten suchen, wie der Eigenschaftenbaum sie zeigt, etwa „nach rechts gedreht“</translation>
     </message>
     <message>
         <source>&amp;Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner &amp;auswählen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>ControlForm</name>
     <message>
         <source>Find Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien suchen</translation>
     </message>
     <message>
         <source>Select &amp; scan a folder for image files</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Ordner auswählen und nach Bilddateien durchsuchen</translation>
     </message>
     <message>
         <source>List of images found</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste der gefundenen Bilder</translation>
     </message>
     <message>
         <source>Images found</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Bilder</translation>
     </message>
     <message>
         <source>Save &amp; show previous image in list</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern und voriges Bild der Liste zeigen</translation>
     </message>
     <message>
         <source>Previous image</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriges Bild</translation>
     </message>
     <message>
         <source>Save &amp; show next image in list</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern und nächstes Bild der Liste zeigen</translation>
     </message>
     <message>
         <source>Next image</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächstes Bild</translation>
     </message>
     <message>
         <source>S&amp;lide Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Diasho&amp;w</translation>
     </message>
     <message>
         <source>Show files listed in a slide-show</source>
-        <translation type="unfinished"></translation>
+        <translation>Die aufgelisteten Dateien als Diashow zeigen</translation>
     </message>
     <message>
         <source>&amp;Batch</source>
-        <translation type="unfinished"></translation>
+        <translation>Sta&amp;pel</translation>
     </message>
     <message>
         <source>Change all files listed</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle aufgelisteten Dateien ändern</translation>
     </message>
     <message>
         <source>Your list of favourite keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Liste bevorzugter Stichwörter</translation>
     </message>
     <message>
         <source>Favourite keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevorzugte Stichwörter</translation>
     </message>
     <message>
         <source>&amp;Keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tichwörter</translation>
     </message>
     <message>
         <source>Load a different keyword list from a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine andere Stichwortliste aus einer Datei laden</translation>
     </message>
     <message>
         <source>Drop photographs or folders of them here, or choose Find Files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie hier Fotos oder Ordner mit Fotos ab oder klicken Sie auf „Dateien suchen“.</translation>
     </message>
     <message>
         <source>Left click to open, right click for properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Linksklick öffnet, Rechtsklick zeigt Eigenschaften</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>OS Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Desktop-Eigenschaften</translation>
     </message>
     <message>
         <source>Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel:</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentare</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <translation type="unfinished"></translation>
+        <translation>Thema:</translation>
     </message>
     <message>
         <source>Subject</source>
-        <translation type="unfinished"></translation>
+        <translation>Thema</translation>
     </message>
     <message>
         <source>Keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>Stichwörter</translation>
     </message>
     <message>
         <source>Ditto</source>
-        <translation type="unfinished"></translation>
+        <translation>Dito</translation>
     </message>
     <message>
         <source>Repeat from previous image</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom vorigen Bild übernehmen</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save changes made to this file</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an dieser Datei speichern</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zurücksetzen</translation>
     </message>
     <message>
         <source>Undo ALL changes made to this file</source>
-        <translation type="unfinished"></translation>
+        <translation>ALLE Änderungen an dieser Datei rückgängig machen</translation>
     </message>
     <message>
         <source>This file has changes that are not saved yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei hat Änderungen, die noch nicht gespeichert sind</translation>
     </message>
     <message>
         <source>Changes not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen nicht gespeichert</translation>
     </message>
     <message>
         <source>File Property Tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaftenbaum der Datei</translation>
     </message>
     <message>
         <source>File properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften der Datei</translation>
     </message>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Current Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktueller Knoten</translation>
     </message>
     <message>
         <source>Name of current file</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der aktuellen Datei</translation>
     </message>
     <message>
         <source>Tag number</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag-Nummer</translation>
     </message>
     <message>
         <source>Show as Hex?</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Hex anzeigen?</translation>
     </message>
     <message>
         <source>Translate to hexadecimal code?</source>
-        <translation type="unfinished"></translation>
+        <translation>In hexadezimalen Code übersetzen?</translation>
     </message>
     <message>
         <source>Value of property selected in tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert der im Baum ausgewählten Eigenschaft</translation>
     </message>
     <message>
         <source>Thumbnail</source>
-        <translation type="unfinished"></translation>
+        <translation>Miniaturbild</translation>
     </message>
     <message>
         <source>Values that this property can have, and what they mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte, die diese Eigenschaft haben kann, und was sie bedeuten</translation>
     </message>
     <message>
         <source>Known values</source>
-        <translation type="unfinished"></translation>
+        <translation>Bekannte Werte</translation>
     </message>
     <message>
         <source>What the value means</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Wert bedeutet</translation>
     </message>
     <message>
         <source>Data type</source>
-        <translation type="unfinished"></translation>
+        <translation>Datentyp</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>&amp;Add Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten &amp;hinzufügen</translation>
     </message>
     <message>
         <source>Add new node</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuen Knoten hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Delete Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten &amp;löschen</translation>
     </message>
     <message>
         <source>CAUTION: use at own risk!</source>
-        <translation type="unfinished"></translation>
+        <translation>VORSICHT: auf eigene Gefahr!</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Optionen</translation>
     </message>
     <message>
         <source>&amp;Image</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bild</translation>
     </message>
     <message>
         <source>Save &amp;XML</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;XML speichern</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>&amp;What Does It Tell?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Was verrät das Foto?</translation>
     </message>
     <message>
         <source>Lists what the photograph tells of people and places, and deletes what you select.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listet auf, was das Foto über Personen und Orte verrät, und löscht, was Sie auswählen.</translation>
     </message>
     <message>
         <source>&amp;Generate Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht &amp;erstellen</translation>
     </message>
     <message>
         <source>&amp;Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>Keep Maker Notes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Herstellernotizen behalten?</translation>
     </message>
     <message>
         <source>Keep Thumbnails?</source>
-        <translation type="unfinished"></translation>
+        <translation>Miniaturbilder behalten?</translation>
     </message>
     <message>
         <source>Keep Non-standard Exif?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht standardgemäßes Exif behalten?</translation>
     </message>
     <message>
         <source>Keep Untouched Data?</source>
-        <translation type="unfinished"></translation>
+        <translation>Unberührte Daten behalten?</translation>
     </message>
     <message>
         <source>Saving changes only what you edited and leaves the rest of the file as it is. Counts from the next file opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern ändert nur, was Sie bearbeitet haben, und lässt den Rest der Datei, wie er ist. Gilt ab der nächsten geöffneten Datei.</translation>
     </message>
     <message>
         <source>Read Everything?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles lesen?</translation>
     </message>
     <message>
         <source>Shows texts in any language and the place, all as it was written. Counts from the next file opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt Texte in jeder Sprache und den Aufnahmeort, alles wie geschrieben. Gilt ab der nächsten geöffneten Datei.</translation>
     </message>
     <message>
         <source>Show Technical Data?</source>
-        <translation type="unfinished"></translation>
+        <translation>Technische Daten anzeigen?</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
         <source>OS &amp;Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei&amp;eigenschaften</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Über</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt</translation>
     </message>
 </context>
 <context>
     <name>DataType</name>
     <message>
         <source>Byte</source>
-        <translation type="unfinished"></translation>
+        <translation>Byte</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzzahl (16 Bit)</translation>
     </message>
     <message>
         <source>Long</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzzahl (32 Bit)</translation>
     </message>
     <message>
         <source>Rational</source>
-        <translation type="unfinished"></translation>
+        <translation>Bruch</translation>
     </message>
     <message>
         <source>Signed Byte</source>
-        <translation type="unfinished"></translation>
+        <translation>Byte mit Vorzeichen</translation>
     </message>
     <message>
         <source>Undefined</source>
-        <translation type="unfinished"></translation>
+        <translation>Undefiniert</translation>
     </message>
     <message>
         <source>Signed Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzzahl mit Vorzeichen (16 Bit)</translation>
     </message>
     <message>
         <source>Signed Long</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzzahl mit Vorzeichen (32 Bit)</translation>
     </message>
     <message>
         <source>Signed Rational</source>
-        <translation type="unfinished"></translation>
+        <translation>Bruch mit Vorzeichen</translation>
     </message>
     <message>
         <source>Unicode String</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode-Text</translation>
     </message>
     <message>
         <source>Float</source>
-        <translation type="unfinished"></translation>
+        <translation>Gleitkommazahl (32 Bit)</translation>
     </message>
     <message>
         <source>Double</source>
-        <translation type="unfinished"></translation>
+        <translation>Gleitkommazahl (64 Bit)</translation>
     </message>
     <message>
         <source>Directory Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzeichnisposition</translation>
     </message>
     <message>
         <source>UTF-8 String</source>
-        <translation type="unfinished"></translation>
+        <translation>UTF-8-Text</translation>
     </message>
     <message>
         <source>%1 Required</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, erforderlich</translation>
     </message>
     <message>
         <source>%1 Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, geschützt</translation>
     </message>
 </context>
 <context>
     <name>FailureMessages</name>
     <message>
         <source>The report does not cover these files:</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien fehlen im Bericht:</translation>
     </message>
     <message>
         <source>There is no such file or folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei oder Ordner nicht vorhanden:</translation>
     </message>
     <message numerus="yes">
         <source>and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>und %Ln weitere</numerusform>
+            <numerusform>und %Ln weitere</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Other folders that could not be read (%Ln):</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Weitere Ordner, die nicht gelesen werden konnten (%Ln):</numerusform>
+            <numerusform>Weitere Ordner, die nicht gelesen werden konnten (%Ln):</numerusform>
         </translation>
     </message>
 </context>
@@ -690,961 +690,965 @@
     <name>HelpContents</name>
     <message>
         <source>Unable to display Help Contents. There is no Help associated with this project.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hilfe kann nicht angezeigt werden. Zu diesem Programm gehört keine Hilfe.</translation>
     </message>
     <message>
         <source>No program was found that shows web pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein Programm gefunden, das Webseiten anzeigt.</translation>
     </message>
 </context>
 <context>
     <name>LeftOutLine</name>
     <message>
         <source>maker notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Herstellernotizen</translation>
     </message>
     <message>
         <source>thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>Miniaturbilder</translation>
     </message>
     <message>
         <source>non-standard Exif</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht standardgemäßes Exif</translation>
     </message>
     <message>
         <source>what is not shown</source>
-        <translation type="unfinished"></translation>
+        <translation>was nicht angezeigt wird</translation>
     </message>
 </context>
 <context>
     <name>Message</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1<byte value="xd"/>
 %2 : %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1<byte value="xd"/>
+%2: %3</translation>
     </message>
     <message>
         <source>Invalid procedure call or argument</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiger Aufruf oder ungültiges Argument</translation>
     </message>
     <message>
         <source>Overflow</source>
-        <translation type="unfinished"></translation>
+        <translation>Überlauf</translation>
     </message>
     <message>
         <source>Out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht genügend Arbeitsspeicher</translation>
     </message>
     <message>
         <source>Type mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Falscher Datentyp</translation>
     </message>
     <message>
         <source>File not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei nicht gefunden</translation>
     </message>
     <message>
         <source>Device I/O error</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein-/Ausgabefehler des Geräts</translation>
     </message>
     <message>
         <source>Disk full</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenträger voll</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert</translation>
     </message>
     <message>
         <source>Path/File access error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Zugriff auf Pfad oder Datei</translation>
     </message>
     <message>
         <source>Path not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfad nicht gefunden</translation>
     </message>
     <message>
         <source>Object not set</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekt nicht gesetzt</translation>
     </message>
     <message>
         <source>Unexpected error</source>
-        <translation type="unfinished"></translation>
+        <translation>Unerwarteter Fehler</translation>
     </message>
     <message>
         <source>It is a folder, not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist ein Ordner, keine Datei</translation>
     </message>
     <message>
         <source>It is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Ordner</translation>
     </message>
     <message>
         <source>It is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>There is no folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Ordner %1</translation>
     </message>
     <message>
         <source>Interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterbrochen</translation>
     </message>
     <message>
         <source>Not a regular expression: %1: %2 (at character %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein regulärer Ausdruck: %1: %2 (bei Zeichen %3)</translation>
     </message>
     <message>
         <source>The regular expression runs too long: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der reguläre Ausdruck braucht zu lange: %1</translation>
     </message>
     <message>
         <source>The words &quot;%1&quot; cannot be searched for: %2. Characters such as ( * ? have a meaning; put \ before one that stands for itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach den Wörtern „%1“ kann nicht gesucht werden: %2. Zeichen wie ( * ? haben eine Bedeutung; setzen Sie \ vor eines, das für sich selbst steht.</translation>
     </message>
     <message>
         <source>File %1<byte value="xd"/>
 Line %2 pos %3 <byte value="xd"/>
 %4<byte value="xd"/>
 %5</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei %1<byte value="xd"/>
+Zeile %2, Position %3 <byte value="xd"/>
+%4<byte value="xd"/>
+%5</translation>
     </message>
     <message>
         <source>%1 line:%2 pos:%3 src:%4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeile: %2, Position: %3, Quelle: %4</translation>
     </message>
     <message>
         <source>Not a valid path: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein gültiger Pfad: %1</translation>
     </message>
     <message>
         <source>The document type &quot;%1&quot; cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dokumenttyp „%1“ kann nicht geladen werden</translation>
     </message>
     <message>
         <source>The content does not match the document type</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Inhalt passt nicht zum Dokumenttyp</translation>
     </message>
     <message>
         <source>The entity &quot;%1&quot; is not declared</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Entität „%1“ ist nicht deklariert</translation>
     </message>
     <message>
         <source>The entity &quot;%1&quot; is outside the document, and is not read</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Entität „%1“ liegt außerhalb des Dokuments und wird nicht gelesen</translation>
     </message>
     <message>
         <source>The entity cannot be read from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Entität kann nicht aus %1 gelesen werden</translation>
     </message>
     <message>
         <source>The entities of the document take far more memory than its text</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Entitäten des Dokuments brauchen weit mehr Speicher als sein Text</translation>
     </message>
     <message>
         <source>The document includes another one, which is not read</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument bindet ein anderes ein, das nicht gelesen wird</translation>
     </message>
     <message>
         <source>The elements of the document nest too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Elemente des Dokuments sind zu tief verschachtelt</translation>
     </message>
     <message>
         <source>The style sheet may not read %1, which is not in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Stylesheet darf %1 nicht lesen, da die Datei nicht in seinem Ordner liegt</translation>
     </message>
     <message>
         <source>The style sheet cannot be applied</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Stylesheet kann nicht angewendet werden</translation>
     </message>
     <message>
         <source>The style sheet takes far more memory than the documents need</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Stylesheet braucht weit mehr Speicher, als die Dokumente erfordern</translation>
     </message>
     <message>
         <source>%1  file=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  Datei=%2</translation>
     </message>
     <message>
         <source>%2: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%2: %1</translation>
     </message>
     <message>
         <source>Not a JPEG file - hFFD8 expected at start of file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine JPEG-Datei – hFFD8 am Anfang der Datei erwartet: %1</translation>
     </message>
     <message>
         <source>Header seems corrupted - unknown Marker %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Header offenbar beschädigt – unbekannter Marker %1 %2</translation>
     </message>
     <message>
         <source>No StartOfStream marker found %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Marker für den Anfang der Bilddaten gefunden: %1</translation>
     </message>
     <message>
         <source>I don&apos;t know what type of data this node requires - can&apos;t set its value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datentyp dieses Knotens ist unbekannt – sein Wert kann nicht gesetzt werden.</translation>
     </message>
     <message>
         <source>The image cannot be shown without this node as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne diesen Knoten, so wie er ist, lässt sich das Bild nicht anzeigen.</translation>
     </message>
     <message>
         <source>This node is required by others and cannot be deleted by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Knoten brauchen diesen; er kann nicht für sich allein gelöscht werden.</translation>
     </message>
     <message>
         <source>Only a document that reads everything has this node; rebuilding reads a basic one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Knoten hat nur ein Dokument, in dem alles gelesen ist; beim Neuaufbau wird einfach gelesen.</translation>
     </message>
     <message>
         <source>The tag dictionary has no entry for this node.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Tag-Wörterbuch hat keinen Eintrag für diesen Knoten.</translation>
     </message>
     <message>
         <source>The file does not have this node, and it cannot be created without an entry in the tag dictionary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat diesen Knoten nicht, und ohne einen Eintrag im Tag-Wörterbuch kann er nicht angelegt werden.</translation>
     </message>
     <message numerus="yes">
         <source>%1 nodes of the file have this path.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Knoten der Datei hat diesen Pfad.</numerusform>
+            <numerusform>%1 Knoten der Datei haben diesen Pfad.</numerusform>
         </translation>
     </message>
     <message>
         <source>&quot;%1&quot; would be written as &quot;?&quot;: in a basic document, %2 holds Western European texts only.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ würde als „?“ geschrieben: In einem einfach gelesenen Dokument sind unter „%2“ nur westeuropäische Texte möglich.</translation>
     </message>
     <message>
         <source>Create node failed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten konnte nicht angelegt werden: %1</translation>
     </message>
     <message>
         <source>A document that reads everything cannot be rebuilt; make one with xml, without --full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Dokument, in dem alles gelesen ist, kann nicht neu aufgebaut werden; erzeugen Sie eines mit xml, ohne --full.</translation>
     </message>
     <message>
         <source>Write to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben in %1</translation>
     </message>
     <message>
         <source>%1 write failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben von %1 fehlgeschlagen</translation>
     </message>
     <message>
         <source>%1 transfer of image from existing file failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Übernahme des Bildes aus der vorhandenen Datei fehlgeschlagen</translation>
     </message>
     <message>
         <source>Delete old file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Alte Datei %1 löschen</translation>
     </message>
     <message>
         <source>Rename file %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei %1 in %2 umbenennen</translation>
     </message>
     <message>
         <source>Another program has moved or replaced the new version</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat die neue Fassung verschoben oder ersetzt</translation>
     </message>
     <message>
         <source>%1. The new version is in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Die neue Fassung steht in %2</translation>
     </message>
     <message>
         <source>It is saved, but not known to be on disk. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert, aber ob es auf dem Datenträger angekommen ist, ist nicht bekannt. %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be saved in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ konnte nicht in %2 gespeichert werden</translation>
     </message>
     <message>
         <source>The text has &quot;]]&gt;&quot;, which could not be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text enthält „]]&gt;“, was sich nicht wieder einlesen ließe</translation>
     </message>
     <message>
         <source>The text has a control character that could not be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text enthält ein Steuerzeichen, das sich nicht wieder einlesen ließe</translation>
     </message>
     <message>
         <source>The text has elements, which must stand in a CDATA section to be kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text enthält Elemente, die nur in einem CDATA-Abschnitt erhalten bleiben</translation>
     </message>
     <message>
         <source>A character between the changed ones could not be read, so it cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Zeichen zwischen den geänderten konnte nicht gelesen werden und kann daher nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The id of an IFD element is not four hexadecimal digits: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die id eines IFD-Elements besteht nicht aus vier Hexadezimalziffern: %1</translation>
     </message>
     <message>
         <source>The document has more than one IMG element</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument hat mehr als ein IMG-Element</translation>
     </message>
     <message>
         <source>The file was changed after it was read</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wurde nach dem Lesen geändert</translation>
     </message>
     <message>
         <source>The file has another picture now, which needs tables that the document does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei enthält jetzt ein anderes Bild, das Tabellen braucht, die das Dokument nicht hat</translation>
     </message>
     <message>
         <source>The new version could not be read back: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die neue Fassung ließ sich nicht wieder einlesen: %1</translation>
     </message>
     <message>
         <source>Temp file write failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben in die temporäre Datei fehlgeschlagen</translation>
     </message>
     <message>
         <source>Temp file write integer %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben einer Zahl (2 Byte) in die temporäre Datei: %1</translation>
     </message>
     <message>
         <source>Temp file write long %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben einer Zahl (4 Byte) in die temporäre Datei: %1</translation>
     </message>
     <message>
         <source>Temp file write string</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben eines Textes in die temporäre Datei</translation>
     </message>
     <message numerus="yes">
         <source>The segment would have %1 bytes, but its length says %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Segment hätte %1 Byte, seine Länge sagt aber %2</numerusform>
+            <numerusform>Das Segment hätte %1 Byte, seine Länge sagt aber %2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The value would have %1 bytes instead of %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Der Wert hätte %1 Byte statt %2</numerusform>
+            <numerusform>Der Wert hätte %1 Byte statt %2</numerusform>
         </translation>
     </message>
     <message>
         <source>Exif section - calculate data length</source>
-        <translation type="unfinished"></translation>
+        <translation>Exif-Abschnitt – Berechnen der Datenlänge</translation>
     </message>
     <message>
         <source>Exif Offset Calculation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Berechnen der Exif-Positionen fehlgeschlagen</translation>
     </message>
     <message>
         <source>Can&apos;t tie up the MakerNote to its entry in the header (!??)</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Herstellernotizen lassen sich ihrem Eintrag im Header nicht zuordnen (!??)</translation>
     </message>
     <message>
         <source>Exif write failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben der Exif-Daten fehlgeschlagen</translation>
     </message>
     <message>
         <source>Data format %1 error:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler bei Datenformat %1: %2</translation>
     </message>
     <message>
         <source>The image cannot be shown without its scan header as the last segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne seinen Scan-Header als letztes Segment lässt sich das Bild nicht anzeigen</translation>
     </message>
     <message>
         <source>The segments of the file do not lead to its image</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Segmente der Datei führen nicht zu ihrem Bild</translation>
     </message>
     <message>
         <source>The segment would be longer than 65,535 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Segment wäre länger als 65.535 Byte</translation>
     </message>
     <message numerus="yes">
         <source>The Exif segment would be %1 bytes longer than the 65,535 that it has room for; rebuilding (&quot;Keep Untouched Data?&quot; off, --rebuild) may make it shorter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Exif-Segment wäre um %1 Byte länger als die 65.535 Byte, für die es Platz hat; ein Neuaufbau („Unberührte Daten behalten?“ aus, --rebuild) kann es kürzen</numerusform>
+            <numerusform>Das Exif-Segment wäre um %1 Byte länger als die 65.535 Byte, für die es Platz hat; ein Neuaufbau („Unberührte Daten behalten?“ aus, --rebuild) kann es kürzen</numerusform>
         </translation>
     </message>
     <message>
         <source>The Exif directories name the same bytes again and again</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Exif-Verzeichnisse nennen immer wieder dieselben Bytes</translation>
     </message>
     <message>
         <source>The directory could not be read, so that nothing in it can be changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Verzeichnis konnte nicht gelesen werden, daher kann darin nichts geändert werden</translation>
     </message>
     <message>
         <source>The file has one that could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat eines, das nicht gelesen werden konnte</translation>
     </message>
     <message>
         <source>The text of this entry is the place of what it leads to</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text dieses Eintrags ist die Stelle dessen, worauf er verweist</translation>
     </message>
     <message>
         <source>A thumbnail in strips cannot be changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Miniaturbild in Streifen kann nicht geändert werden</translation>
     </message>
     <message>
         <source>Four bytes or fewer would stand where their place is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Vier Byte oder weniger stünden dort, wo ihre Position gesucht wird</translation>
     </message>
     <message>
         <source>The value is not a run of pairs of hexadecimal digits</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wert besteht nicht aus Paaren von Hexadezimalziffern</translation>
     </message>
     <message>
         <source>The value stands outside its entry, and the document shows only where</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wert steht außerhalb seines Eintrags, und das Dokument zeigt nur, wo</translation>
     </message>
     <message>
         <source>The value has to be four bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wert muss vier Byte lang sein</translation>
     </message>
     <message>
         <source>Values of this data type cannot be changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte dieses Datentyps können nicht geändert werden</translation>
     </message>
     <message>
         <source>The old value is not all in the Exif segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Der alte Wert liegt nicht ganz im Exif-Segment</translation>
     </message>
     <message>
         <source>%1 would read %2 instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 würde %2 statt %3 lauten</translation>
     </message>
     <message>
         <source>%1 would have type %2 and count %3 instead of type %4 and count %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hätte Typ %2 und Anzahl %3 statt Typ %4 und Anzahl %5</translation>
     </message>
     <message>
         <source>%1 would stand at %2 instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 stünde an Position %2 statt %3</translation>
     </message>
     <message>
         <source>%1 would be lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ginge verloren</translation>
     </message>
     <message>
         <source>%1 would be new</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wäre neu</translation>
     </message>
     <message>
         <source>%1 would not be the same</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 würde sich ändern</translation>
     </message>
     <message>
         <source>%1 would have another link to the next directory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hätte einen anderen Verweis auf das nächste Verzeichnis</translation>
     </message>
     <message>
         <source>%1 would not have the entries that it should</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hätte nicht die Einträge, die es haben sollte</translation>
     </message>
     <message numerus="yes">
         <source>The file would have %1 segments instead of %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Datei hätte %1 Segment statt %2</numerusform>
+            <numerusform>Die Datei hätte %1 Segmente statt %2</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 reads %2 instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lautet %2 statt %3</translation>
     </message>
     <message>
         <source>%1 has type %2 and count %3 instead of type %4 and count %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat Typ %2 und Anzahl %3 statt Typ %4 und Anzahl %5</translation>
     </message>
     <message>
         <source>%1 stands at %2 instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 steht an Position %2 statt %3</translation>
     </message>
     <message>
         <source>%1 is lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist verloren gegangen</translation>
     </message>
     <message>
         <source>%1 is new</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist neu</translation>
     </message>
     <message>
         <source>%1 is not the same</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat sich geändert</translation>
     </message>
     <message>
         <source>%1 has another link to the next directory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat einen anderen Verweis auf das nächste Verzeichnis</translation>
     </message>
     <message>
         <source>%1 does not have the entries that it should</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat nicht die Einträge, die es haben sollte</translation>
     </message>
     <message numerus="yes">
         <source>The file has %1 segments instead of %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Datei hat %1 Segment statt %2</numerusform>
+            <numerusform>Die Datei hat %1 Segmente statt %2</numerusform>
         </translation>
     </message>
     <message>
         <source>The header of the Exif segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Header des Exif-Segments</translation>
     </message>
     <message>
         <source>The Exif segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Exif-Segment</translation>
     </message>
     <message>
         <source>The image at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild bei %1</translation>
     </message>
     <message>
         <source>The segment %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Segment %1</translation>
     </message>
     <message>
         <source>The picture, or what follows it,</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild oder das, was darauf folgt,</translation>
     </message>
     <message>
         <source>%1 shared bytes with another value, which still has them</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 teilte sich Bytes mit einem anderen Wert, der sie noch hat</translation>
     </message>
     <message>
         <source>The data after the picture names positions in the file, which are others now</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Daten nach dem Bild nennen Positionen in der Datei, die jetzt andere sind</translation>
     </message>
     <message numerus="yes">
         <source>%1 values changed, %2 unchanged, picture identical.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Wert geändert, %2 unverändert, Bild identisch.</numerusform>
+            <numerusform>%1 Werte geändert, %2 unverändert, Bild identisch.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1. The original is kept as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Das Original bleibt als %2 erhalten</translation>
     </message>
     <message>
         <source>%1. %2 was there already and stays as the original</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2 war schon vorhanden und bleibt als Original</translation>
     </message>
     <message numerus="yes">
         <source>%1, and %2 more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 und %2 weitere</numerusform>
+            <numerusform>%1 und %2 weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmeort</translation>
     </message>
     <message>
         <source>Serial numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Seriennummern</translation>
     </message>
     <message>
         <source>Names of people</source>
-        <translation type="unfinished"></translation>
+        <translation>Namen von Personen</translation>
     </message>
     <message>
         <source>Copyright notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Urheberrechtsvermerk</translation>
     </message>
     <message>
         <source>Titles, comments and keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel, Kommentare und Stichwörter</translation>
     </message>
     <message>
         <source>Unique identifiers</source>
-        <translation type="unfinished"></translation>
+        <translation>Eindeutige Kennungen</translation>
     </message>
     <message>
         <source>Maker&apos;s notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Herstellernotizen</translation>
     </message>
     <message>
         <source>Thumbnail that is not known to show the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Miniaturbild, von dem nicht bekannt ist, ob es das Bild zeigt</translation>
     </message>
     <message>
         <source>XMP</source>
-        <translation type="unfinished"></translation>
+        <translation>XMP</translation>
     </message>
     <message>
         <source>IPTC and Photoshop data</source>
-        <translation type="unfinished"></translation>
+        <translation>IPTC- und Photoshop-Daten</translation>
     </message>
     <message>
         <source>Comment segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentarsegmente</translation>
     </message>
     <message>
         <source>Other application segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Anwendungssegmente</translation>
     </message>
     <message>
         <source>Exif data that the program does not know</source>
-        <translation type="unfinished"></translation>
+        <translation>Exif-Daten, die das Programm nicht kennt</translation>
     </message>
     <message>
         <source>What follows the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Was auf das Bild folgt</translation>
     </message>
     <message>
         <source>Unknown tag %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekanntes Tag %1 in %2</translation>
     </message>
     <message>
         <source>Extended XMP</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweitertes XMP</translation>
     </message>
     <message>
         <source>Photoshop and IPTC block</source>
-        <translation type="unfinished"></translation>
+        <translation>Photoshop- und IPTC-Block</translation>
     </message>
     <message>
         <source>Comment: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar: %1</translation>
     </message>
     <message>
         <source>Application segment %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwendungssegment %1 %2</translation>
     </message>
     <message>
         <source>Preview in the JFIF header</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschaubild im JFIF-Header</translation>
     </message>
     <message>
         <source>Preview in a JFIF extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschaubild in einer JFIF-Erweiterung</translation>
     </message>
     <message>
         <source>Index of further pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzeichnis weiterer Bilder</translation>
     </message>
     <message>
         <source>Second Exif segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweites Exif-Segment</translation>
     </message>
     <message>
         <source>Exif data that cannot be read in full</source>
-        <translation type="unfinished"></translation>
+        <translation>Exif-Daten, die nicht vollständig gelesen werden können</translation>
     </message>
     <message>
         <source>Bytes in the Exif data that nothing leads to</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes in den Exif-Daten, auf die nichts verweist</translation>
     </message>
     <message>
         <source>Directory %1, which is not shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzeichnis %1, das nicht angezeigt wird</translation>
     </message>
     <message>
         <source>Thumbnail with other proportions than the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Miniaturbild mit anderem Seitenverhältnis als das Bild</translation>
     </message>
     <message>
         <source>Thumbnail that shows something else than the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Miniaturbild, das etwas anderes zeigt als das Bild</translation>
     </message>
     <message>
         <source>Thumbnail that cannot be compared with the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Miniaturbild, das sich nicht mit dem Bild vergleichen lässt</translation>
     </message>
     <message>
         <source>Another picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein weiteres Bild</translation>
     </message>
     <message>
         <source>A film</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Film</translation>
     </message>
     <message>
         <source>Data of an unknown kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten unbekannter Art</translation>
     </message>
     <message>
         <source>The picture has no end, so nothing can be said about what follows it</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild hat kein Ende, daher lässt sich nicht sagen, was darauf folgt</translation>
     </message>
     <message>
         <source>after the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>nach dem Bild</translation>
     </message>
     <message>
         <source>inside the image data</source>
-        <translation type="unfinished"></translation>
+        <translation>innerhalb der Bilddaten</translation>
     </message>
     <message>
         <source>It stays, because the image data is never changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Es bleibt, weil die Bilddaten nie geändert werden</translation>
     </message>
     <message>
         <source>It stays, because it cannot be told from the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Es bleibt, weil es sich nicht vom Bild unterscheiden lässt</translation>
     </message>
     <message>
         <source>It goes only with the whole Exif data</source>
-        <translation type="unfinished"></translation>
+        <translation>Es verschwindet nur mit den gesamten Exif-Daten</translation>
     </message>
     <message numerus="yes">
         <source>%1, %2 bytes, %3</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %2 Byte, %3</numerusform>
+            <numerusform>%1, %2 Byte, %3</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1, %2 bytes, %3; the program cannot look into it</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %2 Byte, %3; das Programm kann nicht hineinsehen</numerusform>
+            <numerusform>%1, %2 Byte, %3; das Programm kann nicht hineinsehen</numerusform>
         </translation>
     </message>
     <message>
         <source>%1. %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2.</translation>
     </message>
     <message>
         <source>Nothing was found that identifies a person or a place</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts gefunden, was auf eine Person oder einen Ort schließen lässt</translation>
     </message>
     <message>
         <source>The picture up to its end</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild bis zu seinem Ende</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>f/%1</source>
-        <translation type="unfinished"></translation>
+        <translation>f/%1</translation>
     </message>
     <message>
         <source>%1 EV</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 EV</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>infinity</source>
-        <translation type="unfinished"></translation>
+        <translation>unendlich</translation>
     </message>
     <message>
         <source>%1°</source>
-        <translation type="unfinished"></translation>
+        <translation>%1°</translation>
     </message>
     <message>
         <source>%1° %2&apos; %3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1° %2&apos; %3&quot;</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 hPa</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hPa</translation>
     </message>
     <message numerus="yes">
         <source>%1 bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Byte</numerusform>
+            <numerusform>%1 Byte</numerusform>
         </translation>
     </message>
     <message>
         <source>The root element is %1, not JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Wurzelelement ist %1, nicht JPEG</translation>
     </message>
     <message>
         <source>Folder not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner nicht gefunden</translation>
     </message>
     <message>
         <source>No files found with search criteria specified.  Click &apos;Find Files&apos; button to try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Dateien gefunden, die den Suchkriterien entsprechen.  Klicken Sie auf „Dateien suchen“, um es noch einmal zu versuchen.</translation>
     </message>
     <message>
         <source>List of files found (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste der gefundenen Dateien (%1)</translation>
     </message>
     <message>
         <source>Checking file contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiinhalte werden geprüft</translation>
     </message>
     <message numerus="yes">
         <source>%1 files could not be checked. The first: %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Datei konnte nicht geprüft werden. Die erste: %2</numerusform>
+            <numerusform>%1 Dateien konnten nicht geprüft werden. Die erste: %2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The search ended early, because %1 files could not be checked. The first: %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Suche endete vorzeitig, weil %1 Datei nicht geprüft werden konnte. Die erste: %2</numerusform>
+            <numerusform>Die Suche endete vorzeitig, weil %1 Dateien nicht geprüft werden konnten. Die erste: %2</numerusform>
         </translation>
     </message>
     <message>
         <source>Open File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei %1 öffnen</translation>
     </message>
     <message>
         <source>Read File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei %1 lesen</translation>
     </message>
     <message>
         <source>Create file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei %1 anlegen</translation>
     </message>
     <message>
         <source>Write file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei %1 schreiben</translation>
     </message>
     <message>
         <source>Save XML File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>XML-Datei %1 speichern</translation>
     </message>
     <message>
         <source>Internal XML document corrupt</source>
-        <translation type="unfinished"></translation>
+        <translation>Internes XML-Dokument beschädigt</translation>
     </message>
     <message>
         <source>Transform XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML umwandeln</translation>
     </message>
     <message>
         <source>loadXML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML laden</translation>
     </message>
     <message>
         <source>Internal JpegXml document error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler im internen XML-Dokument der JPEG-Datei</translation>
     </message>
     <message>
         <source>Invalid picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiges Bild</translation>
     </message>
     <message>
         <source>Invalid thumbnail</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiges Miniaturbild</translation>
     </message>
     <message>
         <source>Open %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 öffnen</translation>
     </message>
     <message>
         <source>No program was found that opens it</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein Programm gefunden, das diese Datei öffnet</translation>
     </message>
 </context>
 <context>
     <name>NodeAddForm</name>
     <message>
         <source>Node Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten hinzufügen</translation>
     </message>
     <message>
         <source>Select the Node to add to the image</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie den Knoten, der dem Bild hinzugefügt werden soll</translation>
     </message>
     <message>
         <source>&amp;Node</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Knoten</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten</translation>
     </message>
     <message>
         <source>&amp;Add Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten &amp;hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;bbrechen</translation>
     </message>
 </context>
 <context>
     <name>PrivateForm</name>
     <message>
         <source>What Does It Tell?</source>
-        <translation type="unfinished"></translation>
+        <translation>Was verrät das Foto?</translation>
     </message>
     <message>
         <source>This is what the &amp;photograph tells of people and places. Select what you want to delete; it is gone from the file when you save.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das verrät das &amp;Foto über Personen und Orte. Wählen Sie aus, was Sie löschen möchten; beim Speichern verschwindet es aus der Datei.</translation>
     </message>
     <message>
         <source>What the photograph tells</source>
-        <translation type="unfinished"></translation>
+        <translation>Was das Foto verrät</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Was</translation>
     </message>
     <message>
         <source>Bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmerkung</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle auswählen</translation>
     </message>
     <message>
         <source>&amp;Delete Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählte &amp;löschen</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
 </context>
 <context>
     <name>ProgressForm</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Files done</source>
-        <translation type="unfinished"></translation>
+        <translation>Erledigte Dateien</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1652,27 +1656,27 @@ Line %2 pos %3 <byte value="xd"/>
     <message>
         <source>%1.</source>
         <comment>a sentence and its full stop</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>, </source>
         <comment>between the items of a list</comment>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nein</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1680,235 +1684,235 @@ Line %2 pos %3 <byte value="xd"/>
     <message>
         <source>en</source>
         <extracomment>The code of the language that you translate into, such as &quot;de&quot; or &quot;zh-CN&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message numerus="yes">
         <source>%n photographs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Foto</numerusform>
+            <numerusform>%n Fotos</numerusform>
         </translation>
     </message>
     <message>
         <source>Shots</source>
         <extracomment>The photographs that were taken: the title of a table</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen</translation>
     </message>
     <message>
         <source>Photograph</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera</translation>
     </message>
     <message>
         <source>Lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Objektiv</translation>
     </message>
     <message>
         <source>Time</source>
         <extracomment>Exposure time</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Belichtungszeit</translation>
     </message>
     <message>
         <source>Aperture</source>
-        <translation type="unfinished"></translation>
+        <translation>Blende</translation>
     </message>
     <message>
         <source>ISO</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO</translation>
     </message>
     <message>
         <source>Focal length</source>
-        <translation type="unfinished"></translation>
+        <translation>Brennweite</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmeort</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistik</translation>
     </message>
     <message>
         <source>Sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfindlichkeit</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Monat</translation>
     </message>
     <message>
         <source>not known</source>
         <extracomment>A camera, a focal length, a sensitivity or a month</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt</translation>
     </message>
 </context>
 <context>
     <name>SlideForm</name>
     <message>
         <source>Slide Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Diashow</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten</translation>
     </message>
 </context>
 <context>
     <name>SlideShowOptionForm</name>
     <message>
         <source>Slide Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Diashow</translation>
     </message>
     <message>
         <source>Full screen?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbild?</translation>
     </message>
     <message>
         <source>Show Slide show full screen or in a window?</source>
-        <translation type="unfinished"></translation>
+        <translation>Diashow im Vollbild oder in einem Fenster zeigen?</translation>
     </message>
     <message>
         <source>Resize large images?</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Bilder verkleinern?</translation>
     </message>
     <message>
         <source>Resize large images to fit the slide window?</source>
-        <translation type="unfinished"></translation>
+        <translation>Große Bilder auf die Größe des Diashow-Fensters verkleinern?</translation>
     </message>
     <message>
         <source>Show Details?</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten anzeigen?</translation>
     </message>
     <message>
         <source>Show details fo each file as it displays</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu jeder gezeigten Datei Einzelheiten anzeigen</translation>
     </message>
     <message>
         <source>Seconds/Slide</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden/Bild</translation>
     </message>
     <message>
         <source>Number of seconds to show each  image. Enter 0 (zero) for manual control.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Sekunden, die jedes Bild gezeigt wird. Geben Sie 0 (null) ein, um von Hand weiterzuschalten.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>ValueLine</name>
     <message>
         <source>Only whole numbers from 0 to 65535 can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ganze Zahlen von 0 bis 65535 können geschrieben werden.</translation>
     </message>
     <message>
         <source>Only whole numbers from 0 to 4294967295 can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ganze Zahlen von 0 bis 4294967295 können geschrieben werden.</translation>
     </message>
     <message>
         <source>Only numbers such as 2.5 can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Zahlen wie 2.5 (mit Punkt) können geschrieben werden.</translation>
     </message>
     <message>
         <source>Only whole numbers from -32768 to 32767 can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ganze Zahlen von -32768 bis 32767 können geschrieben werden.</translation>
     </message>
     <message>
         <source>Only whole numbers from -2147483648 to 2147483647 can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ganze Zahlen von -2147483648 bis 2147483647 können geschrieben werden.</translation>
     </message>
     <message>
         <source>Only fractions such as 1/125, up to 4294967295, can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Brüche wie 1/125, mit Zahlen bis 4294967295, können geschrieben werden.</translation>
     </message>
     <message>
         <source>Only fractions such as -1/3, up to 2147483647, can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Brüche wie -1/3, mit Zahlen bis 2147483647, können geschrieben werden.</translation>
     </message>
     <message>
         <source>Cannot be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kann nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Shows and edits the metadata of JPEG files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt und bearbeitet die Metadaten von JPEG-Dateien.</translation>
     </message>
     <message>
         <source>Photographs to list, and folders of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos, die aufgelistet werden sollen, und Ordner mit Fotos</translation>
     </message>
 </context>
 <context>
     <name>ovisto::AboutForm</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>Made with %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt mit %1.</translation>
     </message>
     <message>
         <source>System: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>System: %1</translation>
     </message>
     <message>
         <source>Kernel: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Kernel: %1 %2</translation>
     </message>
     <message>
         <source>Computer: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Computer: %1</translation>
     </message>
     <message numerus="yes">
         <source>Processor: %1, %Ln cores</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Prozessor: %1, %Ln Kern</numerusform>
+            <numerusform>Prozessor: %1, %Ln Kerne</numerusform>
         </translation>
     </message>
     <message>
         <source>Window system: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenstersystem: %1</translation>
     </message>
     <message>
         <source>Screen: %1 x %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm: %1 × %2</translation>
     </message>
 </context>
 <context>
     <name>ovisto::AwakeScreen</name>
     <message>
         <source>A slide show is running</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Diashow läuft</translation>
     </message>
 </context>
 <context>
     <name>ovisto::BatchForm</name>
     <message numerus="yes">
         <source>The list has %Ln files.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Liste enthält %Ln Datei.</numerusform>
+            <numerusform>Die Liste enthält %Ln Dateien.</numerusform>
         </translation>
     </message>
 </context>
@@ -1916,78 +1920,83 @@ Line %2 pos %3 <byte value="xd"/>
     <name>ovisto::BatchResults</name>
     <message>
         <source>failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>not reached</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht erreicht</translation>
     </message>
     <message>
         <source>unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>unverändert</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>geändert</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
 </context>
 <context>
     <name>ovisto::ControlForm</name>
     <message>
         <source>Goes with &quot;Keep Untouched Data?&quot;: what is written anew is read in the basic way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehört zu „Unberührte Daten behalten?“: Was neu geschrieben wird, wird einfach gelesen.</translation>
     </message>
 </context>
 <context>
     <name>ovisto::Editor</name>
     <message>
         <source>Metadata saved as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Metadaten gespeichert als %1</translation>
     </message>
     <message>
         <source>All previous edits have been ignored, except for<byte value="xd"/>
 nodes removed according to the Options menu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle bisherigen Änderungen wurden übergangen, außer<byte value="xd"/>
+den Knoten, die gemäß dem Menü „Optionen“ entfernt wurden.</translation>
     </message>
     <message>
         <source>Everything has to be read first. Switch on &quot;Keep Untouched Data?&quot; and<byte value="xd"/>
 &quot;Read Everything?&quot; in the Options menu, and open the file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst muss alles gelesen werden. Schalten Sie „Unberührte Daten behalten?“ und<byte value="xd"/>
+„Alles lesen?“ im Menü „Optionen“ ein und öffnen Sie die Datei erneut.</translation>
     </message>
     <message>
         <source>Save Changes to file %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an der Datei %1 speichern?</translation>
     </message>
     <message>
         <source>Another program changed the file %1 after it was opened here.<byte value="xd"/>
 <byte value="xd"/>
 Save Over It: the file gets all values as they are shown here.<byte value="xd"/>
 Read It Again: what you changed here is given up, and the file is shown as it is now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat die Datei %1 geändert, nachdem sie hier geöffnet wurde.<byte value="xd"/>
+<byte value="xd"/>
+Überschreiben: Die Datei erhält alle Werte, wie sie hier angezeigt werden.<byte value="xd"/>
+Neu lesen: Was Sie hier geändert haben, wird verworfen und die Datei wird gezeigt, wie sie jetzt ist.</translation>
     </message>
     <message>
         <source>&amp;Save Over It</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Überschreiben</translation>
     </message>
     <message>
         <source>&amp;Read It Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu lesen</translation>
     </message>
     <message>
         <source>%1 saved: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gespeichert: %2</translation>
     </message>
     <message>
         <source>Lost, as &quot;Keep Untouched Data?&quot; is off: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verloren, da „Unberührte Daten behalten?“ ausgeschaltet ist: %1</translation>
     </message>
 </context>
 <context>
@@ -1995,46 +2004,47 @@ Read It Again: what you changed here is given up, and the file is shown as it is
     <message>
         <source>The folder %1 is not there. Nothing was removed from the list.<byte value="xd"/>
 Check that the disk or card is connected, and click the photograph again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner %1 ist nicht vorhanden. Aus der Liste wurde nichts entfernt.<byte value="xd"/>
+Prüfen Sie, ob der Datenträger oder die Speicherkarte angeschlossen ist, und klicken Sie das Foto erneut an.</translation>
     </message>
 </context>
 <context>
     <name>ovisto::KeywordPane</name>
     <message>
         <source>*.TXT (*.TXT *.txt);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>*.TXT (*.TXT *.txt);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
     <name>ovisto::LeftOutLine</name>
     <message>
         <source>Saving leaves out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Speichern entfallen: %1</translation>
     </message>
 </context>
 <context>
     <name>ovisto::ListActions</name>
     <message numerus="yes">
         <source>Lost something in %L1 of %Ln files, as &quot;Keep Untouched Data?&quot; is off. The originals are kept as NAME.original.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>In %L1 von %Ln Datei ging etwas verloren, da „Unberührte Daten behalten?“ ausgeschaltet ist. Die Originale bleiben als NAME.original erhalten.</numerusform>
+            <numerusform>In %L1 von %Ln Dateien ging etwas verloren, da „Unberührte Daten behalten?“ ausgeschaltet ist. Die Originale bleiben als NAME.original erhalten.</numerusform>
         </translation>
     </message>
     <message>
         <source>Open Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht öffnen</translation>
     </message>
     <message>
         <source>XSL (*.xsl *.XSL);;All Files (*.*) (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>XSL (*.xsl *.XSL);;Alle Dateien (*.*) (*)</translation>
     </message>
 </context>
 <context>
     <name>ovisto::PictureBox</name>
     <message>
         <source>This file cannot be shown as a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei kann nicht als Bild angezeigt werden.</translation>
     </message>
 </context>
 <context>
@@ -2042,84 +2052,84 @@ Check that the disk or card is connected, and click the photograph again.</sourc
     <message>
         <source>%1 – %2</source>
         <comment>kind, what was found</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>Ovisto cannot look into it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ovisto kann nicht hineinsehen.</translation>
     </message>
 </context>
 <context>
     <name>ovisto::PropertyPane</name>
     <message>
         <source>No properties to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Eigenschaften anzuzeigen.</translation>
     </message>
     <message>
         <source>Unexpected error - Node &apos;%1&apos; not found. Please reload the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unerwarteter Fehler – Knoten „%1“ nicht gefunden. Bitte laden Sie die Datei neu.</translation>
     </message>
     <message>
         <source>Click on a node in the property NodeTree to select a value first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie zuerst auf einen Knoten im Eigenschaftenbaum, um einen Wert auszuwählen.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>ovisto::PropertySheet</name>
     <message>
         <source>Properties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften von %1</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner:</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ:</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe:</translation>
     </message>
     <message numerus="yes">
         <source>%1 bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 Byte</numerusform>
+            <numerusform>%1 Byte</numerusform>
         </translation>
     </message>
     <message>
         <source>Changed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert:</translation>
     </message>
     <message>
         <source>Last read:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt gelesen:</translation>
     </message>
     <message>
         <source>Owner:</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigentümer:</translation>
     </message>
     <message>
         <source>Access:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff:</translation>
     </message>
     <message>
         <source>Can be read and changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kann gelesen und geändert werden</translation>
     </message>
     <message>
         <source>Can be read only</source>
-        <translation type="unfinished"></translation>
+        <translation>Kann nur gelesen werden</translation>
     </message>
 </context>
 <context>
@@ -2128,19 +2138,21 @@ Check that the disk or card is connected, and click the photograph again.</sourc
         <source>Press ESC or click the image to exit show,<byte value="xd"/>
 left/right arrow to skip slides,<byte value="xd"/>
 space to pause/unpause.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc oder ein Klick auf das Bild beendet die Diashow,<byte value="xd"/>
+Pfeil links/rechts springt zum vorigen/nächsten Bild,<byte value="xd"/>
+Leertaste hält an und setzt fort.</translation>
     </message>
     <message>
         <source>The picture ends early: part of the file is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild endet vorzeitig: Ein Teil der Datei fehlt.</translation>
     </message>
     <message>
         <source>%1 (paused)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (angehalten)</translation>
     </message>
     <message>
         <source>Slide Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Diashow</translation>
     </message>
 </context>
 </TS>
