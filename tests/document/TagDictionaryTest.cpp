@@ -2,6 +2,7 @@
 
 #include "document/TagDictionary.h"
 #include "common/text/Hex.h"
+#include "common/xml/XmlLoad.h"
 #include "document/DataType.h"
 #include "document/Directories.h"
 #include "document/NodePath.h"
@@ -13,8 +14,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <set>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace ovisto::test {
 
@@ -172,13 +176,75 @@ TEST(NodePath, IsWhatTheProgramPrintsAndNoOtherXPath)
         EXPECT_EQ(pathMeaning(path), meaning) << path;
 }
 
+namespace {
+
+const std::string kDataFolder = OVISTO_DATA_FOLDER;
+
+/// The paths of the files with the dictionary's texts in other languages.
+std::vector<std::string> languageFiles()
+{
+    std::vector<std::string> files;
+    for (const auto& file : std::filesystem::directory_iterator(kDataFolder)) {
+        const std::string name = file.path().filename();
+        if (name.starts_with("Merovel.") && name.ends_with(".xml") && name != "Merovel.xml")
+            files.push_back(file.path());
+    }
+    return files;
+}
+
+/// What a file has texts for, in its order. Each of them must have some, and a label of its own within its parent.
+std::vector<std::string> describedIn(const std::string& path)
+{
+    XmlDocument file;
+    XMLLoad(file, path);
+    std::vector<std::string> described;
+    std::set<std::string> labels;
+    for (const ConstXmlNode& node : std::as_const(file).selectNodes("//*")) {
+        const std::string name = node.name();
+        const bool isNamedValue = name == "value" || name == "flag";
+        const std::string place = NodeXPath(isNamedValue ? node.parent() : node);
+        described.push_back(place + " " + node.attribute("raw") + " " + node.attribute("mask"));
+        for (const char* text : {"label", "help", "text"}) {
+            EXPECT_EQ(node.attribute(text).empty(), isNamedValue != (text == std::string_view("text")))
+                << path << " " << described.back() << " " << text;
+        }
+        if (!isNamedValue) {
+            EXPECT_TRUE(labels.insert(NodeXPath(node.parent()) + " " + node.attribute("label")).second)
+                << path << " " << place << " has the label of another";
+        }
+    }
+    return described;
+}
+
+} // namespace
+
+TEST(TagDictionary, IsCompleteInEachOfItsLanguages)
+{
+    const std::vector<std::string> described = describedIn(kDataFolder + "Merovel.xml");
+    EXPECT_FALSE(languageFiles().empty());
+    for (const std::string& path : languageFiles())
+        EXPECT_EQ(describedIn(path), described) << path;
+
+    TagDictionary german(kDataFolder + "Merovel.xml");
+    german.setTexts(kDataFolder + "Merovel.de.xml");
+    const DictionaryEntry orientation = german.entry(kAnyOrientationPath);
+    EXPECT_EQ(orientation.label(), "Ausrichtung");
+    EXPECT_EQ(orientation.sourceLabel(), "Orientation");
+    EXPECT_NE(orientation.help(), dictionary().entry(kAnyOrientationPath).help());
+    EXPECT_EQ(valueText(orientation, "6", englishValueWords()), "nach rechts gedreht (6)");
+}
+
 TEST(TagDictionary, IsValidByItsDocumentType)
 {
     if (!isInstalled("xmllint"))
         GTEST_SKIP() << "xmllint (libxml2-utils) is not installed";
-    const CommandRun run = runCommand(
-        {"xmllint", "--noout", "--dtdvalid", OVISTO_DATA_FOLDER "Merovel.dtd", OVISTO_DATA_FOLDER "Merovel.xml"});
-    EXPECT_EQ(run.status, 0) << run.errors;
+    const auto check = [](const std::string& documentType, std::vector<std::string> files) {
+        files.insert(files.begin(), {"xmllint", "--noout", "--dtdvalid", kDataFolder + documentType});
+        const CommandRun run = runCommand(files);
+        EXPECT_EQ(run.status, 0) << run.errors;
+    };
+    check("Merovel.dtd", {kDataFolder + "Merovel.xml"});
+    check("Merovel-language.dtd", languageFiles());
 }
 
 } // namespace ovisto::test
