@@ -11,6 +11,7 @@
 #include <QLineEdit>
 
 #include <filesystem>
+#include <utility>
 
 namespace ovisto::test {
 
@@ -78,7 +79,10 @@ std::unique_ptr<ControlForm> Window::newForm()
 {
     const std::string data = (kSource + u"/data/"_s).toStdString();
     const std::string writable = (m_writable.path() + u'/').toStdString();
-    return std::make_unique<ControlForm>(TagDictionary(dictionary),
+    TagDictionary Merovel(dictionary);
+    if (!dictionaryTexts.empty())
+        Merovel.setTexts(dictionaryTexts);
+    return std::make_unique<ControlForm>(std::move(Merovel),
                                          Surroundings{dialogs, desktop, m_settings, {data, writable}});
 }
 

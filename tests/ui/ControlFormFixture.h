@@ -78,6 +78,8 @@ public:
     void open(const std::vector<std::string>& paths);
     /// The path of the tag dictionary of the forms made from now on.
     std::string dictionary = std::string(OVISTO_SOURCE_FOLDER) + "/data/Merovel.xml";
+    /// The path of its texts in another language, if any.
+    std::string dictionaryTexts;
     void close() { m_form.reset(); }
     ControlForm& form() { return *m_form; }
     std::unique_ptr<ControlForm> newForm();

@@ -42,6 +42,7 @@ void PropertySheet::addRow(QFormLayout& rows, const QString& caption, const QStr
 {
     constexpr int kLine = 320; // pixels; longer texts take several lines
     auto* label = new QLabel(text, this);
+    label->setObjectName(QStringLiteral("PropertyValue"));
     label->setMinimumWidth(kLine);
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
