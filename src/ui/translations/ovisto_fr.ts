@@ -5,166 +5,166 @@
     <name>AboutForm</name>
     <message>
         <source>About Ovisto</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos d’Ovisto</translation>
     </message>
     <message>
         <source>Shows what a JPEG photograph tells about itself, and lets you edit it: titles, keywords, dates, the camera&apos;s notes. The picture itself is never compressed again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche ce qu’une photo JPEG dit d’elle-même et permet de le modifier&#xa0;: titres, mots-clés, dates, notes de l’appareil. L’image elle-même n’est jamais recompressée.</translation>
     </message>
     <message>
         <source>System information</source>
-        <translation type="unfinished"></translation>
+        <translation>Informations système</translation>
     </message>
     <message>
         <source>&amp;System Information</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Informations système</translation>
     </message>
     <message>
         <source>Show what is known about this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher ce que l’on sait de cet ordinateur</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
 </context>
 <context>
     <name>Advice</name>
     <message>
         <source>Change the value, or delete the property.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifiez la valeur ou supprimez la propriété.</translation>
     </message>
     <message>
         <source>Close other programs, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermez d’autres programmes et réessayez.</translation>
     </message>
     <message>
         <source>Type a value of the data type that is shown below it: a whole number, or a fraction such as 1/125. Several are separated by commas.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez une valeur du type de données indiqué au-dessous&#xa0;: un nombre entier, ou une fraction telle que 1/125. Séparez plusieurs valeurs par des virgules.</translation>
     </message>
     <message>
         <source>Check whether the file was moved, renamed or deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez si le fichier a été déplacé, renommé ou supprimé.</translation>
     </message>
     <message>
         <source>Copy what you can to another disk, and work there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiez ce qui peut l’être sur un autre disque, et travaillez-y.</translation>
     </message>
     <message>
         <source>Free some space on the disk, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Libérez de l’espace sur le disque et réessayez.</translation>
     </message>
     <message>
         <source>Check the permissions of the file and of its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez les droits d’accès du fichier et de son dossier.</translation>
     </message>
     <message>
         <source>Check that the disk or card is connected, and that the folder was not renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez que le disque ou la carte est en place et que le dossier n’a pas été renommé.</translation>
     </message>
     <message>
         <source>The file is not a JPEG photograph, or it is damaged. If it was one, restore it from your backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’est pas une photo JPEG, ou il est endommagé. Si c’en était une, restaurez-la à partir de votre sauvegarde.</translation>
     </message>
 </context>
 <context>
     <name>BatchForm</name>
     <message>
         <source>Batch Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Traitement par lot</translation>
     </message>
     <message>
         <source>Carry out the following action on all selected images in the Files Found List...</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer l’action suivante à toutes les images sélectionnées dans la liste des fichiers trouvés…</translation>
     </message>
     <message>
         <source>&amp;Node</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nœud</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Nœud</translation>
     </message>
     <message>
         <source>&amp;Set to value</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Définir la valeur</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>&amp;Delete Node</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer le nœud</translation>
     </message>
     <message>
         <source>S&amp;tart</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lancer</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Ann&amp;uler</translation>
     </message>
 </context>
 <context>
     <name>BatchResultForm</name>
     <message>
         <source>Batch Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat du traitement par lot</translation>
     </message>
     <message>
         <source>Files and results</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers et résultats</translation>
     </message>
     <message>
         <source>&amp;Keep only the failed in the list</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ne garder que les échecs dans la liste</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
 </context>
 <context>
     <name>BatchWatch</name>
     <message>
         <source>Go on with the other files? Those that fail are listed at the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuer avec les autres fichiers&#x202f;? Les échecs sont énumérés à la fin.</translation>
     </message>
     <message>
         <source>&amp;Go On</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Continuer</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter</translation>
     </message>
     <message numerus="yes">
         <source>%Ln changed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln modifié</numerusform>
+            <numerusform>%Ln modifiés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln unchanged</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln inchangé</numerusform>
+            <numerusform>%Ln inchangés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln failed</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln en échec</numerusform>
+            <numerusform>%Ln en échec</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln not reached</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln non traité</numerusform>
+            <numerusform>%Ln non traités</numerusform>
         </translation>
     </message>
 </context>
@@ -172,517 +172,517 @@
     <name>BrowserCapForm</name>
     <message>
         <source>Find Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des fichiers</translation>
     </message>
     <message>
         <source>Folders / Directories</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossiers / répertoires</translation>
     </message>
     <message>
         <source>Folder to scan</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier à parcourir</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>Go to the folder above</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller au dossier parent</translation>
     </message>
     <message>
         <source>Go to the home folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller au dossier personnel</translation>
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossiers</translation>
     </message>
     <message>
         <source>Scan Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options de recherche</translation>
     </message>
     <message>
         <source>Filename Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle de nom de fichier</translation>
     </message>
     <message>
         <source>list of file extensions separated by semicolon;</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste d’extensions de fichier séparées par des points-virgules (;)</translation>
     </message>
     <message>
         <source>Scan Subfolders as well?</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir aussi les sous-dossiers&#x202f;?</translation>
     </message>
     <message>
         <source>Scan Subfolders of selected folder?</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir les sous-dossiers du dossier sélectionné&#x202f;?</translation>
     </message>
     <message>
         <source>Add files found to list?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter les fichiers trouvés à la liste&#x202f;?</translation>
     </message>
     <message>
         <source>Add to list of files found (or clear)?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter à la liste des fichiers trouvés (ou la vider)&#x202f;?</translation>
     </message>
     <message>
         <source>Content Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre de contenu</translation>
     </message>
     <message>
         <source>Containing words</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenant les mots</translation>
     </message>
     <message>
         <source>Words to search for, or regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots à rechercher, ou expression régulière</translation>
     </message>
     <message>
         <source>(separate words with commas)</source>
-        <translation type="unfinished"></translation>
+        <translation>(séparer les mots par des virgules)</translation>
     </message>
     <message>
         <source>Must find ALL words?</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouver TOUS les mots&#x202f;?</translation>
     </message>
     <message>
         <source>File must have all words, or any of them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier doit-il contenir tous les mots, ou l’un d’eux&#x202f;?</translation>
     </message>
     <message>
         <source>Find whole words only?</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots entiers uniquement&#x202f;?</translation>
     </message>
     <message>
         <source>Look for whole words only or part of word</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher seulement des mots entiers, ou aussi des parties de mots</translation>
     </message>
     <message>
         <source>Treat the text above as a Regular Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Traiter le texte ci-dessus comme une expression régulière</translation>
     </message>
     <message>
         <source>Regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expression régulière</translation>
     </message>
     <message>
         <source>Or, if you know how to write regular expressions, then enter your RegExp above and tick this box.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ou bien, si vous savez écrire des expressions régulières, saisissez la vôtre ci-dessus et cochez cette case.</translation>
     </message>
     <message>
         <source>Search shown values, too</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher aussi dans les valeurs affichées</translation>
     </message>
     <message>
         <source>Also look for the text above in the values as the property tree shows them, such as &quot;turned right&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher aussi le texte ci-dessus dans les valeurs telles que l’arborescence des propriétés les affiche, par exemple «&#xa0;tournée vers la droite&#xa0;»</translation>
     </message>
     <message>
         <source>&amp;Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sélectionner le dossier</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>ControlForm</name>
     <message>
         <source>Find Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des fichiers</translation>
     </message>
     <message>
         <source>Select &amp; scan a folder for image files</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un dossier et y rechercher des images</translation>
     </message>
     <message>
         <source>List of images found</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste des images trouvées</translation>
     </message>
     <message>
         <source>Images found</source>
-        <translation type="unfinished"></translation>
+        <translation>Images trouvées</translation>
     </message>
     <message>
         <source>Save &amp; show previous image in list</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer et afficher l’image précédente de la liste</translation>
     </message>
     <message>
         <source>Previous image</source>
-        <translation type="unfinished"></translation>
+        <translation>Image précédente</translation>
     </message>
     <message>
         <source>Save &amp; show next image in list</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer et afficher l’image suivante de la liste</translation>
     </message>
     <message>
         <source>Next image</source>
-        <translation type="unfinished"></translation>
+        <translation>Image suivante</translation>
     </message>
     <message>
         <source>S&amp;lide Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diaporama</translation>
     </message>
     <message>
         <source>Show files listed in a slide-show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les fichiers de la liste en diaporama</translation>
     </message>
     <message>
         <source>&amp;Batch</source>
-        <translation type="unfinished"></translation>
+        <translation>Par &amp;lot</translation>
     </message>
     <message>
         <source>Change all files listed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier tous les fichiers de la liste</translation>
     </message>
     <message>
         <source>Your list of favourite keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre liste de mots-clés favoris</translation>
     </message>
     <message>
         <source>Favourite keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots-clés favoris</translation>
     </message>
     <message>
         <source>&amp;Keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mots-clés</translation>
     </message>
     <message>
         <source>Load a different keyword list from a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger une autre liste de mots-clés à partir d’un fichier</translation>
     </message>
     <message>
         <source>Drop photographs or folders of them here, or choose Find Files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez ici des photos ou des dossiers de photos, ou cliquez sur «&#xa0;Rechercher des fichiers&#xa0;».</translation>
     </message>
     <message>
         <source>Left click to open, right click for properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic gauche pour ouvrir, clic droit pour les propriétés</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>OS Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés pour le système</translation>
     </message>
     <message>
         <source>Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre&#xa0;:</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaires</translation>
     </message>
     <message>
         <source>Subject:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sujet&#xa0;:</translation>
     </message>
     <message>
         <source>Subject</source>
-        <translation type="unfinished"></translation>
+        <translation>Sujet</translation>
     </message>
     <message>
         <source>Keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots-clés</translation>
     </message>
     <message>
         <source>Ditto</source>
-        <translation type="unfinished"></translation>
+        <translation>Idem</translation>
     </message>
     <message>
         <source>Repeat from previous image</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre les textes de l’image précédente</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>Save changes made to this file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les modifications de ce fichier</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Réinitialiser</translation>
     </message>
     <message>
         <source>Undo ALL changes made to this file</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler TOUTES les modifications de ce fichier</translation>
     </message>
     <message>
         <source>This file has changes that are not saved yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier contient des modifications qui ne sont pas encore enregistrées</translation>
     </message>
     <message>
         <source>Changes not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifications non enregistrées</translation>
     </message>
     <message>
         <source>File Property Tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Arborescence des propriétés du fichier</translation>
     </message>
     <message>
         <source>File properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés du fichier</translation>
     </message>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriété</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Current Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Nœud actuel</translation>
     </message>
     <message>
         <source>Name of current file</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du fichier actuel</translation>
     </message>
     <message>
         <source>Tag number</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro de balise</translation>
     </message>
     <message>
         <source>Show as Hex?</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher en hexa&#x202f;?</translation>
     </message>
     <message>
         <source>Translate to hexadecimal code?</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir en code hexadécimal&#x202f;?</translation>
     </message>
     <message>
         <source>Value of property selected in tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur de la propriété sélectionnée dans l’arborescence</translation>
     </message>
     <message>
         <source>Thumbnail</source>
-        <translation type="unfinished"></translation>
+        <translation>Vignette</translation>
     </message>
     <message>
         <source>Values that this property can have, and what they mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs possibles de cette propriété, et leur signification</translation>
     </message>
     <message>
         <source>Known values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs connues</translation>
     </message>
     <message>
         <source>What the value means</source>
-        <translation type="unfinished"></translation>
+        <translation>Signification de la valeur</translation>
     </message>
     <message>
         <source>Data type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de données</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>&amp;Add Node</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter un nœud</translation>
     </message>
     <message>
         <source>Add new node</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un nouveau nœud</translation>
     </message>
     <message>
         <source>&amp;Delete Node</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer le nœud</translation>
     </message>
     <message>
         <source>CAUTION: use at own risk!</source>
-        <translation type="unfinished"></translation>
+        <translation>ATTENTION&#xa0;: à vos risques et périls&#x202f;!</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Options</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Options</translation>
     </message>
     <message>
         <source>&amp;Image</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Image</translation>
     </message>
     <message>
         <source>Save &amp;XML</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en &amp;XML</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>&amp;What Does It Tell?</source>
-        <translation type="unfinished"></translation>
+        <translation>Que ré&amp;vèle la photo&#x202f;?</translation>
     </message>
     <message>
         <source>Lists what the photograph tells of people and places, and deletes what you select.</source>
-        <translation type="unfinished"></translation>
+        <translation>Énumère ce que la photo révèle sur des personnes et des lieux, et supprime ce que vous sélectionnez.</translation>
     </message>
     <message>
         <source>&amp;Generate Report</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Générer un rapport</translation>
     </message>
     <message>
         <source>&amp;Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>Keep Maker Notes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver les notes du fabricant&#x202f;?</translation>
     </message>
     <message>
         <source>Keep Thumbnails?</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver les vignettes&#x202f;?</translation>
     </message>
     <message>
         <source>Keep Non-standard Exif?</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver l’Exif non standard&#x202f;?</translation>
     </message>
     <message>
         <source>Keep Untouched Data?</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver les données non modifiées&#x202f;?</translation>
     </message>
     <message>
         <source>Saving changes only what you edited and leaves the rest of the file as it is. Counts from the next file opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement ne change que ce que vous avez modifié et laisse le reste du fichier tel quel. S’applique à partir du prochain fichier ouvert.</translation>
     </message>
     <message>
         <source>Read Everything?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout lire&#x202f;?</translation>
     </message>
     <message>
         <source>Shows texts in any language and the place, all as it was written. Counts from the next file opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les textes de toutes les langues et le lieu, tels qu’ils ont été écrits. S’applique à partir du prochain fichier ouvert.</translation>
     </message>
     <message>
         <source>Show Technical Data?</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les données techniques&#x202f;?</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir</translation>
     </message>
     <message>
         <source>OS &amp;Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Propriétés du fichier</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Sommaire</translation>
     </message>
 </context>
 <context>
     <name>DataType</name>
     <message>
         <source>Byte</source>
-        <translation type="unfinished"></translation>
+        <translation>Octet</translation>
     </message>
     <message>
         <source>String</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaîne</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier court</translation>
     </message>
     <message>
         <source>Long</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier long</translation>
     </message>
     <message>
         <source>Rational</source>
-        <translation type="unfinished"></translation>
+        <translation>Fraction</translation>
     </message>
     <message>
         <source>Signed Byte</source>
-        <translation type="unfinished"></translation>
+        <translation>Octet signé</translation>
     </message>
     <message>
         <source>Undefined</source>
-        <translation type="unfinished"></translation>
+        <translation>Indéfini</translation>
     </message>
     <message>
         <source>Signed Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier court signé</translation>
     </message>
     <message>
         <source>Signed Long</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier long signé</translation>
     </message>
     <message>
         <source>Signed Rational</source>
-        <translation type="unfinished"></translation>
+        <translation>Fraction signée</translation>
     </message>
     <message>
         <source>Unicode String</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaîne Unicode</translation>
     </message>
     <message>
         <source>Float</source>
-        <translation type="unfinished"></translation>
+        <translation>Flottant simple</translation>
     </message>
     <message>
         <source>Double</source>
-        <translation type="unfinished"></translation>
+        <translation>Flottant double</translation>
     </message>
     <message>
         <source>Directory Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position de répertoire</translation>
     </message>
     <message>
         <source>UTF-8 String</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaîne UTF-8</translation>
     </message>
     <message>
         <source>%1 Required</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, obligatoire</translation>
     </message>
     <message>
         <source>%1 Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, valeur protégée</translation>
     </message>
 </context>
 <context>
     <name>FailureMessages</name>
     <message>
         <source>The report does not cover these files:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces fichiers ne figurent pas dans le rapport&#xa0;:</translation>
     </message>
     <message>
         <source>There is no such file or folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier ou dossier introuvable&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>and %Ln more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>et %Ln autre</numerusform>
+            <numerusform>et %Ln autres</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Other folders that could not be read (%Ln):</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Autre dossier qui n’a pas pu être lu (%Ln)&#xa0;:</numerusform>
+            <numerusform>Autres dossiers qui n’ont pas pu être lus (%Ln)&#xa0;:</numerusform>
         </translation>
     </message>
 </context>
@@ -690,961 +690,965 @@
     <name>HelpContents</name>
     <message>
         <source>Unable to display Help Contents. There is no Help associated with this project.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’afficher le sommaire de l’aide. Aucune aide n’est associée à ce projet.</translation>
     </message>
     <message>
         <source>No program was found that shows web pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun programme permettant d’afficher des pages web n’a été trouvé.</translation>
     </message>
 </context>
 <context>
     <name>LeftOutLine</name>
     <message>
         <source>maker notes</source>
-        <translation type="unfinished"></translation>
+        <translation>notes du fabricant</translation>
     </message>
     <message>
         <source>thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>vignettes</translation>
     </message>
     <message>
         <source>non-standard Exif</source>
-        <translation type="unfinished"></translation>
+        <translation>Exif non standard</translation>
     </message>
     <message>
         <source>what is not shown</source>
-        <translation type="unfinished"></translation>
+        <translation>données non affichées</translation>
     </message>
 </context>
 <context>
     <name>Message</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1<byte value="xd"/>
 %2 : %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1<byte value="xd"/>
+%2&#xa0;: %3</translation>
     </message>
     <message>
         <source>Invalid procedure call or argument</source>
-        <translation type="unfinished"></translation>
+        <translation>Appel ou argument de procédure non valide</translation>
     </message>
     <message>
         <source>Overflow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépassement de capacité</translation>
     </message>
     <message>
         <source>Out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire insuffisante</translation>
     </message>
     <message>
         <source>Type mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Type incompatible</translation>
     </message>
     <message>
         <source>File not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier introuvable</translation>
     </message>
     <message>
         <source>Device I/O error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur d’entrée/sortie du périphérique</translation>
     </message>
     <message>
         <source>Disk full</source>
-        <translation type="unfinished"></translation>
+        <translation>Disque plein</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Permission refusée</translation>
     </message>
     <message>
         <source>Path/File access error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur d’accès au chemin ou au fichier</translation>
     </message>
     <message>
         <source>Path not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin introuvable</translation>
     </message>
     <message>
         <source>Object not set</source>
-        <translation type="unfinished"></translation>
+        <translation>Objet non défini</translation>
     </message>
     <message>
         <source>Unexpected error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur inattendue</translation>
     </message>
     <message>
         <source>It is a folder, not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>C’est un dossier et non un fichier</translation>
     </message>
     <message>
         <source>It is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un dossier</translation>
     </message>
     <message>
         <source>It is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>There is no folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier %1 n’existe pas</translation>
     </message>
     <message>
         <source>Interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Opération interrompue</translation>
     </message>
     <message>
         <source>Not a regular expression: %1: %2 (at character %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Expression régulière non valide&#xa0;: %1&#xa0;: %2 (au caractère %3)</translation>
     </message>
     <message>
         <source>The regular expression runs too long: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’exécution de l’expression régulière est trop longue&#xa0;: %1</translation>
     </message>
     <message>
         <source>The words &quot;%1&quot; cannot be searched for: %2. Characters such as ( * ? have a meaning; put \ before one that stands for itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rechercher les mots «&#xa0;%1&#xa0;»&#xa0;: %2. Des caractères tels que ( * ? ont un sens particulier&#x202f;; placez \ devant celui qui doit être pris tel quel.</translation>
     </message>
     <message>
         <source>File %1<byte value="xd"/>
 Line %2 pos %3 <byte value="xd"/>
 %4<byte value="xd"/>
 %5</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier %1<byte value="xd"/>
+Ligne %2 pos. %3 <byte value="xd"/>
+%4<byte value="xd"/>
+%5</translation>
     </message>
     <message>
         <source>%1 line:%2 pos:%3 src:%4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ligne&#xa0;: %2 pos.&#xa0;: %3 source&#xa0;: %4</translation>
     </message>
     <message>
         <source>Not a valid path: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin non valide&#xa0;: %1</translation>
     </message>
     <message>
         <source>The document type &quot;%1&quot; cannot be loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Le type de document «&#xa0;%1&#xa0;» ne peut pas être chargé</translation>
     </message>
     <message>
         <source>The content does not match the document type</source>
-        <translation type="unfinished"></translation>
+        <translation>Le contenu ne correspond pas au type de document</translation>
     </message>
     <message>
         <source>The entity &quot;%1&quot; is not declared</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entité «&#xa0;%1&#xa0;» n’est pas déclarée</translation>
     </message>
     <message>
         <source>The entity &quot;%1&quot; is outside the document, and is not read</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entité «&#xa0;%1&#xa0;» est extérieure au document et n’est pas lue</translation>
     </message>
     <message>
         <source>The entity cannot be read from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entité ne peut pas être lue à partir de %1</translation>
     </message>
     <message>
         <source>The entities of the document take far more memory than its text</source>
-        <translation type="unfinished"></translation>
+        <translation>Les entités du document occupent bien plus de mémoire que son texte</translation>
     </message>
     <message>
         <source>The document includes another one, which is not read</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document en inclut un autre, qui n’est pas lu</translation>
     </message>
     <message>
         <source>The elements of the document nest too deep</source>
-        <translation type="unfinished"></translation>
+        <translation>Les éléments du document sont imbriqués trop profondément</translation>
     </message>
     <message>
         <source>The style sheet may not read %1, which is not in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>La feuille de style n’a pas le droit de lire %1, qui n’est pas dans son dossier</translation>
     </message>
     <message>
         <source>The style sheet cannot be applied</source>
-        <translation type="unfinished"></translation>
+        <translation>La feuille de style ne peut pas être appliquée</translation>
     </message>
     <message>
         <source>The style sheet takes far more memory than the documents need</source>
-        <translation type="unfinished"></translation>
+        <translation>La feuille de style prend bien plus de mémoire que n’en demandent les documents</translation>
     </message>
     <message>
         <source>%1  file=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  fichier=%2</translation>
     </message>
     <message>
         <source>%2: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%2&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not a JPEG file - hFFD8 expected at start of file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier JPEG – hFFD8 attendu au début du fichier %1</translation>
     </message>
     <message>
         <source>Header seems corrupted - unknown Marker %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>L’en-tête semble endommagé – marqueur inconnu %1 dans %2</translation>
     </message>
     <message>
         <source>No StartOfStream marker found %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun marqueur StartOfStream trouvé dans %1</translation>
     </message>
     <message>
         <source>I don&apos;t know what type of data this node requires - can&apos;t set its value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le type de données que demande ce nœud est inconnu&#xa0;: impossible de définir sa valeur.</translation>
     </message>
     <message>
         <source>The image cannot be shown without this node as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image ne peut pas être affichée sans ce nœud tel qu’il est.</translation>
     </message>
     <message>
         <source>This node is required by others and cannot be deleted by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’autres nœuds ont besoin de celui-ci, qui ne peut pas être supprimé seul.</translation>
     </message>
     <message>
         <source>Only a document that reads everything has this node; rebuilding reads a basic one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seul un document en lecture complète contient ce nœud&#x202f;; la reconstruction lit un document de base.</translation>
     </message>
     <message>
         <source>The tag dictionary has no entry for this node.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dictionnaire des balises n’a pas d’entrée pour ce nœud.</translation>
     </message>
     <message>
         <source>The file does not have this node, and it cannot be created without an entry in the tag dictionary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne contient pas ce nœud, qui ne peut pas être créé sans entrée dans le dictionnaire des balises.</translation>
     </message>
     <message numerus="yes">
         <source>%1 nodes of the file have this path.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 nœud du fichier a ce chemin.</numerusform>
+            <numerusform>%1 nœuds du fichier ont ce chemin.</numerusform>
         </translation>
     </message>
     <message>
         <source>&quot;%1&quot; would be written as &quot;?&quot;: in a basic document, %2 holds Western European texts only.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» serait écrit «&#x202f;?&#xa0;»&#xa0;: dans un document de base, %2 n’accepte que des textes d’Europe occidentale.</translation>
     </message>
     <message>
         <source>Create node failed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la création du nœud %1</translation>
     </message>
     <message>
         <source>A document that reads everything cannot be rebuilt; make one with xml, without --full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un document en lecture complète ne peut pas être reconstruit&#x202f;; créez-en un avec xml, sans --full.</translation>
     </message>
     <message>
         <source>Write to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture dans %1</translation>
     </message>
     <message>
         <source>%1 write failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’écriture de %1</translation>
     </message>
     <message>
         <source>%1 transfer of image from existing file failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: échec du transfert de l’image depuis le fichier existant</translation>
     </message>
     <message>
         <source>Delete old file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Suppression de l’ancien fichier %1</translation>
     </message>
     <message>
         <source>Rename file %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommage du fichier %1 en %2</translation>
     </message>
     <message>
         <source>Another program has moved or replaced the new version</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a déplacé ou remplacé la nouvelle version</translation>
     </message>
     <message>
         <source>%1. The new version is in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. La nouvelle version se trouve dans %2</translation>
     </message>
     <message>
         <source>It is saved, but not known to be on disk. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement est fait, mais son écriture sur le disque n’est pas confirmée. %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be saved in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>La propriété «&#xa0;%1&#xa0;» n’a pas pu être enregistrée dans %2</translation>
     </message>
     <message>
         <source>The text has &quot;]]&gt;&quot;, which could not be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte contient «&#xa0;]]&gt;&#xa0;», qui ne pourrait pas être relu</translation>
     </message>
     <message>
         <source>The text has a control character that could not be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte contient un caractère de contrôle qui ne pourrait pas être relu</translation>
     </message>
     <message>
         <source>The text has elements, which must stand in a CDATA section to be kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte contient des éléments, qui doivent figurer dans une section CDATA pour être conservés</translation>
     </message>
     <message>
         <source>A character between the changed ones could not be read, so it cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un caractère situé entre ceux qui ont été modifiés n’a pas pu être lu et ne peut donc pas être écrit.</translation>
     </message>
     <message>
         <source>The id of an IFD element is not four hexadecimal digits: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’attribut id d’un élément IFD n’est pas formé de quatre chiffres hexadécimaux&#xa0;: %1</translation>
     </message>
     <message>
         <source>The document has more than one IMG element</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document contient plus d’un élément IMG</translation>
     </message>
     <message>
         <source>The file was changed after it was read</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier a été modifié après sa lecture</translation>
     </message>
     <message>
         <source>The file has another picture now, which needs tables that the document does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier contient maintenant une autre image, qui a besoin de tables absentes du document</translation>
     </message>
     <message>
         <source>The new version could not be read back: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La nouvelle version n’a pas pu être relue&#xa0;: %1</translation>
     </message>
     <message>
         <source>Temp file write failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’écriture dans le fichier temporaire</translation>
     </message>
     <message>
         <source>Temp file write integer %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier temporaire&#xa0;: écriture de l’entier court %1</translation>
     </message>
     <message>
         <source>Temp file write long %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier temporaire&#xa0;: écriture de l’entier long %1</translation>
     </message>
     <message>
         <source>Temp file write string</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier temporaire&#xa0;: écriture d’une chaîne</translation>
     </message>
     <message numerus="yes">
         <source>The segment would have %1 bytes, but its length says %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Le segment ferait %1 octet, mais sa longueur indique %2</numerusform>
+            <numerusform>Le segment ferait %1 octets, mais sa longueur indique %2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The value would have %1 bytes instead of %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La valeur ferait %1 octet au lieu de %2</numerusform>
+            <numerusform>La valeur ferait %1 octets au lieu de %2</numerusform>
         </translation>
     </message>
     <message>
         <source>Exif section - calculate data length</source>
-        <translation type="unfinished"></translation>
+        <translation>Section Exif – calcul de la longueur des données</translation>
     </message>
     <message>
         <source>Exif Offset Calculation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec du calcul des positions Exif</translation>
     </message>
     <message>
         <source>Can&apos;t tie up the MakerNote to its entry in the header (!??)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rattacher la MakerNote à son entrée dans l’en-tête (!??)</translation>
     </message>
     <message>
         <source>Exif write failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’écriture des données Exif</translation>
     </message>
     <message>
         <source>Data format %1 error:%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de format de données %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The image cannot be shown without its scan header as the last segment</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image ne peut pas être affichée si son en-tête de balayage n’est pas le dernier segment</translation>
     </message>
     <message>
         <source>The segments of the file do not lead to its image</source>
-        <translation type="unfinished"></translation>
+        <translation>Les segments du fichier ne mènent pas à son image</translation>
     </message>
     <message>
         <source>The segment would be longer than 65,535 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Le segment dépasserait 65&#x202f;535 octets</translation>
     </message>
     <message numerus="yes">
         <source>The Exif segment would be %1 bytes longer than the 65,535 that it has room for; rebuilding (&quot;Keep Untouched Data?&quot; off, --rebuild) may make it shorter</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Le segment Exif dépasserait de %1 octet les 65&#x202f;535 dont il dispose&#x202f;; la reconstruction («&#xa0;Conserver les données non modifiées&#x202f;?&#xa0;» désactivé, --rebuild) peut le raccourcir</numerusform>
+            <numerusform>Le segment Exif dépasserait de %1 octets les 65&#x202f;535 dont il dispose&#x202f;; la reconstruction («&#xa0;Conserver les données non modifiées&#x202f;?&#xa0;» désactivé, --rebuild) peut le raccourcir</numerusform>
         </translation>
     </message>
     <message>
         <source>The Exif directories name the same bytes again and again</source>
-        <translation type="unfinished"></translation>
+        <translation>Les répertoires Exif désignent sans cesse les mêmes octets</translation>
     </message>
     <message>
         <source>The directory could not be read, so that nothing in it can be changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Le répertoire n’a pas pu être lu&#xa0;: rien ne peut y être modifié</translation>
     </message>
     <message>
         <source>The file has one that could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier en contient un qui n’a pas pu être lu</translation>
     </message>
     <message>
         <source>The text of this entry is the place of what it leads to</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte de cette entrée est la position des données auxquelles elle renvoie</translation>
     </message>
     <message>
         <source>A thumbnail in strips cannot be changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Une vignette en bandes ne peut pas être modifiée</translation>
     </message>
     <message>
         <source>Four bytes or fewer would stand where their place is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Quatre octets ou moins se trouveraient là où leur position est attendue</translation>
     </message>
     <message>
         <source>The value is not a run of pairs of hexadecimal digits</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur n’est pas une suite de paires de chiffres hexadécimaux</translation>
     </message>
     <message>
         <source>The value stands outside its entry, and the document shows only where</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur se trouve hors de son entrée, et le document n’indique que sa position</translation>
     </message>
     <message>
         <source>The value has to be four bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>La valeur doit faire quatre octets</translation>
     </message>
     <message>
         <source>Values of this data type cannot be changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs de ce type de données ne peuvent pas être modifiées</translation>
     </message>
     <message>
         <source>The old value is not all in the Exif segment</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ancienne valeur n’est pas entièrement dans le segment Exif</translation>
     </message>
     <message>
         <source>%1 would read %2 instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contiendrait %2 au lieu de %3</translation>
     </message>
     <message>
         <source>%1 would have type %2 and count %3 instead of type %4 and count %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aurait le type %2 et le nombre %3 au lieu du type %4 et du nombre %5</translation>
     </message>
     <message>
         <source>%1 would stand at %2 instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se trouverait à la position %2 au lieu de %3</translation>
     </message>
     <message>
         <source>%1 would be lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 disparaîtrait</translation>
     </message>
     <message>
         <source>%1 would be new</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 apparaîtrait en plus</translation>
     </message>
     <message>
         <source>%1 would not be the same</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne serait plus identique</translation>
     </message>
     <message>
         <source>%1 would have another link to the next directory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aurait un autre lien vers le répertoire suivant</translation>
     </message>
     <message>
         <source>%1 would not have the entries that it should</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’aurait pas les entrées attendues</translation>
     </message>
     <message numerus="yes">
         <source>The file would have %1 segments instead of %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Le fichier aurait %1 segment au lieu de %2</numerusform>
+            <numerusform>Le fichier aurait %1 segments au lieu de %2</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 reads %2 instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 contient %2 au lieu de %3</translation>
     </message>
     <message>
         <source>%1 has type %2 and count %3 instead of type %4 and count %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a le type %2 et le nombre %3 au lieu du type %4 et du nombre %5</translation>
     </message>
     <message>
         <source>%1 stands at %2 instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se trouve à la position %2 au lieu de %3</translation>
     </message>
     <message>
         <source>%1 is lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a disparu</translation>
     </message>
     <message>
         <source>%1 is new</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 apparaît en plus</translation>
     </message>
     <message>
         <source>%1 is not the same</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est plus identique</translation>
     </message>
     <message>
         <source>%1 has another link to the next directory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a un autre lien vers le répertoire suivant</translation>
     </message>
     <message>
         <source>%1 does not have the entries that it should</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas les entrées attendues</translation>
     </message>
     <message numerus="yes">
         <source>The file has %1 segments instead of %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Le fichier a %1 segment au lieu de %2</numerusform>
+            <numerusform>Le fichier a %1 segments au lieu de %2</numerusform>
         </translation>
     </message>
     <message>
         <source>The header of the Exif segment</source>
-        <translation type="unfinished"></translation>
+        <translation>L’en-tête du segment Exif</translation>
     </message>
     <message>
         <source>The Exif segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Le segment Exif</translation>
     </message>
     <message>
         <source>The image at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image en %1</translation>
     </message>
     <message>
         <source>The segment %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le segment %1</translation>
     </message>
     <message>
         <source>The picture, or what follows it,</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image, ou ce qui la suit,</translation>
     </message>
     <message>
         <source>%1 shared bytes with another value, which still has them</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 partageait des octets avec une autre valeur, qui les a toujours</translation>
     </message>
     <message>
         <source>The data after the picture names positions in the file, which are others now</source>
-        <translation type="unfinished"></translation>
+        <translation>Les données qui suivent l’image contiennent des positions dans le fichier, qui ont changé</translation>
     </message>
     <message numerus="yes">
         <source>%1 values changed, %2 unchanged, picture identical.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 valeur modifiée, %2 sans changement, image identique.</numerusform>
+            <numerusform>%1 valeurs modifiées, %2 sans changement, image identique.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1. The original is kept as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. L’original est conservé sous le nom %2</translation>
     </message>
     <message>
         <source>%1. %2 was there already and stays as the original</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2 existait déjà et reste l’original</translation>
     </message>
     <message numerus="yes">
         <source>%1, and %2 more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, et %2 autre</numerusform>
+            <numerusform>%1, et %2 autres</numerusform>
         </translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Localisation</translation>
     </message>
     <message>
         <source>Serial numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéros de série</translation>
     </message>
     <message>
         <source>Names of people</source>
-        <translation type="unfinished"></translation>
+        <translation>Noms de personnes</translation>
     </message>
     <message>
         <source>Copyright notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Mention de copyright</translation>
     </message>
     <message>
         <source>Titles, comments and keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>Titres, commentaires et mots-clés</translation>
     </message>
     <message>
         <source>Unique identifiers</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiants uniques</translation>
     </message>
     <message>
         <source>Maker&apos;s notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes du fabricant</translation>
     </message>
     <message>
         <source>Thumbnail that is not known to show the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Vignette qui ne montre peut-être pas l’image</translation>
     </message>
     <message>
         <source>XMP</source>
-        <translation type="unfinished"></translation>
+        <translation>XMP</translation>
     </message>
     <message>
         <source>IPTC and Photoshop data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données IPTC et Photoshop</translation>
     </message>
     <message>
         <source>Comment segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Segments de commentaire</translation>
     </message>
     <message>
         <source>Other application segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres segments d’application</translation>
     </message>
     <message>
         <source>Exif data that the program does not know</source>
-        <translation type="unfinished"></translation>
+        <translation>Données Exif que le programme ne connaît pas</translation>
     </message>
     <message>
         <source>What follows the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui suit l’image</translation>
     </message>
     <message>
         <source>Unknown tag %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Balise inconnue %1 dans %2</translation>
     </message>
     <message>
         <source>Extended XMP</source>
-        <translation type="unfinished"></translation>
+        <translation>XMP étendu</translation>
     </message>
     <message>
         <source>Photoshop and IPTC block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloc Photoshop et IPTC</translation>
     </message>
     <message>
         <source>Comment: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Commentaire&#xa0;: %1</translation>
     </message>
     <message>
         <source>Application segment %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Segment d’application %1 %2</translation>
     </message>
     <message>
         <source>Preview in the JFIF header</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu dans l’en-tête JFIF</translation>
     </message>
     <message>
         <source>Preview in a JFIF extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu dans une extension JFIF</translation>
     </message>
     <message>
         <source>Index of further pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Index d’autres images</translation>
     </message>
     <message>
         <source>Second Exif segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Second segment Exif</translation>
     </message>
     <message>
         <source>Exif data that cannot be read in full</source>
-        <translation type="unfinished"></translation>
+        <translation>Données Exif qui ne peuvent pas être lues en entier</translation>
     </message>
     <message>
         <source>Bytes in the Exif data that nothing leads to</source>
-        <translation type="unfinished"></translation>
+        <translation>Octets des données Exif auxquels rien ne mène</translation>
     </message>
     <message>
         <source>Directory %1, which is not shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Répertoire %1, qui n’est pas affiché</translation>
     </message>
     <message>
         <source>Thumbnail with other proportions than the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Vignette aux proportions différentes de celles de l’image</translation>
     </message>
     <message>
         <source>Thumbnail that shows something else than the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Vignette qui montre autre chose que l’image</translation>
     </message>
     <message>
         <source>Thumbnail that cannot be compared with the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Vignette qui ne peut pas être comparée à l’image</translation>
     </message>
     <message>
         <source>Another picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Une autre image</translation>
     </message>
     <message>
         <source>A film</source>
-        <translation type="unfinished"></translation>
+        <translation>Une vidéo</translation>
     </message>
     <message>
         <source>Data of an unknown kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Données de nature inconnue</translation>
     </message>
     <message>
         <source>The picture has no end, so nothing can be said about what follows it</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image n’a pas de fin&#xa0;: on ne peut rien dire de ce qui la suit</translation>
     </message>
     <message>
         <source>after the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>après l’image</translation>
     </message>
     <message>
         <source>inside the image data</source>
-        <translation type="unfinished"></translation>
+        <translation>à l’intérieur des données d’image</translation>
     </message>
     <message>
         <source>It stays, because the image data is never changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste en place, car les données d’image ne sont jamais modifiées</translation>
     </message>
     <message>
         <source>It stays, because it cannot be told from the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste en place, car rien ne permet de le distinguer de l’image</translation>
     </message>
     <message>
         <source>It goes only with the whole Exif data</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne disparaît qu’avec toutes les données Exif</translation>
     </message>
     <message numerus="yes">
         <source>%1, %2 bytes, %3</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %2 octet, %3</numerusform>
+            <numerusform>%1, %2 octets, %3</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1, %2 bytes, %3; the program cannot look into it</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1, %2 octet, %3&#x202f;; le programme ne peut pas en lire le contenu</numerusform>
+            <numerusform>%1, %2 octets, %3&#x202f;; le programme ne peut pas en lire le contenu</numerusform>
         </translation>
     </message>
     <message>
         <source>%1. %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2.</translation>
     </message>
     <message>
         <source>Nothing was found that identifies a person or a place</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été trouvé qui permette d’identifier une personne ou un lieu</translation>
     </message>
     <message>
         <source>The picture up to its end</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image jusqu’à sa fin</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>f/%1</source>
-        <translation type="unfinished"></translation>
+        <translation>f/%1</translation>
     </message>
     <message>
         <source>%1 EV</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 IL</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>infinity</source>
-        <translation type="unfinished"></translation>
+        <translation>infini</translation>
     </message>
     <message>
         <source>%1°</source>
-        <translation type="unfinished"></translation>
+        <translation>%1°</translation>
     </message>
     <message>
         <source>%1° %2&apos; %3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1° %2&apos; %3&quot;</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 hPa</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hPa</translation>
     </message>
     <message numerus="yes">
         <source>%1 bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 octet</numerusform>
+            <numerusform>%1 octets</numerusform>
         </translation>
     </message>
     <message>
         <source>The root element is %1, not JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>L’élément racine est %1 et non JPEG</translation>
     </message>
     <message>
         <source>Folder not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier introuvable</translation>
     </message>
     <message>
         <source>No files found with search criteria specified.  Click &apos;Find Files&apos; button to try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier ne correspond aux critères de recherche.  Cliquez sur «&#xa0;Rechercher des fichiers&#xa0;» pour réessayer.</translation>
     </message>
     <message>
         <source>List of files found (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste des fichiers trouvés (%1)</translation>
     </message>
     <message>
         <source>Checking file contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification du contenu des fichiers</translation>
     </message>
     <message numerus="yes">
         <source>%1 files could not be checked. The first: %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 fichier n’a pas pu être vérifié. Le premier&#xa0;: %2</numerusform>
+            <numerusform>%1 fichiers n’ont pas pu être vérifiés. Le premier&#xa0;: %2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>The search ended early, because %1 files could not be checked. The first: %2</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La recherche s’est arrêtée avant la fin, car %1 fichier n’a pas pu être vérifié. Le premier&#xa0;: %2</numerusform>
+            <numerusform>La recherche s’est arrêtée avant la fin, car %1 fichiers n’ont pas pu être vérifiés. Le premier&#xa0;: %2</numerusform>
         </translation>
     </message>
     <message>
         <source>Open File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture du fichier %1</translation>
     </message>
     <message>
         <source>Read File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture du fichier %1</translation>
     </message>
     <message>
         <source>Create file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Création du fichier %1</translation>
     </message>
     <message>
         <source>Write file %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture du fichier %1</translation>
     </message>
     <message>
         <source>Save XML File %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement du fichier XML %1</translation>
     </message>
     <message>
         <source>Internal XML document corrupt</source>
-        <translation type="unfinished"></translation>
+        <translation>Document XML interne corrompu</translation>
     </message>
     <message>
         <source>Transform XML</source>
-        <translation type="unfinished"></translation>
+        <translation>Transformation XML</translation>
     </message>
     <message>
         <source>loadXML</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement du XML</translation>
     </message>
     <message>
         <source>Internal JpegXml document error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur interne du document JpegXml</translation>
     </message>
     <message>
         <source>Invalid picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image non valide</translation>
     </message>
     <message>
         <source>Invalid thumbnail</source>
-        <translation type="unfinished"></translation>
+        <translation>Vignette non valide</translation>
     </message>
     <message>
         <source>Open %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture de %1</translation>
     </message>
     <message>
         <source>No program was found that opens it</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun programme permettant de l’ouvrir n’a été trouvé</translation>
     </message>
 </context>
 <context>
     <name>NodeAddForm</name>
     <message>
         <source>Node Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajout d’un nœud</translation>
     </message>
     <message>
         <source>Select the Node to add to the image</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez le nœud à ajouter à l’image</translation>
     </message>
     <message>
         <source>&amp;Node</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nœud</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Nœud</translation>
     </message>
     <message>
         <source>&amp;Add Node</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter le nœud</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Ann&amp;uler</translation>
     </message>
 </context>
 <context>
     <name>PrivateForm</name>
     <message>
         <source>What Does It Tell?</source>
-        <translation type="unfinished"></translation>
+        <translation>Que révèle la photo&#x202f;?</translation>
     </message>
     <message>
         <source>This is what the &amp;photograph tells of people and places. Select what you want to delete; it is gone from the file when you save.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voici ce que la &amp;photo révèle sur des personnes et des lieux. Sélectionnez ce que vous voulez supprimer&#x202f;; l’enregistrement l’effacera du fichier.</translation>
     </message>
     <message>
         <source>What the photograph tells</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que révèle la photo</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Élément</translation>
     </message>
     <message>
         <source>Bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Octets</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Remarque</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
         <source>&amp;Delete Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer la sélection</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
 </context>
 <context>
     <name>ProgressForm</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>Files done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers traités</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -1652,27 +1656,27 @@ Line %2 pos %3 <byte value="xd"/>
     <message>
         <source>%1.</source>
         <comment>a sentence and its full stop</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>, </source>
         <comment>between the items of a list</comment>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oui</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Non</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -1680,235 +1684,235 @@ Line %2 pos %3 <byte value="xd"/>
     <message>
         <source>en</source>
         <extracomment>The code of the language that you translate into, such as &quot;de&quot; or &quot;zh-CN&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>fr</translation>
     </message>
     <message numerus="yes">
         <source>%n photographs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n photo</numerusform>
+            <numerusform>%n photos</numerusform>
         </translation>
     </message>
     <message>
         <source>Shots</source>
         <extracomment>The photographs that were taken: the title of a table</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Prises de vue</translation>
     </message>
     <message>
         <source>Photograph</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareil</translation>
     </message>
     <message>
         <source>Lens</source>
-        <translation type="unfinished"></translation>
+        <translation>Objectif</translation>
     </message>
     <message>
         <source>Time</source>
         <extracomment>Exposure time</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Aperture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture</translation>
     </message>
     <message>
         <source>ISO</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO</translation>
     </message>
     <message>
         <source>Focal length</source>
-        <translation type="unfinished"></translation>
+        <translation>Focale</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques</translation>
     </message>
     <message>
         <source>Sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>Sensibilité</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mois</translation>
     </message>
     <message>
         <source>not known</source>
         <extracomment>A camera, a focal length, a sensitivity or a month</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>sans indication</translation>
     </message>
 </context>
 <context>
     <name>SlideForm</name>
     <message>
         <source>Slide Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Diaporama</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Détails</translation>
     </message>
 </context>
 <context>
     <name>SlideShowOptionForm</name>
     <message>
         <source>Slide Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Diaporama</translation>
     </message>
     <message>
         <source>Full screen?</source>
-        <translation type="unfinished"></translation>
+        <translation>Plein écran&#x202f;?</translation>
     </message>
     <message>
         <source>Show Slide show full screen or in a window?</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le diaporama en plein écran ou dans une fenêtre&#x202f;?</translation>
     </message>
     <message>
         <source>Resize large images?</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire les grandes images&#x202f;?</translation>
     </message>
     <message>
         <source>Resize large images to fit the slide window?</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire les grandes images à la taille de la fenêtre du diaporama&#x202f;?</translation>
     </message>
     <message>
         <source>Show Details?</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les détails&#x202f;?</translation>
     </message>
     <message>
         <source>Show details fo each file as it displays</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les détails de chaque fichier pendant son affichage</translation>
     </message>
     <message>
         <source>Seconds/Slide</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes/image</translation>
     </message>
     <message>
         <source>Number of seconds to show each  image. Enter 0 (zero) for manual control.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée d’affichage de chaque image, en secondes. Saisissez 0 (zéro) pour avancer à la main.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>ValueLine</name>
     <message>
         <source>Only whole numbers from 0 to 65535 can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls des nombres entiers de 0 à 65535 peuvent être écrits.</translation>
     </message>
     <message>
         <source>Only whole numbers from 0 to 4294967295 can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls des nombres entiers de 0 à 4294967295 peuvent être écrits.</translation>
     </message>
     <message>
         <source>Only numbers such as 2.5 can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls des nombres tels que 2.5, avec un point, peuvent être écrits.</translation>
     </message>
     <message>
         <source>Only whole numbers from -32768 to 32767 can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls des nombres entiers de -32768 à 32767 peuvent être écrits.</translation>
     </message>
     <message>
         <source>Only whole numbers from -2147483648 to 2147483647 can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls des nombres entiers de -2147483648 à 2147483647 peuvent être écrits.</translation>
     </message>
     <message>
         <source>Only fractions such as 1/125, up to 4294967295, can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules des fractions telles que 1/125, jusqu’à 4294967295, peuvent être écrites.</translation>
     </message>
     <message>
         <source>Only fractions such as -1/3, up to 2147483647, can be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules des fractions telles que -1/3, jusqu’à 2147483647, peuvent être écrites.</translation>
     </message>
     <message>
         <source>Cannot be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture impossible&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Shows and edits the metadata of JPEG files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche et modifie les métadonnées des fichiers JPEG.</translation>
     </message>
     <message>
         <source>Photographs to list, and folders of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Photos et dossiers de photos à mettre dans la liste</translation>
     </message>
 </context>
 <context>
     <name>ovisto::AboutForm</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>Made with %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réalisé avec %1.</translation>
     </message>
     <message>
         <source>System: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Système&#xa0;: %1</translation>
     </message>
     <message>
         <source>Kernel: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Noyau&#xa0;: %1 %2</translation>
     </message>
     <message>
         <source>Computer: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordinateur&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>Processor: %1, %Ln cores</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Processeur&#xa0;: %1, %Ln cœur</numerusform>
+            <numerusform>Processeur&#xa0;: %1, %Ln cœurs</numerusform>
         </translation>
     </message>
     <message>
         <source>Window system: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Système de fenêtrage&#xa0;: %1</translation>
     </message>
     <message>
         <source>Screen: %1 x %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Écran&#xa0;: %1 × %2</translation>
     </message>
 </context>
 <context>
     <name>ovisto::AwakeScreen</name>
     <message>
         <source>A slide show is running</source>
-        <translation type="unfinished"></translation>
+        <translation>Un diaporama est en cours</translation>
     </message>
 </context>
 <context>
     <name>ovisto::BatchForm</name>
     <message numerus="yes">
         <source>The list has %Ln files.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La liste contient %Ln fichier.</numerusform>
+            <numerusform>La liste contient %Ln fichiers.</numerusform>
         </translation>
     </message>
 </context>
@@ -1916,78 +1920,83 @@ Line %2 pos %3 <byte value="xd"/>
     <name>ovisto::BatchResults</name>
     <message>
         <source>failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>échec&#xa0;: %1</translation>
     </message>
     <message>
         <source>not reached</source>
-        <translation type="unfinished"></translation>
+        <translation>non traité</translation>
     </message>
     <message>
         <source>unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>inchangé</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>modifié</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
 </context>
 <context>
     <name>ovisto::ControlForm</name>
     <message>
         <source>Goes with &quot;Keep Untouched Data?&quot;: what is written anew is read in the basic way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Va de pair avec «&#xa0;Conserver les données non modifiées&#x202f;?&#xa0;»&#xa0;: ce qui est réécrit est lu en mode de base.</translation>
     </message>
 </context>
 <context>
     <name>ovisto::Editor</name>
     <message>
         <source>Metadata saved as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Métadonnées enregistrées sous %1</translation>
     </message>
     <message>
         <source>All previous edits have been ignored, except for<byte value="xd"/>
 nodes removed according to the Options menu.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les modifications précédentes ont été ignorées, sauf<byte value="xd"/>
+la suppression de nœuds demandée par le menu Options.</translation>
     </message>
     <message>
         <source>Everything has to be read first. Switch on &quot;Keep Untouched Data?&quot; and<byte value="xd"/>
 &quot;Read Everything?&quot; in the Options menu, and open the file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il faut d’abord tout lire. Activez «&#xa0;Conserver les données non modifiées&#x202f;?&#xa0;» et<byte value="xd"/>
+«&#xa0;Tout lire&#x202f;?&#xa0;» dans le menu Options, puis rouvrez le fichier.</translation>
     </message>
     <message>
         <source>Save Changes to file %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les modifications du fichier %1&#x202f;?</translation>
     </message>
     <message>
         <source>Another program changed the file %1 after it was opened here.<byte value="xd"/>
 <byte value="xd"/>
 Save Over It: the file gets all values as they are shown here.<byte value="xd"/>
 Read It Again: what you changed here is given up, and the file is shown as it is now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié le fichier %1 depuis son ouverture ici.<byte value="xd"/>
+<byte value="xd"/>
+Enregistrer quand même&#xa0;: le fichier reçoit toutes les valeurs affichées ici.<byte value="xd"/>
+Relire&#xa0;: vos modifications sont abandonnées, et le fichier est affiché tel qu’il est maintenant.</translation>
     </message>
     <message>
         <source>&amp;Save Over It</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer quand même</translation>
     </message>
     <message>
         <source>&amp;Read It Again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Relire</translation>
     </message>
     <message>
         <source>%1 saved: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistré&#xa0;: %2</translation>
     </message>
     <message>
         <source>Lost, as &quot;Keep Untouched Data?&quot; is off: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pertes, car «&#xa0;Conserver les données non modifiées&#x202f;?&#xa0;» est désactivé&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1995,46 +2004,47 @@ Read It Again: what you changed here is given up, and the file is shown as it is
     <message>
         <source>The folder %1 is not there. Nothing was removed from the list.<byte value="xd"/>
 Check that the disk or card is connected, and click the photograph again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier %1 n’est pas là. Rien n’a été retiré de la liste.<byte value="xd"/>
+Vérifiez que le disque ou la carte est en place, puis cliquez de nouveau sur la photo.</translation>
     </message>
 </context>
 <context>
     <name>ovisto::KeywordPane</name>
     <message>
         <source>*.TXT (*.TXT *.txt);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>*.TXT (*.TXT *.txt);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
     <name>ovisto::LeftOutLine</name>
     <message>
         <source>Saving leaves out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement laisse de côté&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>ovisto::ListActions</name>
     <message numerus="yes">
         <source>Lost something in %L1 of %Ln files, as &quot;Keep Untouched Data?&quot; is off. The originals are kept as NAME.original.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Pertes dans %L1 fichier sur %Ln, car «&#xa0;Conserver les données non modifiées&#x202f;?&#xa0;» est désactivé. Les originaux sont conservés sous NOM.original.</numerusform>
+            <numerusform>Pertes dans %L1 des %Ln fichiers, car «&#xa0;Conserver les données non modifiées&#x202f;?&#xa0;» est désactivé. Les originaux sont conservés sous NOM.original.</numerusform>
         </translation>
     </message>
     <message>
         <source>Open Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un rapport</translation>
     </message>
     <message>
         <source>XSL (*.xsl *.XSL);;All Files (*.*) (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>XSL (*.xsl *.XSL);;Tous les fichiers (*.*) (*)</translation>
     </message>
 </context>
 <context>
     <name>ovisto::PictureBox</name>
     <message>
         <source>This file cannot be shown as a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier ne peut pas être affiché sous forme d’image.</translation>
     </message>
 </context>
 <context>
@@ -2042,84 +2052,84 @@ Check that the disk or card is connected, and click the photograph again.</sourc
     <message>
         <source>%1 – %2</source>
         <comment>kind, what was found</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>Ovisto cannot look into it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ovisto ne peut pas en lire le contenu.</translation>
     </message>
 </context>
 <context>
     <name>ovisto::PropertyPane</name>
     <message>
         <source>No properties to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune propriété à afficher.</translation>
     </message>
     <message>
         <source>Unexpected error - Node &apos;%1&apos; not found. Please reload the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur inattendue – nœud «&#xa0;%1&#xa0;» introuvable. Veuillez rouvrir le fichier.</translation>
     </message>
     <message>
         <source>Click on a node in the property NodeTree to select a value first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez d’abord sur un nœud de l’arborescence des propriétés pour sélectionner une valeur.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>ovisto::PropertySheet</name>
     <message>
         <source>Properties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés de %1</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier&#xa0;:</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Type&#xa0;:</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>%1 bytes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 octet</numerusform>
+            <numerusform>%1 octets</numerusform>
         </translation>
     </message>
     <message>
         <source>Changed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifié&#xa0;:</translation>
     </message>
     <message>
         <source>Last read:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière lecture&#xa0;:</translation>
     </message>
     <message>
         <source>Owner:</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétaire&#xa0;:</translation>
     </message>
     <message>
         <source>Access:</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès&#xa0;:</translation>
     </message>
     <message>
         <source>Can be read and changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture et modification</translation>
     </message>
     <message>
         <source>Can be read only</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture seule</translation>
     </message>
 </context>
 <context>
@@ -2128,19 +2138,21 @@ Check that the disk or card is connected, and click the photograph again.</sourc
         <source>Press ESC or click the image to exit show,<byte value="xd"/>
 left/right arrow to skip slides,<byte value="xd"/>
 space to pause/unpause.</source>
-        <translation type="unfinished"></translation>
+        <translation>Échap ou clic sur l’image&#xa0;: quitter le diaporama,<byte value="xd"/>
+flèche gauche ou droite&#xa0;: changer d’image,<byte value="xd"/>
+espace&#xa0;: mettre en pause ou reprendre.</translation>
     </message>
     <message>
         <source>The picture ends early: part of the file is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image s’arrête avant la fin&#xa0;: il manque une partie du fichier.</translation>
     </message>
     <message>
         <source>%1 (paused)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (en pause)</translation>
     </message>
     <message>
         <source>Slide Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Diaporama</translation>
     </message>
 </context>
 </TS>
