@@ -27,6 +27,22 @@
         <source>&amp;Close</source>
         <translation>S&amp;chließen</translation>
     </message>
+    <message>
+        <source>Version of the program</source>
+        <translation>Version des Programms</translation>
+    </message>
+    <message>
+        <source>Libraries that the program is made with</source>
+        <translation>Bibliotheken, aus denen das Programm besteht</translation>
+    </message>
+    <message>
+        <source>What is known about this computer</source>
+        <translation>Was über diesen Computer bekannt ist</translation>
+    </message>
+    <message>
+        <source>Closes this window</source>
+        <translation>Schließt dieses Fenster</translation>
+    </message>
 </context>
 <context>
     <name>Advice</name>
@@ -105,6 +121,30 @@
         <source>&amp;Cancel</source>
         <translation>A&amp;bbrechen</translation>
     </message>
+    <message>
+        <source>The property to change in all photographs of the list</source>
+        <translation>Die Eigenschaft, die in allen Fotos der Liste geändert wird</translation>
+    </message>
+    <message>
+        <source>Gives the property the value below, in every photograph</source>
+        <translation>Gibt der Eigenschaft in jedem Foto den Wert, der unten steht</translation>
+    </message>
+    <message>
+        <source>The value that the property gets</source>
+        <translation>Der Wert, den die Eigenschaft bekommt</translation>
+    </message>
+    <message>
+        <source>Deletes the property from every photograph</source>
+        <translation>Löscht die Eigenschaft aus jedem Foto</translation>
+    </message>
+    <message>
+        <source>Changes all photographs of the list</source>
+        <translation>Ändert alle Fotos der Liste</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and changes nothing</source>
+        <translation>Schließt den Dialog, ohne etwas zu ändern</translation>
+    </message>
 </context>
 <context>
     <name>BatchResultForm</name>
@@ -123,6 +163,18 @@
     <message>
         <source>&amp;Close</source>
         <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>What became of each photograph</source>
+        <translation>Was aus jedem Foto geworden ist</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and takes all other photographs out of the list</source>
+        <translation>Schließt den Dialog und nimmt alle anderen Fotos aus der Liste</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and leaves the list as it is</source>
+        <translation>Schließt den Dialog und lässt die Liste, wie sie ist</translation>
     </message>
 </context>
 <context>
@@ -285,6 +337,26 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>To begin, choose the folder of your photographs. Nothing is searched before you press Select Folder.</source>
+        <translation>Wählen Sie zuerst den Ordner mit Ihren Fotos. Gesucht wird erst, wenn Sie „Ordner auswählen“ drücken.</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>&amp;Zuletzt</translation>
+    </message>
+    <message>
+        <source>Folders searched lately</source>
+        <translation>Zuletzt durchsuchte Ordner</translation>
+    </message>
+    <message>
+        <source>Searches the folder</source>
+        <translation>Durchsucht den Ordner</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and changes nothing</source>
+        <translation>Schließt den Dialog, ohne etwas zu ändern</translation>
     </message>
 </context>
 <context>
@@ -589,6 +661,74 @@
         <source>Contents</source>
         <translation>Inhalt</translation>
     </message>
+    <message>
+        <source>Photographs and keywords</source>
+        <translation>Fotos und Stichwörter</translation>
+    </message>
+    <message>
+        <source>Photographs</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Arrow keys open the photograph above or below</source>
+        <translation>Die Pfeiltasten öffnen das Foto darüber oder darunter</translation>
+    </message>
+    <message>
+        <source>Enter inserts the keyword</source>
+        <translation>Die Eingabetaste fügt das Stichwort ein</translation>
+    </message>
+    <message>
+        <source>Picture and its descriptions</source>
+        <translation>Bild und seine Beschreibungen</translation>
+    </message>
+    <message>
+        <source>Title of the photograph, as the desktop shows it</source>
+        <translation>Titel des Fotos, wie ihn der Desktop anzeigt</translation>
+    </message>
+    <message>
+        <source>Comments on the photograph, as the desktop shows them</source>
+        <translation>Kommentare zum Foto, wie sie der Desktop anzeigt</translation>
+    </message>
+    <message>
+        <source>Subject of the photograph, as the desktop shows it</source>
+        <translation>Thema des Fotos, wie es der Desktop anzeigt</translation>
+    </message>
+    <message>
+        <source>Keywords of the photograph, as the desktop shows them</source>
+        <translation>Stichwörter des Fotos, wie sie der Desktop anzeigt</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Property tree</source>
+        <translation>Eigenschaftenbaum</translation>
+    </message>
+    <message>
+        <source>F2 edits the value, Delete deletes the property</source>
+        <translation>F2 bearbeitet den Wert, Entf löscht die Eigenschaft</translation>
+    </message>
+    <message>
+        <source>What the selected property is for</source>
+        <translation>Wozu die ausgewählte Eigenschaft dient</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Folders</source>
+        <translation>Zu&amp;letzt durchsuchte Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Find Files</source>
+        <translation>Dateien s&amp;uchen</translation>
+    </message>
+    <message>
+        <source>Find W&amp;ords</source>
+        <translation>Wö&amp;rter suchen</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>&amp;Neu einlesen</translation>
+    </message>
 </context>
 <context>
     <name>DataType</name>
@@ -684,6 +824,17 @@
             <numerusform>Weitere Ordner, die nicht gelesen werden konnten (%Ln):</numerusform>
             <numerusform>Weitere Ordner, die nicht gelesen werden konnten (%Ln):</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>GapKeys</name>
+    <message>
+        <source>Width: %1</source>
+        <translation>Breite: %1</translation>
+    </message>
+    <message>
+        <source>Height: %1</source>
+        <translation>Höhe: %1</translation>
     </message>
 </context>
 <context>
@@ -1592,6 +1743,18 @@ Zeile %2, Position %3 <byte value="xd"/>
         <source>&amp;Cancel</source>
         <translation>A&amp;bbrechen</translation>
     </message>
+    <message>
+        <source>The property to add</source>
+        <translation>Die Eigenschaft, die hinzukommt</translation>
+    </message>
+    <message>
+        <source>Adds the selected property to the photograph</source>
+        <translation>Fügt dem Foto die ausgewählte Eigenschaft hinzu</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and adds nothing</source>
+        <translation>Schließt den Dialog, ohne etwas hinzuzufügen</translation>
+    </message>
 </context>
 <context>
     <name>PrivateForm</name>
@@ -1635,6 +1798,22 @@ Zeile %2, Position %3 <byte value="xd"/>
         <source>&amp;Close</source>
         <translation>S&amp;chließen</translation>
     </message>
+    <message>
+        <source>The space bar ticks what is to be deleted</source>
+        <translation>Die Leertaste markiert, was gelöscht werden soll</translation>
+    </message>
+    <message>
+        <source>Ticks everything that can be deleted</source>
+        <translation>Markiert alles, was gelöscht werden kann</translation>
+    </message>
+    <message>
+        <source>Deletes what is ticked; it is gone from the file when you save</source>
+        <translation>Löscht, was markiert ist; aus der Datei verschwindet es beim Speichern</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and deletes nothing</source>
+        <translation>Schließt den Dialog, ohne etwas zu löschen</translation>
+    </message>
 </context>
 <context>
     <name>ProgressForm</name>
@@ -1649,6 +1828,10 @@ Zeile %2, Position %3 <byte value="xd"/>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stops before the next file; what is done stays done</source>
+        <translation>Hält vor der nächsten Datei an; was erledigt ist, bleibt erledigt</translation>
     </message>
 </context>
 <context>
@@ -1813,6 +1996,14 @@ Zeile %2, Position %3 <byte value="xd"/>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Starts the slide show</source>
+        <translation>Startet die Diashow</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and starts no show</source>
+        <translation>Schließt den Dialog, ohne die Diashow zu starten</translation>
     </message>
 </context>
 <context>
@@ -2009,6 +2200,13 @@ Prüfen Sie, ob der Datenträger oder die Speicherkarte angeschlossen ist, und k
     </message>
 </context>
 <context>
+    <name>ovisto::GapMark</name>
+    <message>
+        <source>Arrow keys move the gap, F8 goes to the next one, Esc goes back</source>
+        <translation>Die Pfeiltasten verschieben die Trennlinie, F8 geht zur nächsten, Esc geht zurück</translation>
+    </message>
+</context>
+<context>
     <name>ovisto::KeywordPane</name>
     <message>
         <source>*.TXT (*.TXT *.txt);;All Files (*)</source>
@@ -2020,6 +2218,10 @@ Prüfen Sie, ob der Datenträger oder die Speicherkarte angeschlossen ist, und k
     <message>
         <source>Saving leaves out: %1</source>
         <translation>Beim Speichern entfallen: %1</translation>
+    </message>
+    <message>
+        <source>Enter opens the menu at the option</source>
+        <translation>Die Eingabetaste öffnet das Menü bei der Option</translation>
     </message>
 </context>
 <context>
@@ -2077,6 +2279,14 @@ Prüfen Sie, ob der Datenträger oder die Speicherkarte angeschlossen ist, und k
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>Delete %1 and all that belongs to it?</source>
+        <translation>%1 und alles, was dazugehört, löschen?</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
 </context>
 <context>
     <name>ovisto::PropertySheet</name>
@@ -2130,6 +2340,21 @@ Prüfen Sie, ob der Datenträger oder die Speicherkarte angeschlossen ist, und k
     <message>
         <source>Can be read only</source>
         <translation>Kann nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>Closes this window</source>
+        <translation>Schließt dieses Fenster</translation>
+    </message>
+</context>
+<context>
+    <name>ovisto::RecentMenu</name>
+    <message>
+        <source>No folder was searched yet</source>
+        <translation>Noch wurde kein Ordner durchsucht</translation>
+    </message>
+    <message>
+        <source>&amp;Clear This List</source>
+        <translation>Liste &amp;leeren</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,22 @@
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
     </message>
+    <message>
+        <source>Version of the program</source>
+        <translation>Version du programme</translation>
+    </message>
+    <message>
+        <source>Libraries that the program is made with</source>
+        <translation>Bibliothèques dont le programme est fait</translation>
+    </message>
+    <message>
+        <source>What is known about this computer</source>
+        <translation>Ce que l’on sait de cet ordinateur</translation>
+    </message>
+    <message>
+        <source>Closes this window</source>
+        <translation>Ferme cette fenêtre</translation>
+    </message>
 </context>
 <context>
     <name>Advice</name>
@@ -105,6 +121,30 @@
         <source>&amp;Cancel</source>
         <translation>Ann&amp;uler</translation>
     </message>
+    <message>
+        <source>The property to change in all photographs of the list</source>
+        <translation>La propriété à modifier dans toutes les photos de la liste</translation>
+    </message>
+    <message>
+        <source>Gives the property the value below, in every photograph</source>
+        <translation>Donne à la propriété la valeur ci-dessous, dans chaque photo</translation>
+    </message>
+    <message>
+        <source>The value that the property gets</source>
+        <translation>La valeur que reçoit la propriété</translation>
+    </message>
+    <message>
+        <source>Deletes the property from every photograph</source>
+        <translation>Supprime la propriété de chaque photo</translation>
+    </message>
+    <message>
+        <source>Changes all photographs of the list</source>
+        <translation>Modifie toutes les photos de la liste</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and changes nothing</source>
+        <translation>Ferme la fenêtre sans rien modifier</translation>
+    </message>
 </context>
 <context>
     <name>BatchResultForm</name>
@@ -123,6 +163,18 @@
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>What became of each photograph</source>
+        <translation>Ce qu’il est advenu de chaque photo</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and takes all other photographs out of the list</source>
+        <translation>Ferme la fenêtre et retire toutes les autres photos de la liste</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and leaves the list as it is</source>
+        <translation>Ferme la fenêtre et laisse la liste telle quelle</translation>
     </message>
 </context>
 <context>
@@ -276,7 +328,7 @@
     </message>
     <message>
         <source>Also look for the text above in the values as the property tree shows them, such as &quot;turned right&quot;</source>
-        <translation>Rechercher aussi le texte ci-dessus dans les valeurs telles que l’arborescence des propriétés les affiche, par exemple «&#xa0;tournée vers la droite&#xa0;»</translation>
+        <translation>Rechercher aussi le texte ci-dessus dans les valeurs telles que l’arborescence des propriétés les affiche, par exemple «&#xa0;turned right&#xa0;»</translation>
     </message>
     <message>
         <source>&amp;Select Folder</source>
@@ -285,6 +337,26 @@
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>To begin, choose the folder of your photographs. Nothing is searched before you press Select Folder.</source>
+        <translation>Pour commencer, choisissez le dossier de vos photos. Aucune recherche n’a lieu avant que vous n’appuyiez sur « Sélectionner le dossier ».</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>&amp;Récents</translation>
+    </message>
+    <message>
+        <source>Folders searched lately</source>
+        <translation>Dossiers parcourus récemment</translation>
+    </message>
+    <message>
+        <source>Searches the folder</source>
+        <translation>Lance la recherche dans le dossier</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and changes nothing</source>
+        <translation>Ferme la fenêtre sans rien modifier</translation>
     </message>
 </context>
 <context>
@@ -589,6 +661,74 @@
         <source>Contents</source>
         <translation>Sommaire</translation>
     </message>
+    <message>
+        <source>Photographs and keywords</source>
+        <translation>Photos et mots-clés</translation>
+    </message>
+    <message>
+        <source>Photographs</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Arrow keys open the photograph above or below</source>
+        <translation>Les touches fléchées ouvrent la photo précédente ou suivante</translation>
+    </message>
+    <message>
+        <source>Enter inserts the keyword</source>
+        <translation>Entrée insère le mot-clé</translation>
+    </message>
+    <message>
+        <source>Picture and its descriptions</source>
+        <translation>Image et ses descriptions</translation>
+    </message>
+    <message>
+        <source>Title of the photograph, as the desktop shows it</source>
+        <translation>Titre de la photo, tel que le bureau l’affiche</translation>
+    </message>
+    <message>
+        <source>Comments on the photograph, as the desktop shows them</source>
+        <translation>Commentaires sur la photo, tels que le bureau les affiche</translation>
+    </message>
+    <message>
+        <source>Subject of the photograph, as the desktop shows it</source>
+        <translation>Sujet de la photo, tel que le bureau l’affiche</translation>
+    </message>
+    <message>
+        <source>Keywords of the photograph, as the desktop shows them</source>
+        <translation>Mots-clés de la photo, tels que le bureau les affiche</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message>
+        <source>Property tree</source>
+        <translation>Arborescence des propriétés</translation>
+    </message>
+    <message>
+        <source>F2 edits the value, Delete deletes the property</source>
+        <translation>F2 modifie la valeur, Suppr supprime la propriété</translation>
+    </message>
+    <message>
+        <source>What the selected property is for</source>
+        <translation>À quoi sert la propriété sélectionnée</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Folders</source>
+        <translation>Dossiers ré&amp;cents</translation>
+    </message>
+    <message>
+        <source>&amp;Find Files</source>
+        <translation>Rechercher des &amp;fichiers</translation>
+    </message>
+    <message>
+        <source>Find W&amp;ords</source>
+        <translation>Rechercher des &amp;mots</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>Re&amp;lire</translation>
+    </message>
 </context>
 <context>
     <name>DataType</name>
@@ -684,6 +824,17 @@
             <numerusform>Autre dossier qui n’a pas pu être lu (%Ln)&#xa0;:</numerusform>
             <numerusform>Autres dossiers qui n’ont pas pu être lus (%Ln)&#xa0;:</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>GapKeys</name>
+    <message>
+        <source>Width: %1</source>
+        <translation>Largeur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Height: %1</source>
+        <translation>Hauteur&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1592,6 +1743,18 @@ Ligne %2 pos. %3 <byte value="xd"/>
         <source>&amp;Cancel</source>
         <translation>Ann&amp;uler</translation>
     </message>
+    <message>
+        <source>The property to add</source>
+        <translation>La propriété à ajouter</translation>
+    </message>
+    <message>
+        <source>Adds the selected property to the photograph</source>
+        <translation>Ajoute à la photo la propriété sélectionnée</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and adds nothing</source>
+        <translation>Ferme la fenêtre sans rien ajouter</translation>
+    </message>
 </context>
 <context>
     <name>PrivateForm</name>
@@ -1635,6 +1798,22 @@ Ligne %2 pos. %3 <byte value="xd"/>
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
     </message>
+    <message>
+        <source>The space bar ticks what is to be deleted</source>
+        <translation>La barre d’espace coche ce qui doit être supprimé</translation>
+    </message>
+    <message>
+        <source>Ticks everything that can be deleted</source>
+        <translation>Coche tout ce qui peut être supprimé</translation>
+    </message>
+    <message>
+        <source>Deletes what is ticked; it is gone from the file when you save</source>
+        <translation>Supprime ce qui est coché&#x202f;; le fichier le perd quand vous l’enregistrez</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and deletes nothing</source>
+        <translation>Ferme la fenêtre sans rien supprimer</translation>
+    </message>
 </context>
 <context>
     <name>ProgressForm</name>
@@ -1649,6 +1828,10 @@ Ligne %2 pos. %3 <byte value="xd"/>
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Stops before the next file; what is done stays done</source>
+        <translation>S’arrête avant le fichier suivant&#x202f;; ce qui est fait reste fait</translation>
     </message>
 </context>
 <context>
@@ -1813,6 +1996,14 @@ Ligne %2 pos. %3 <byte value="xd"/>
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Starts the slide show</source>
+        <translation>Lance le diaporama</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and starts no show</source>
+        <translation>Ferme la fenêtre sans lancer le diaporama</translation>
     </message>
 </context>
 <context>
@@ -2009,6 +2200,13 @@ Vérifiez que le disque ou la carte est en place, puis cliquez de nouveau sur la
     </message>
 </context>
 <context>
+    <name>ovisto::GapMark</name>
+    <message>
+        <source>Arrow keys move the gap, F8 goes to the next one, Esc goes back</source>
+        <translation>Les touches fléchées déplacent la séparation, F8 passe à la suivante, Échap revient</translation>
+    </message>
+</context>
+<context>
     <name>ovisto::KeywordPane</name>
     <message>
         <source>*.TXT (*.TXT *.txt);;All Files (*)</source>
@@ -2020,6 +2218,10 @@ Vérifiez que le disque ou la carte est en place, puis cliquez de nouveau sur la
     <message>
         <source>Saving leaves out: %1</source>
         <translation>L’enregistrement laisse de côté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Enter opens the menu at the option</source>
+        <translation>Entrée ouvre le menu à cette option</translation>
     </message>
 </context>
 <context>
@@ -2077,6 +2279,14 @@ Vérifiez que le disque ou la carte est en place, puis cliquez de nouveau sur la
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>Delete %1 and all that belongs to it?</source>
+        <translation>Supprimer %1 et tout ce qui en dépend&#x202f;?</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
 </context>
 <context>
     <name>ovisto::PropertySheet</name>
@@ -2130,6 +2340,21 @@ Vérifiez que le disque ou la carte est en place, puis cliquez de nouveau sur la
     <message>
         <source>Can be read only</source>
         <translation>Lecture seule</translation>
+    </message>
+    <message>
+        <source>Closes this window</source>
+        <translation>Ferme cette fenêtre</translation>
+    </message>
+</context>
+<context>
+    <name>ovisto::RecentMenu</name>
+    <message>
+        <source>No folder was searched yet</source>
+        <translation>Aucun dossier n’a encore été parcouru</translation>
+    </message>
+    <message>
+        <source>&amp;Clear This List</source>
+        <translation>&amp;Effacer cette liste</translation>
     </message>
 </context>
 <context>

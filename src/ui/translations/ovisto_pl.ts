@@ -27,6 +27,22 @@
         <source>&amp;Close</source>
         <translation>&amp;Zamknij</translation>
     </message>
+    <message>
+        <source>Version of the program</source>
+        <translation>Wersja programu</translation>
+    </message>
+    <message>
+        <source>Libraries that the program is made with</source>
+        <translation>Biblioteki, z których zbudowano program</translation>
+    </message>
+    <message>
+        <source>What is known about this computer</source>
+        <translation>Co wiadomo o tym komputerze</translation>
+    </message>
+    <message>
+        <source>Closes this window</source>
+        <translation>Zamyka to okno</translation>
+    </message>
 </context>
 <context>
     <name>Advice</name>
@@ -105,6 +121,30 @@
         <source>&amp;Cancel</source>
         <translation>&amp;Anuluj</translation>
     </message>
+    <message>
+        <source>The property to change in all photographs of the list</source>
+        <translation>Właściwość, która zmieni się we wszystkich zdjęciach z listy</translation>
+    </message>
+    <message>
+        <source>Gives the property the value below, in every photograph</source>
+        <translation>Nadaje właściwości w każdym zdjęciu wartość podaną niżej</translation>
+    </message>
+    <message>
+        <source>The value that the property gets</source>
+        <translation>Wartość, którą otrzyma właściwość</translation>
+    </message>
+    <message>
+        <source>Deletes the property from every photograph</source>
+        <translation>Usuwa właściwość z każdego zdjęcia</translation>
+    </message>
+    <message>
+        <source>Changes all photographs of the list</source>
+        <translation>Zmienia wszystkie zdjęcia z listy</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and changes nothing</source>
+        <translation>Zamyka okno i niczego nie zmienia</translation>
+    </message>
 </context>
 <context>
     <name>BatchResultForm</name>
@@ -123,6 +163,18 @@
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Zamknij</translation>
+    </message>
+    <message>
+        <source>What became of each photograph</source>
+        <translation>Co się stało z każdym zdjęciem</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and takes all other photographs out of the list</source>
+        <translation>Zamyka okno i usuwa z listy wszystkie pozostałe zdjęcia</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and leaves the list as it is</source>
+        <translation>Zamyka okno i pozostawia listę bez zmian</translation>
     </message>
 </context>
 <context>
@@ -280,7 +332,7 @@
     </message>
     <message>
         <source>Also look for the text above in the values as the property tree shows them, such as &quot;turned right&quot;</source>
-        <translation>Szukaj powyższego tekstu także w wartościach takich, jakie pokazuje drzewo właściwości, np. „obrócone w prawo”</translation>
+        <translation>Szukaj powyższego tekstu także w wartościach takich, jakie pokazuje drzewo właściwości, np. „turned right”</translation>
     </message>
     <message>
         <source>&amp;Select Folder</source>
@@ -289,6 +341,26 @@
     <message>
         <source>Cancel</source>
         <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>To begin, choose the folder of your photographs. Nothing is searched before you press Select Folder.</source>
+        <translation>Na początek wybierz folder ze swoimi zdjęciami. Przeszukiwanie zacznie się dopiero po naciśnięciu „Wybierz folder”.</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>&amp;Ostatnie</translation>
+    </message>
+    <message>
+        <source>Folders searched lately</source>
+        <translation>Ostatnio przeszukiwane foldery</translation>
+    </message>
+    <message>
+        <source>Searches the folder</source>
+        <translation>Przeszukuje folder</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and changes nothing</source>
+        <translation>Zamyka okno i niczego nie zmienia</translation>
     </message>
 </context>
 <context>
@@ -593,6 +665,74 @@
         <source>Contents</source>
         <translation>Spis treści</translation>
     </message>
+    <message>
+        <source>Photographs and keywords</source>
+        <translation>Zdjęcia i słowa kluczowe</translation>
+    </message>
+    <message>
+        <source>Photographs</source>
+        <translation>Zdjęcia</translation>
+    </message>
+    <message>
+        <source>Arrow keys open the photograph above or below</source>
+        <translation>Klawisze strzałek otwierają zdjęcie powyżej lub poniżej</translation>
+    </message>
+    <message>
+        <source>Enter inserts the keyword</source>
+        <translation>Enter wstawia słowo kluczowe</translation>
+    </message>
+    <message>
+        <source>Picture and its descriptions</source>
+        <translation>Obraz i jego opisy</translation>
+    </message>
+    <message>
+        <source>Title of the photograph, as the desktop shows it</source>
+        <translation>Tytuł zdjęcia, jaki pokazuje pulpit</translation>
+    </message>
+    <message>
+        <source>Comments on the photograph, as the desktop shows them</source>
+        <translation>Komentarze do zdjęcia, jakie pokazuje pulpit</translation>
+    </message>
+    <message>
+        <source>Subject of the photograph, as the desktop shows it</source>
+        <translation>Temat zdjęcia, jaki pokazuje pulpit</translation>
+    </message>
+    <message>
+        <source>Keywords of the photograph, as the desktop shows them</source>
+        <translation>Słowa kluczowe zdjęcia, jakie pokazuje pulpit</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Właściwości</translation>
+    </message>
+    <message>
+        <source>Property tree</source>
+        <translation>Drzewo właściwości</translation>
+    </message>
+    <message>
+        <source>F2 edits the value, Delete deletes the property</source>
+        <translation>F2 edytuje wartość, Delete usuwa właściwość</translation>
+    </message>
+    <message>
+        <source>What the selected property is for</source>
+        <translation>Do czego służy zaznaczona właściwość</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Folders</source>
+        <translation>Ost&amp;atnie foldery</translation>
+    </message>
+    <message>
+        <source>&amp;Find Files</source>
+        <translation>&amp;Znajdź pliki</translation>
+    </message>
+    <message>
+        <source>Find W&amp;ords</source>
+        <translation>Znajdź sł&amp;owa</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>Wczyta&amp;j ponownie</translation>
+    </message>
 </context>
 <context>
     <name>DataType</name>
@@ -690,6 +830,17 @@
             <numerusform>Inne foldery, których nie udało się odczytać (%Ln):</numerusform>
             <numerusform>Inne foldery, których nie udało się odczytać (%Ln):</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>GapKeys</name>
+    <message>
+        <source>Width: %1</source>
+        <translation>Szerokość: %1</translation>
+    </message>
+    <message>
+        <source>Height: %1</source>
+        <translation>Wysokość: %1</translation>
     </message>
 </context>
 <context>
@@ -1611,6 +1762,18 @@ Wiersz %2 poz. %3 <byte value="xd"/>
         <source>&amp;Cancel</source>
         <translation>&amp;Anuluj</translation>
     </message>
+    <message>
+        <source>The property to add</source>
+        <translation>Właściwość, która zostanie dodana</translation>
+    </message>
+    <message>
+        <source>Adds the selected property to the photograph</source>
+        <translation>Dodaje zaznaczoną właściwość do zdjęcia</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and adds nothing</source>
+        <translation>Zamyka okno i niczego nie dodaje</translation>
+    </message>
 </context>
 <context>
     <name>PrivateForm</name>
@@ -1654,6 +1817,22 @@ Wiersz %2 poz. %3 <byte value="xd"/>
         <source>&amp;Close</source>
         <translation>&amp;Zamknij</translation>
     </message>
+    <message>
+        <source>The space bar ticks what is to be deleted</source>
+        <translation>Spacja zaznacza to, co ma zostać usunięte</translation>
+    </message>
+    <message>
+        <source>Ticks everything that can be deleted</source>
+        <translation>Zaznacza wszystko, co można usunąć</translation>
+    </message>
+    <message>
+        <source>Deletes what is ticked; it is gone from the file when you save</source>
+        <translation>Usuwa to, co zaznaczone; z pliku zniknie to po zapisaniu</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and deletes nothing</source>
+        <translation>Zamyka okno i niczego nie usuwa</translation>
+    </message>
 </context>
 <context>
     <name>ProgressForm</name>
@@ -1668,6 +1847,10 @@ Wiersz %2 poz. %3 <byte value="xd"/>
     <message>
         <source>Cancel</source>
         <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Stops before the next file; what is done stays done</source>
+        <translation>Zatrzymuje przed następnym plikiem; co zrobiono, pozostaje</translation>
     </message>
 </context>
 <context>
@@ -1833,6 +2016,14 @@ Wiersz %2 poz. %3 <byte value="xd"/>
     <message>
         <source>Cancel</source>
         <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Starts the slide show</source>
+        <translation>Uruchamia pokaz slajdów</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and starts no show</source>
+        <translation>Zamyka okno i nie uruchamia pokazu</translation>
     </message>
 </context>
 <context>
@@ -2031,6 +2222,13 @@ Sprawdź, czy podłączono dysk lub kartę, i ponownie kliknij zdjęcie.</transl
     </message>
 </context>
 <context>
+    <name>ovisto::GapMark</name>
+    <message>
+        <source>Arrow keys move the gap, F8 goes to the next one, Esc goes back</source>
+        <translation>Strzałki przesuwają podział, F8 przechodzi do następnego, Esc wraca</translation>
+    </message>
+</context>
+<context>
     <name>ovisto::KeywordPane</name>
     <message>
         <source>*.TXT (*.TXT *.txt);;All Files (*)</source>
@@ -2042,6 +2240,10 @@ Sprawdź, czy podłączono dysk lub kartę, i ponownie kliknij zdjęcie.</transl
     <message>
         <source>Saving leaves out: %1</source>
         <translation>Zapis pominie: %1</translation>
+    </message>
+    <message>
+        <source>Enter opens the menu at the option</source>
+        <translation>Enter otwiera menu na tej opcji</translation>
     </message>
 </context>
 <context>
@@ -2100,6 +2302,14 @@ Sprawdź, czy podłączono dysk lub kartę, i ponownie kliknij zdjęcie.</transl
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>Delete %1 and all that belongs to it?</source>
+        <translation>Usunąć %1 i wszystko, co do tego należy?</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Usuń</translation>
+    </message>
 </context>
 <context>
     <name>ovisto::PropertySheet</name>
@@ -2154,6 +2364,21 @@ Sprawdź, czy podłączono dysk lub kartę, i ponownie kliknij zdjęcie.</transl
     <message>
         <source>Can be read only</source>
         <translation>Tylko odczyt</translation>
+    </message>
+    <message>
+        <source>Closes this window</source>
+        <translation>Zamyka to okno</translation>
+    </message>
+</context>
+<context>
+    <name>ovisto::RecentMenu</name>
+    <message>
+        <source>No folder was searched yet</source>
+        <translation>Nie przeszukano jeszcze żadnego folderu</translation>
+    </message>
+    <message>
+        <source>&amp;Clear This List</source>
+        <translation>Wy&amp;czyść tę listę</translation>
     </message>
 </context>
 <context>

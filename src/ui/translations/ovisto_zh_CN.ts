@@ -27,6 +27,22 @@
         <source>&amp;Close</source>
         <translation>关闭(&amp;C)</translation>
     </message>
+    <message>
+        <source>Version of the program</source>
+        <translation>程序的版本</translation>
+    </message>
+    <message>
+        <source>Libraries that the program is made with</source>
+        <translation>程序所用的库</translation>
+    </message>
+    <message>
+        <source>What is known about this computer</source>
+        <translation>有关这台计算机的信息</translation>
+    </message>
+    <message>
+        <source>Closes this window</source>
+        <translation>关闭此窗口</translation>
+    </message>
 </context>
 <context>
     <name>Advice</name>
@@ -105,6 +121,30 @@
         <source>&amp;Cancel</source>
         <translation>取消(&amp;C)</translation>
     </message>
+    <message>
+        <source>The property to change in all photographs of the list</source>
+        <translation>要在列表的所有照片中更改的属性</translation>
+    </message>
+    <message>
+        <source>Gives the property the value below, in every photograph</source>
+        <translation>在每张照片中将属性设为下面的值</translation>
+    </message>
+    <message>
+        <source>The value that the property gets</source>
+        <translation>属性的新值</translation>
+    </message>
+    <message>
+        <source>Deletes the property from every photograph</source>
+        <translation>从每张照片中删除该属性</translation>
+    </message>
+    <message>
+        <source>Changes all photographs of the list</source>
+        <translation>更改列表中的所有照片</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and changes nothing</source>
+        <translation>关闭对话框，不作任何更改</translation>
+    </message>
 </context>
 <context>
     <name>BatchResultForm</name>
@@ -123,6 +163,18 @@
     <message>
         <source>&amp;Close</source>
         <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>What became of each photograph</source>
+        <translation>每张照片的处理结果</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and takes all other photographs out of the list</source>
+        <translation>关闭对话框，并将其他照片移出列表</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and leaves the list as it is</source>
+        <translation>关闭对话框，列表保持不变</translation>
     </message>
 </context>
 <context>
@@ -272,7 +324,7 @@
     </message>
     <message>
         <source>Also look for the text above in the values as the property tree shows them, such as &quot;turned right&quot;</source>
-        <translation>还在属性树所显示的值中查找上方的文字，例如“向右旋转”</translation>
+        <translation>还在属性树所显示的值中查找上方的文字，例如“turned right”</translation>
     </message>
     <message>
         <source>&amp;Select Folder</source>
@@ -281,6 +333,26 @@
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>To begin, choose the folder of your photographs. Nothing is searched before you press Select Folder.</source>
+        <translation>首先请选择照片所在的文件夹。按下“选择文件夹”之前不会进行搜索。</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>最近(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Folders searched lately</source>
+        <translation>最近搜索过的文件夹</translation>
+    </message>
+    <message>
+        <source>Searches the folder</source>
+        <translation>搜索该文件夹</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and changes nothing</source>
+        <translation>关闭对话框，不作任何更改</translation>
     </message>
 </context>
 <context>
@@ -585,6 +657,74 @@
         <source>Contents</source>
         <translation>帮助内容</translation>
     </message>
+    <message>
+        <source>Photographs and keywords</source>
+        <translation>照片和关键字</translation>
+    </message>
+    <message>
+        <source>Photographs</source>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>Arrow keys open the photograph above or below</source>
+        <translation>用方向键打开上一张或下一张照片</translation>
+    </message>
+    <message>
+        <source>Enter inserts the keyword</source>
+        <translation>按回车键插入关键字</translation>
+    </message>
+    <message>
+        <source>Picture and its descriptions</source>
+        <translation>图像及其说明</translation>
+    </message>
+    <message>
+        <source>Title of the photograph, as the desktop shows it</source>
+        <translation>照片的标题，即桌面所显示的标题</translation>
+    </message>
+    <message>
+        <source>Comments on the photograph, as the desktop shows them</source>
+        <translation>照片的备注，即桌面所显示的备注</translation>
+    </message>
+    <message>
+        <source>Subject of the photograph, as the desktop shows it</source>
+        <translation>照片的主题，即桌面所显示的主题</translation>
+    </message>
+    <message>
+        <source>Keywords of the photograph, as the desktop shows them</source>
+        <translation>照片的关键字，即桌面所显示的关键字</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Property tree</source>
+        <translation>属性树</translation>
+    </message>
+    <message>
+        <source>F2 edits the value, Delete deletes the property</source>
+        <translation>F2 编辑值，Delete 删除属性</translation>
+    </message>
+    <message>
+        <source>What the selected property is for</source>
+        <translation>所选属性的用途</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Folders</source>
+        <translation>最近的文件夹(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Find Files</source>
+        <translation>查找文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Find W&amp;ords</source>
+        <translation>查找文字(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>重新读取(&amp;A)</translation>
+    </message>
 </context>
 <context>
     <name>DataType</name>
@@ -678,6 +818,17 @@
         <translation>
             <numerusform>其他无法读取的文件夹（%Ln 个）：</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>GapKeys</name>
+    <message>
+        <source>Width: %1</source>
+        <translation>宽度：%1</translation>
+    </message>
+    <message>
+        <source>Height: %1</source>
+        <translation>高度：%1</translation>
     </message>
 </context>
 <context>
@@ -1573,6 +1724,18 @@ Line %2 pos %3 <byte value="xd"/>
         <source>&amp;Cancel</source>
         <translation>取消(&amp;C)</translation>
     </message>
+    <message>
+        <source>The property to add</source>
+        <translation>要添加的属性</translation>
+    </message>
+    <message>
+        <source>Adds the selected property to the photograph</source>
+        <translation>将所选属性添加到照片</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and adds nothing</source>
+        <translation>关闭对话框，不添加任何内容</translation>
+    </message>
 </context>
 <context>
     <name>PrivateForm</name>
@@ -1616,6 +1779,22 @@ Line %2 pos %3 <byte value="xd"/>
         <source>&amp;Close</source>
         <translation>关闭(&amp;C)</translation>
     </message>
+    <message>
+        <source>The space bar ticks what is to be deleted</source>
+        <translation>用空格键勾选要删除的内容</translation>
+    </message>
+    <message>
+        <source>Ticks everything that can be deleted</source>
+        <translation>勾选所有可删除的内容</translation>
+    </message>
+    <message>
+        <source>Deletes what is ticked; it is gone from the file when you save</source>
+        <translation>删除已勾选的内容；保存后才会从文件中消失</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and deletes nothing</source>
+        <translation>关闭对话框，不删除任何内容</translation>
+    </message>
 </context>
 <context>
     <name>ProgressForm</name>
@@ -1630,6 +1809,10 @@ Line %2 pos %3 <byte value="xd"/>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>Stops before the next file; what is done stays done</source>
+        <translation>在下一个文件之前停止；已完成的保持不变</translation>
     </message>
 </context>
 <context>
@@ -1793,6 +1976,14 @@ Line %2 pos %3 <byte value="xd"/>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>Starts the slide show</source>
+        <translation>开始幻灯片放映</translation>
+    </message>
+    <message>
+        <source>Closes the dialog and starts no show</source>
+        <translation>关闭对话框，不开始放映</translation>
     </message>
 </context>
 <context>
@@ -1987,6 +2178,13 @@ Check that the disk or card is connected, and click the photograph again.</sourc
     </message>
 </context>
 <context>
+    <name>ovisto::GapMark</name>
+    <message>
+        <source>Arrow keys move the gap, F8 goes to the next one, Esc goes back</source>
+        <translation>方向键移动分隔线，F8 转到下一条，Esc 返回</translation>
+    </message>
+</context>
+<context>
     <name>ovisto::KeywordPane</name>
     <message>
         <source>*.TXT (*.TXT *.txt);;All Files (*)</source>
@@ -1998,6 +2196,10 @@ Check that the disk or card is connected, and click the photograph again.</sourc
     <message>
         <source>Saving leaves out: %1</source>
         <translation>保存时不保留：%1</translation>
+    </message>
+    <message>
+        <source>Enter opens the menu at the option</source>
+        <translation>按回车键打开菜单并定位到该选项</translation>
     </message>
 </context>
 <context>
@@ -2054,6 +2256,14 @@ Check that the disk or card is connected, and click the photograph again.</sourc
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
+    <message>
+        <source>Delete %1 and all that belongs to it?</source>
+        <translation>删除 %1 及其包含的所有内容？</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>ovisto::PropertySheet</name>
@@ -2106,6 +2316,21 @@ Check that the disk or card is connected, and click the photograph again.</sourc
     <message>
         <source>Can be read only</source>
         <translation>只读</translation>
+    </message>
+    <message>
+        <source>Closes this window</source>
+        <translation>关闭此窗口</translation>
+    </message>
+</context>
+<context>
+    <name>ovisto::RecentMenu</name>
+    <message>
+        <source>No folder was searched yet</source>
+        <translation>尚未搜索任何文件夹</translation>
+    </message>
+    <message>
+        <source>&amp;Clear This List</source>
+        <translation>清空此列表(&amp;C)</translation>
     </message>
 </context>
 <context>
