@@ -84,6 +84,23 @@ CommandDescription describeCommand(CLI::App& command)
     return described;
 }
 
+/// The option or argument of a line of Qt's help: names, at least two blanks, text.
+OptionDescription optionOfRow(std::string_view row, bool isArgument)
+{
+    const auto gap = std::min(row.find("  "), row.size());
+    OptionDescription option;
+    for (const std::string_view name : split(row.substr(0, gap), ','))
+        option.names.emplace_back(trimmed(name));
+    option.text = trimmed(row.substr(gap));
+    if (isArgument) {
+        option.isArgument = true;
+        option.isRepeated = true;
+        option.value = option.names.front();
+        option.kind = kindOf(option.value);
+    }
+    return option;
+}
+
 /// The label of the directory that an entry is in, where several directories have such entries.
 std::string directoryLabel(const DictionaryEntry& entry)
 {
@@ -139,17 +156,7 @@ ProgramDescription describeWindow(std::string_view help)
         } else if (line.starts_with("   ") && !program.options.empty()) {
             program.options.back().text += " " + std::string(trimmed(line)); // went on in the next line
         } else if (line.starts_with("  ")) {
-            const std::string row(trimmed(line));
-            const auto gap = row.find("  ");
-            OptionDescription option;
-            option.isArgument = section == "Arguments:";
-            option.isRepeated = option.isArgument;
-            for (const std::string_view name : split(std::string_view(row).substr(0, gap), ','))
-                option.names.emplace_back(trimmed(name));
-            option.value = option.isArgument ? option.names.front() : "";
-            option.kind = option.isArgument ? kindOf(option.value) : ValueKind::Text;
-            option.text = gap != std::string::npos ? std::string(trimmed(row.substr(gap))) : "";
-            program.options.push_back(option);
+            program.options.push_back(optionOfRow(trimmed(line), section == "Arguments:"));
         }
     }
     if (program.text.empty() || program.options.empty())

@@ -68,7 +68,7 @@ public:
         std::string title = name;
         std::ranges::transform(title, title.begin(),
                                [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-        line(".TH " + plain(title) + " 1 " + facts.date + " \"Ovisto " + facts.version + "\" \"User Commands\"");
+        line(".TH " + plain(title) + " 1 " + facts.date + R"( "Ovisto )" + facts.version + R"(" "User Commands")");
         line(".ad l");
     }
 
