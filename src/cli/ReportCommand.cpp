@@ -88,7 +88,7 @@ void addReportOptions(CLI::App& parser, ReportCommandOptions& options)
 std::string styleSheetPath(const std::string& name)
 {
     const bool isPlain = name.find_first_of("/.") == std::string::npos;
-    const std::string shipped = styleSheetFolder() + name + std::string(kStyleSheetExtension);
+    std::string shipped = styleSheetFolder() + name + std::string(kStyleSheetExtension);
     if (isPlain && fileExists(shipped))
         return shipped;
     if (isPlain && !fileExists(name))
