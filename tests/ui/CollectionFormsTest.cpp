@@ -504,7 +504,7 @@ private Q_SLOTS:
             Q_EMIT menu.aboutToShow();
             return menu.actions();
         };
-        QMenu& menu = window.control<QMenu>("menuRecent");
+        auto& menu = window.control<QMenu>("menuRecent");
         QVERIFY(!items(menu).first()->isEnabled());
         window.find(jpegsIn(below));
         ScanSettings nothing = jpegsIn(window.folder());
