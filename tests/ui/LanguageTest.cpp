@@ -32,10 +32,15 @@ public:
     WindowIn(const QString& language, const QString& locale) : m_language({language})
     {
         QLocale::setDefault(QLocale(locale));
+        QGuiApplication::setLayoutDirection(QLocale().textDirection());
         dictionaryTexts = m_language.dictionaryTexts(kData.toStdString());
         open({copy("night.jpg")});
     }
-    ~WindowIn() { QLocale::setDefault(QLocale::c()); }
+    ~WindowIn()
+    {
+        QLocale::setDefault(QLocale::c());
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    }
 
     /// Makes a report with a style sheet that comes with the program.
     void report(const QString& styleSheet)

@@ -106,7 +106,7 @@ std::string LocaleWords::moment(const Moment& moment) const
 
 std::string LocaleWords::phrase(const Phrase& phrase) const
 {
-    return toQString(phrase).toStdString();
+    return wordsOf(phrase);
 }
 
 std::string LocaleWords::reportWords(const std::string& text) const

@@ -12,6 +12,7 @@
 #include <QLocale>
 #include <QMimeDatabase>
 #include <QPushButton>
+#include <QStyle>
 
 namespace ovisto {
 
@@ -49,6 +50,10 @@ void PropertySheet::addRow(QFormLayout& rows, const QString& caption, const QStr
     label->setFocusPolicy(Qt::StrongFocus); // or its text could be selected by keys only after a click
     label->setAccessibleDescription(caption);
     label->setWordWrap(true);
+    if (!text.isRightToLeft()) { // a path stays in its order
+        label->setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
+        label->setLayoutDirection(Qt::LeftToRight);
+    }
     rows.addRow(caption, label);
 }
 

@@ -2,6 +2,8 @@
 
 #include "ui/App/Text.h"
 
+#include <QGuiApplication>
+
 #include <utility>
 
 namespace ovisto {
@@ -14,11 +16,31 @@ std::string messageText(Message message, std::optional<std::int64_t> count)
     return QCoreApplication::translate("Message", sourceText(message), nullptr, number).toStdString();
 }
 
+/// The paths that `phrase` has among its details.
+QStringList pathsIn(const Phrase& phrase)
+{
+    QStringList paths;
+    for (const Phrase& detail : phrase.details())
+        paths += pathsIn(detail);
+    const QString text = phrase.message() == Message::AsItIs ? toQString(wordsOf(phrase)) : QString();
+    return text.startsWith(u'/') ? QStringList(text) : paths;
+}
+
 } // namespace
 
 QString toQString(const Phrase& phrase)
 {
-    return toQString(phrase.words(messageText));
+    QString text = toQString(wordsOf(phrase));
+    if (QGuiApplication::isRightToLeft()) {
+        for (const QString& path : pathsIn(phrase))
+            text.replace(path, inItsOrder(path));
+    }
+    return text;
+}
+
+std::string wordsOf(const Phrase& phrase)
+{
+    return phrase.words(messageText);
 }
 
 int pluralNumber(std::uint64_t count)
@@ -26,6 +48,13 @@ int pluralNumber(std::uint64_t count)
     constexpr std::uint64_t kLastDigits = 1'000'000;
     const bool fits = std::in_range<int>(count);
     return static_cast<int>(fits ? count : kLastDigits + count % kLastDigits);
+}
+
+QString inItsOrder(const QString& text)
+{
+    constexpr QChar kIsolate(0x2066);
+    constexpr QChar kEnd(0x2069);
+    return QGuiApplication::isRightToLeft() ? kIsolate + text + kEnd : text;
 }
 
 QString sentence(const QString& text)

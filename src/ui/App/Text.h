@@ -21,8 +21,10 @@ inline QString toQString(const std::string& utf8)
     return QString::fromStdString(utf8);
 }
 
-/// The words of `phrase` in the language of the window.
+/// The words of `phrase` in the language of the window, for display: paths keep their order.
 QString toQString(const Phrase& phrase);
+/// The same for what is written or copied.
+std::string wordsOf(const Phrase& phrase);
 
 /// A number of things as QCoreApplication::translate() takes it for the form of a text. The forms go by the last
 /// digits.
@@ -37,6 +39,16 @@ QString listed(const QStringList& items);
 inline QString pathText(const std::string& path)
 {
     return QString::fromStdString(path);
+}
+
+/// `text` for display, where lines may run from right to left: a path, or another text that stays in its own order.
+/// There, marks stand around it, which belong into nothing that is written, copied or compared.
+QString inItsOrder(const QString& text);
+
+/// A path in a line of text, for display.
+inline QString shownPath(const std::string& path)
+{
+    return inItsOrder(pathText(path));
 }
 
 /// A path that the user chose in a dialog.

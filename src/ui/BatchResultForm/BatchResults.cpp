@@ -28,7 +28,7 @@ QVariant BatchResults::data(const QModelIndex& index, int role) const
         return {};
     const BatchResult& result = m_results[static_cast<std::size_t>(index.row())];
     if (index.column() == kFile)
-        return pathText(result.path);
+        return shownPath(result.path);
     switch (result.outcome) {
     case BatchOutcome::Failed:
         return tr("failed: %1").arg(toQString(result.reason));

@@ -94,6 +94,10 @@ void ControlForm::connectButtons()
         m_editor.step(&FoundFiles::next);
     };
     connect(ui.FileFinder, &QPushButton::clicked, this, [this] { m_search.findFiles(); });
+    if (isRightToLeft()) { // arrows are not turned round by themselves
+        ui.FilePickerPrev->setArrowType(Qt::RightArrow);
+        ui.FilePickerNext->setArrowType(Qt::LeftArrow);
+    }
     connect(ui.FilePickerPrev, &QToolButton::clicked, this, pickPrevious);
     connect(ui.FilePickerNext, &QToolButton::clicked, this, pickNext);
     // Not the page keys by themselves, which scroll where they are pressed.

@@ -166,7 +166,7 @@ void Editor::saveXml()
 {
     if (!settleChanges() || !m_file.saveXml())
         return;
-    m_savedLine.show(tr("Metadata saved as %1").arg(pathText(splitPath(exportPath(m_file.path())).name)));
+    m_savedLine.show(tr("Metadata saved as %1").arg(shownPath(splitPath(exportPath(m_file.path())).name)));
     m_savedLine.opening(); // the next file is another matter
 }
 
@@ -218,7 +218,7 @@ void Editor::showPrivate()
 
 bool Editor::wantsToSave(const std::string& path)
 {
-    return m_parts.surroundings.dialogs.ask(tr("Save Changes to file %1?").arg(pathText(path)));
+    return m_parts.surroundings.dialogs.ask(tr("Save Changes to file %1?").arg(shownPath(path)));
 }
 
 ShownFile::OtherChange Editor::askAboutOtherChange(const std::string& path)
@@ -229,7 +229,7 @@ ShownFile::OtherChange Editor::askAboutOtherChange(const std::string& path)
         tr("Another program changed the file %1 after it was opened here.\r\n\r\n"
            "Save Over It: the file gets all values as they are shown here.\r\n"
            "Read It Again: what you changed here is given up, and the file is shown as it is now.")
-            .arg(pathText(path)),
+            .arg(shownPath(path)),
         {tr("&Save Over It"), tr("&Read It Again"), QCoreApplication::translate("QPlatformTheme", "Cancel")});
     return kAnswers[answer];
 }
@@ -267,7 +267,7 @@ void Editor::showSaved(const std::string& path, const std::optional<SaveReceipt>
     SaveReceipt shown = *receipt;
     shown.originalName = splitPath(shown.originalName).name; // it is in the folder of the photograph
     QStringList sentences(shown.losses.empty()
-                              ? tr("%1 saved: %2").arg(pathText(splitPath(path).name), toQString(summary(shown)))
+                              ? tr("%1 saved: %2").arg(shownPath(splitPath(path).name), toQString(summary(shown)))
                               : tr("Lost, as \"Keep Untouched Data?\" is off: %1").arg(toQString(lossSummary(shown))));
     for (const Phrase& note : shown.notes)
         sentences << toQString(note);

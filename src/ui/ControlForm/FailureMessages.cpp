@@ -23,7 +23,7 @@ QString line(const FileFailure& failure)
 
 QString line(const std::string& path)
 {
-    return pathText(path);
+    return shownPath(path);
 }
 
 template <class Item> QString messageOf(const QString& heading, const std::vector<Item>& items)

@@ -130,7 +130,7 @@ std::optional<std::string> FileListPane::existingSelection()
         return path;
     m_surroundings.dialogs.show(tr("The folder %1 is not there. Nothing was removed from the list.\r\nCheck that the "
                                    "disk or card is connected, and click the photograph again.")
-                                    .arg(pathText(folderOf(path))));
+                                    .arg(shownPath(folderOf(path))));
     return std::nullopt;
 }
 

@@ -44,7 +44,7 @@ void ProgressForm::showPath(const std::string& path)
 {
     if (!isVisible())
         show();
-    ui.Label1->setText(pathText(path));
+    ui.Label1->setText(shownPath(path));
     QCoreApplication::processEvents();
     m_shown.start();
 }

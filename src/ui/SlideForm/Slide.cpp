@@ -59,7 +59,7 @@ SlideRequest slideRequest(const std::string& path, QSize maximum)
 Slide failedSlide(const SlideRequest& request, const Error& error)
 {
     Slide slide;
-    slide.failure = pathText(splitPath(request.path).name) + QLatin1Char('\n') + toQString(error.description);
+    slide.failure = shownPath(splitPath(request.path).name) + QLatin1Char('\n') + toQString(error.description);
     return slide;
 }
 

@@ -77,7 +77,7 @@ std::optional<QString> size(const XmlDocument& JpegDoc, const char* const (&path
 {
     const auto width = textOf(JpegDoc, paths[0]);
     const auto height = textOf(JpegDoc, paths[1]);
-    return width && height ? std::optional(*width + QLatin1Char('X') + *height) : std::nullopt;
+    return width && height ? std::optional(inItsOrder(*width + QLatin1Char('X') + *height)) : std::nullopt;
 }
 
 } // namespace
