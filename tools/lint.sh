@@ -17,6 +17,8 @@ version=$(sed -n 's/^project(ovisto VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
 newest=$(sed -n 's/^## \[\([0-9.]*\)\] - 20.*/\1/p' CHANGELOG.md | head -1)
 [ -n "$version" ] && [ "$version" = "$newest" ] || { echo "CHANGELOG.md is about '$newest', not '$version'"; exit 1; }
 echo "licence lines, changelog: complete"
+tools/update-translations.sh --check
+echo "translations: complete"
 
 cmake --preset release >/dev/null
 cmake --build --preset release
