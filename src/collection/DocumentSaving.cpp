@@ -21,13 +21,14 @@ namespace ovisto {
 
 namespace {
 
-/// The elements that a picture is decoded with (frames, tables, restart interval, scan header), as text.
+/// The elements that a picture is decoded with (frames, tables, restart interval, scan header), as text. Those with
+/// nothing in them do not count: they may be deleted.
 std::vector<std::string> pictureTables(const XmlDocument& document)
 {
     std::vector<std::string> tables;
     for (const ConstXmlNode& node : document.documentElement().childElements()) {
         const std::string id = AttributeGet(node, "id");
-        if ((node.name() == "APP1" && id < "FFE0") || node.name() == "SOS")
+        if (((node.name() == "APP1" && id < "FFE0") || node.name() == "SOS") && !node.text().empty())
             tables.push_back(id + " " + node.text());
     }
     return tables;
@@ -72,12 +73,21 @@ void checkPlaces(const XmlDocument& document)
     }
 }
 
+/// Raises an error if the picture would be decoded in another way than before.
+void checkPictureTables(const XmlDocument& before, const XmlDocument& after)
+{
+    if (pictureTables(after) != pictureTables(before))
+        throw Error{kInvalidCall, Message::OtherPictureTables};
+}
+
 SaveReceipt save(const XmlDocument& before, XmlDocument& after, const FileIdentity& asRead, const std::string& path,
                  const SavingWay& way, ErrorReporter& reporter)
 {
     reported(reporter, path, [&] {
         checkTags(after);
         checkPlaces(after);
+        if (way.writing == WritingWay::Keep)
+            checkPictureTables(before, after);
     });
     NewVersion version(reporter, path, {ReadOnlyFails::AtTheEnd, way.isSpared, asRead});
     version.write({way.writing, before, after, documentReader(readingOf(after.node())), way.clearance});

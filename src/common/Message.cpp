@@ -119,6 +119,9 @@ constexpr MessageText kTexts[] = {
     {Message::OtherPicture,
      QT_TRANSLATE_NOOP("Message", "The file has another picture now, which needs tables that the "
                                   "document does not have")},
+    {Message::OtherPictureTables,
+     QT_TRANSLATE_NOOP("Message",
+                       "The document has other frames or tables than the file, which would change the picture")},
     {Message::NotReadBack, QT_TRANSLATE_NOOP("Message", "The new version could not be read back: %1")},
     {Message::SegmentWriteFailed, QT_TRANSLATE_NOOP("Message", "Temp file write failed")},
     {Message::SegmentWriteInteger, QT_TRANSLATE_NOOP("Message", "Temp file write integer %1")},
@@ -246,7 +249,6 @@ constexpr MessageText kTexts[] = {
      2, "%1, %2 byte, %3; the program cannot look into it"},
     {Message::PrivateFindingStays, QT_TRANSLATE_NOOP("Message", "%1. %2.")},
     {Message::TellsNothing, QT_TRANSLATE_NOOP("Message", "Nothing was found that identifies a person or a place")},
-    {Message::CutPicture, QT_TRANSLATE_NOOP("Message", "The picture up to its end")},
 
     {Message::ValueWithNumber, QT_TRANSLATE_NOOP("Message", "%1 (%2)")},
     {Message::ValueSeconds, QT_TRANSLATE_NOOP("Message", "%1 s")},

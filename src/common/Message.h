@@ -87,6 +87,7 @@ enum class Message : std::uint8_t {
     MoreThanOneImage,
     FileWasChanged,
     OtherPicture,
+    OtherPictureTables,
     NotReadBack,
     SegmentWriteFailed,
     SegmentWriteInteger,
@@ -190,7 +191,6 @@ enum class Message : std::uint8_t {
     PrivateFindingClosed,
     PrivateFindingStays,
     TellsNothing,
-    CutPicture,
     // Values in words
     ValueWithNumber,
     ValueSeconds,

@@ -188,6 +188,10 @@ TEST(CommandLine, WritesAFileFromItsOwnOrAnEditedDocument)
     withoutScan.erase(withoutScan.find("<SOS"), withoutScan.find("<IMG") - withoutScan.find("<SOS"));
     folder.file("edited.xml", withoutScan);
     expectOneLine(ovisto({"write", "--document", documentPath, path}), path, "describes another image");
+    std::string otherTable = ovisto({"xml", path}).output;
+    otherTable.insert(otherTable.find("</SOS>"), "00");
+    folder.file("edited.xml", otherTable);
+    expectOneLine(ovisto({"write", "--document", documentPath, path}), path, "would change the picture");
     EXPECT_EQ(contentOf(path), before);
     EXPECT_EQ(ovisto({"write", path}).status, 0);
     EXPECT_EQ(contentOf(path), before);

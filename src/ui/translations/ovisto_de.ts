@@ -1572,10 +1572,6 @@ Zeile %2, Position %3 <byte value="xd"/>
         <translation>Es wurde nichts gefunden, was auf eine Person oder einen Ort schließen lässt</translation>
     </message>
     <message>
-        <source>The picture up to its end</source>
-        <translation>Das Bild bis zu seinem Ende</translation>
-    </message>
-    <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
@@ -1715,6 +1711,10 @@ Zeile %2, Position %3 <byte value="xd"/>
     <message>
         <source>No program was found that opens it</source>
         <translation>Es wurde kein Programm gefunden, das diese Datei öffnet</translation>
+    </message>
+    <message>
+        <source>The document has other frames or tables than the file, which would change the picture</source>
+        <translation>Das Dokument hat andere Frames oder Tabellen als die Datei, was das Bild verändern würde</translation>
     </message>
 </context>
 <context>

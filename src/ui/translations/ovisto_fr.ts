@@ -1572,10 +1572,6 @@ Ligne %2 pos. %3 <byte value="xd"/>
         <translation>Rien n’a été trouvé qui permette d’identifier une personne ou un lieu</translation>
     </message>
     <message>
-        <source>The picture up to its end</source>
-        <translation>L’image jusqu’à sa fin</translation>
-    </message>
-    <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
@@ -1715,6 +1711,10 @@ Ligne %2 pos. %3 <byte value="xd"/>
     <message>
         <source>No program was found that opens it</source>
         <translation>Aucun programme permettant de l’ouvrir n’a été trouvé</translation>
+    </message>
+    <message>
+        <source>The document has other frames or tables than the file, which would change the picture</source>
+        <translation>Le document a d’autres trames ou tables que le fichier, ce qui modifierait l’image</translation>
     </message>
 </context>
 <context>

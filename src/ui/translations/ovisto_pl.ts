@@ -1588,10 +1588,6 @@ Wiersz %2 poz. %3 <byte value="xd"/>
         <translation>Nie znaleziono niczego, co wskazywałoby na osobę lub miejsce</translation>
     </message>
     <message>
-        <source>The picture up to its end</source>
-        <translation>Obraz aż do jego końca</translation>
-    </message>
-    <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
@@ -1734,6 +1730,10 @@ Wiersz %2 poz. %3 <byte value="xd"/>
     <message>
         <source>No program was found that opens it</source>
         <translation>Nie znaleziono programu, który to otwiera</translation>
+    </message>
+    <message>
+        <source>The document has other frames or tables than the file, which would change the picture</source>
+        <translation>Dokument ma inne ramki lub tablice niż plik, co zmieniłoby obraz</translation>
     </message>
 </context>
 <context>

@@ -1556,10 +1556,6 @@ Line %2 pos %3 <byte value="xd"/>
         <translation>没有发现可识别人物或地点的信息</translation>
     </message>
     <message>
-        <source>The picture up to its end</source>
-        <translation>直到结尾的图像</translation>
-    </message>
-    <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
     </message>
@@ -1696,6 +1692,10 @@ Line %2 pos %3 <byte value="xd"/>
     <message>
         <source>No program was found that opens it</source>
         <translation>找不到可打开它的程序</translation>
+    </message>
+    <message>
+        <source>The document has other frames or tables than the file, which would change the picture</source>
+        <translation>文档中的帧或表与文件不同，这会改变图像</translation>
     </message>
 </context>
 <context>
