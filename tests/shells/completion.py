@@ -179,7 +179,7 @@ def check_manual(program, commands, folder):
 
 
 def main():
-    name, program, completions = sys.argv[1:]
+    name, program, completions = sys.argv[1], *map(os.path.abspath, sys.argv[2:])
     if shutil.which(name) is None:
         print(f"{name} is not installed")
         return SKIPPED
