@@ -84,7 +84,7 @@ make_root() {
         sort -u >"$work/sources"
     # shellcheck source=/dev/null
     mmdebstrap --mode=root --variant=minbase --skip=check/canmount,cleanup/apt/lists "$(. /etc/os-release && echo "$VERSION_CODENAME")" \
-        "$root" - <"$work/sources" >"$work/log" 2>&1
+        "$root" - <"$work/sources" >"$work/log" 2>&1 || return
     mkdir -p "$root/tmp/packages"
     cp "$packages"/*.deb "$root/tmp/packages"
     cp -r samples "$root/tmp/samples"
@@ -177,12 +177,16 @@ if [ "$(id -u)" -ne 0 ] || ! chroot / true 2>/dev/null; then
     exit
 fi
 mounts=
-if unshare --mount true 2>/dev/null; then
+if unshare --mount sh -c 'mount -t proc proc /proc && mount --rbind /dev /mnt' 2>/dev/null; then
     mounts=yes
 else
     echo "packages: installed only, not run: this system allows no mounts, and programs need /proc"
 fi
-make_root || { cat "$work/log"; fail "cannot make a clean root"; }
+if ! make_root; then
+    tail -5 "$work/log"
+    echo "packages: not tried in a clean root: none can be made here"
+    exit
+fi
 try_package ovisto-cli try_command_line
 # What a desktop has before Ovisto comes.
 in_root_quietly apt-get install -y --no-install-recommends desktop-file-utils libglib2.0-bin
