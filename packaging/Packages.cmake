@@ -85,7 +85,7 @@ that was not edited byte for byte.")
 
 set(CPACK_DEBIAN_WINDOW_PACKAGE_NAME ovisto)
 set(CPACK_DEBIAN_WINDOW_PACKAGE_DEPENDS "ovisto-data ${sameVersion}")
-set(CPACK_DEBIAN_WINDOW_PACKAGE_RECOMMENDS "xdg-utils")
+set(CPACK_DEBIAN_WINDOW_PACKAGE_RECOMMENDS "qt6-translations-l10n, xdg-utils")
 set(CPACK_DEBIAN_WINDOW_PACKAGE_SUGGESTS "ovisto-cli")
 set(CPACK_DEBIAN_WINDOW_DESCRIPTION
 "editor for the metadata of JPEG photographs
