@@ -246,7 +246,7 @@ void callFunction(xmlXPathParserContext* parser, int argumentCount)
         return;
     }
     std::vector<XmlPtr<xmlXPathObject>> values(function->arguments); // what they are made of lives as long
-    for (std::size_t i = values.size(); i > 0; --i) // the last one first
+    for (std::size_t i = values.size(); i > 0; --i)                  // the last one first
         values[i - 1].reset(valuePop(parser));
     std::vector<SheetArgument> arguments;
     for (const auto& value : values) {
