@@ -3,6 +3,7 @@
 #include "EveryForm.h"
 
 #include "ui/App/HelpKey.h"
+#include "ui/App/Language.h"
 #include "ui/ProgressForm/ProgressForm.h"
 
 #include <QAccessible>
@@ -211,8 +212,18 @@ class AccessTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void letsEveryFormBeUsedByKeysAndByEar_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char* language : {"en", "de", "fr", "pl", "zh_CN"}) // each has keys of its own
+            QTest::addRow("%s", language) << QString::fromLatin1(language);
+    }
+
     void letsEveryFormBeUsedByKeysAndByEar()
     {
+        QFETCH(const QString, language);
+        const Language spoken({language});
+        QCOMPARE(spoken.name(), language);
         qsizetype found = 0;
         QStringList forms = QDir(QStringLiteral(OVISTO_SOURCE_FOLDER) + u"/src/ui"_s).entryList({u"*Form"_s});
         forEveryForm([&](const QString& name, QWidget& form) {
