@@ -154,11 +154,13 @@ std::string zshArgument(const OptionDescription& option, int place, const std::s
     std::string arguments;
     const bool isHelp = option.names.back() == "--help" || option.names.back() == "--version";
     for (const std::string& name : option.names) {
-        const std::string before = isHelp ? "(- *)" : option.isRepeated ? "*" : "";
-        const std::string after = option.value.empty() ? "" : "="; // or a blank
-        const std::string action = option.value.empty() ? "" : zshAction(option, command);
-        const std::string text = "[" + zshText(brief(option.text)) + "]";
-        arguments += (arguments.empty() ? "" : " ") + word(before + name + after + text + action);
+        std::string argument = isHelp ? "(- *)" : option.isRepeated ? "*" : "";
+        argument += name;
+        argument += option.value.empty() ? "" : "="; // or a blank
+        argument += "[" + zshText(brief(option.text)) + "]";
+        argument += option.value.empty() ? "" : zshAction(option, command);
+        arguments += arguments.empty() ? "" : " ";
+        arguments += word(argument);
     }
     return arguments;
 }
