@@ -4,10 +4,11 @@
 
 #include "common/system/File.h"
 #include "common/system/Interruption.h"
+#include "common/system/Process.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
+#include <string_view>
 
 namespace ovisto {
 
@@ -18,15 +19,38 @@ bool isAmbiguous(const std::string& name)
     return name.find('\n') != std::string::npos || name.ends_with('\r') || name.starts_with(kByteOrderMark);
 }
 
+/// The first bytes of the file at `path`; empty where none can be read.
+std::string startOf(const std::string& path)
+{
+    constexpr std::size_t kMost = 4096;
+    std::string start(kMost, '\0');
+    std::size_t length = 0;
+    ErrorTrap trap;
+    trap.run([&] { length = InputFile(path).readAt(0, {reinterpret_cast<std::uint8_t*>(start.data()), kMost}); });
+    start.resize(length);
+    return start;
+}
+
+/// Whether a file that begins so is an older list, and not something that the command reads: a style sheet, a document,
+/// a picture of another kind or one that is damaged.
+bool mayBeList(const std::string& start)
+{
+    constexpr std::string_view kBetweenNames("\0\n\r", 3);
+    const auto isBinary = [kBetweenNames](char character) {
+        return character >= 0 && character < ' ' && kBetweenNames.find(character) == std::string_view::npos;
+    };
+    return !start.starts_with('<') && std::ranges::none_of(start, isBinary);
+}
+
 } // namespace
 
-void refusePhotograph(const std::string& path, const char* refusal)
+void refuseTarget(const std::string& path, const char* refusal)
 {
-    std::array<std::uint8_t, 2> start{};
-    ErrorTrap trap;
-    trap.run([&] { InputFile(path).readAt(0, start); });
-    if (start == std::array<std::uint8_t, 2>{0xFF, 0xD8})
+    const std::string start = startOf(path);
+    if (start.starts_with("\xFF\xD8"))
         throw Error{kInvalidCall, {Message::InContext, path, refusal}};
+    if (isStandardOutput(path))
+        throw Error{kInvalidCall, {Message::InContext, path, "What this command prints goes there already"}};
 }
 
 FailedList::FailedList(const FileOptions& options)
@@ -34,7 +58,9 @@ FailedList::FailedList(const FileOptions& options)
 {
     if (m_path.empty())
         return;
-    refusePhotograph(m_path, "A photograph is not replaced by a list");
+    refuseTarget(m_path, "A photograph is not replaced by a list");
+    if (!mayBeList(startOf(m_path)))
+        throw Error{kInvalidCall, {Message::InContext, m_path, "Not replaced, as it is not a list of file names"}};
     deferInterruption();
     ErrorTrap trap;
     trap.run([&] { m_file.emplace(m_path); });

@@ -144,7 +144,7 @@ void openOutput(std::optional<NewTextFile>& file, const std::string& path)
 {
     if (path.empty())
         return;
-    refusePhotograph(path, "A photograph is not replaced by a report");
+    refuseTarget(path, "A photograph is not replaced by a report");
     file.emplace(path);
 }
 

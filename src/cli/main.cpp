@@ -6,6 +6,7 @@
 
 int main(int argc, char** argv)
 {
+    ovisto::occupyStandardStreams();
     ovisto::outliveFileSizeLimit();
     const int exitStatus = ovisto::runCommandLine(argc, argv);
     if (ovisto::interrupted())

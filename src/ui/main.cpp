@@ -51,6 +51,7 @@ std::vector<std::string> pathsFrom(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    ovisto::occupyStandardStreams();
     ovisto::outliveFileSizeLimit();
     QApplication application(argc, argv); // takes its own options out of argv
     QApplication::setApplicationName(QStringLiteral("Ovisto"));

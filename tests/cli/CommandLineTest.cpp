@@ -502,8 +502,23 @@ TEST(CommandLine, ListsTheFilesThatItDidNotDo)
     EXPECT_EQ(ovisto({"set", "nonsense[", "Newer", "--failed-to", list, good}).status, 2);
     EXPECT_EQ(contentOf(good), before) << "nothing is done without the list";
     EXPECT_EQ(textOf(list), none + '\0' + strange + '\0') << "nor is the list written when nothing is done";
-    runCommand({"sh", "-c", "'" OVISTO_CLI "' xml '" + good + "' --failed-to '" + list + "' >/dev/full"});
-    EXPECT_EQ(textOf(list), good + '\n') << "what is lost on standard output was not done";
+    const auto inShell = [](const std::string& arguments) {
+        return runCommand({"sh", "-c", "'" OVISTO_CLI "' " + arguments});
+    };
+    for (const char* lost : {">/dev/full", ">&-", ">&- 2>&-"}) { // the list is not standard output when that is closed
+        lists.file("undone", "");
+        EXPECT_EQ(inShell("xml '" + good + "' --failed-to '" + list + "' " + lost).status, 1);
+        EXPECT_EQ(textOf(list), good + '\n') << "what is lost on standard output was not done: " << lost;
+    }
+    // What is printed, and what the command reads, is not replaced by the list.
+    const std::string printed = lists.path("printed");
+    EXPECT_EQ(inShell("xml '" + good + "' --failed-to /dev/stdout >'" + printed + "'").status, 1);
+    EXPECT_EQ(inShell("xml '" + none + "' --failed-to /dev/stderr 2>'" + printed + "'").status, 1);
+    EXPECT_NE(textOf(printed).find("goes there already"), std::string::npos);
+    const std::string own = lists.file("own.xsl", textOf(style));
+    expectOneLine(ovisto({"show", "--failed-to", own, good}), own, "not a list");
+    const std::string tiff = lists.file("a.tif", std::string("II*\0\b\0\0\0", 8));
+    expectOneLine(ovisto({"show", "--failed-to", tiff, good}), tiff, "not a list");
 }
 
 TEST(CommandLine, FindsItsOwnStyleSheetsByName)

@@ -9,8 +9,10 @@
 #include <csignal>
 #include <cstdlib>
 
+#include <fcntl.h>
 #include <pwd.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace ovisto {
@@ -33,6 +35,30 @@ void outliveFileSizeLimit()
     struct sigaction action = {};
     action.sa_handler = [](int) {};
     sigaction(SIGXFSZ, &action, nullptr);
+}
+
+void occupyStandardStreams()
+{
+    struct Stream {
+        int number;
+        int mode; // the other one, so that using the stream still fails
+    };
+    constexpr Stream kStreams[] = {{STDIN_FILENO, O_WRONLY}, {STDOUT_FILENO, O_RDONLY}, {STDERR_FILENO, O_RDONLY}};
+    for (const Stream& stream : kStreams) {
+        if (fcntl(stream.number, F_GETFD) == -1 && open("/dev/null", stream.mode) != stream.number)
+            _exit(EXIT_FAILURE); // and nobody to be told
+    }
+}
+
+bool isStandardOutput(const std::string& path)
+{
+    struct stat target = {};
+    if (stat(path.c_str(), &target) != 0 || !S_ISREG(target.st_mode))
+        return false;
+    return std::ranges::any_of(std::array{STDOUT_FILENO, STDERR_FILENO}, [&](int number) {
+        struct stat status = {};
+        return fstat(number, &status) == 0 && status.st_dev == target.st_dev && status.st_ino == target.st_ino;
+    });
 }
 
 bool isErrorOutputTerminal()
