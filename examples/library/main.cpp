@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "collection/Photograph.h"
-#include "common/system/ProgramFolder.h"
 
 #include <iostream>
 
@@ -10,7 +9,7 @@ int main(int count, char* arguments[])
 try {
     if (count != 3)
         return 2;
-    const ovisto::TagDictionary dictionary(ovisto::ProgramFolder().data + "Merovel.xml");
+    const ovisto::TagDictionary dictionary(DATA_FOLDER "/Merovel.xml");
     ovisto::Photograph photograph(arguments[1], dictionary);
     std::cout << photograph.inWords(ovisto::kTitlePath) << "\n";
     photograph.set(ovisto::kTitlePath, arguments[2]);
