@@ -34,14 +34,18 @@ std::string companionPath(const ExifPart& part)
     return part.pointer.offset != 0 ? entryPath(*exifPart(part.pointedFrom), part.pointer.offset) : std::string();
 }
 
-/// Removes the node that has no meaning without the one of `path`, which was removed. Returns it, or no node.
-XmlNode removeCompanion(XmlDocument& document, const std::string& path)
+/// The path of the node that has no meaning without the one at `path`; empty if there is none.
+std::string companionOf(const std::string& path)
 {
     const ExifPart* part = exifPartAt(path);
     const ExifPart* pointedPart = partPointedFrom(path);
-    const std::string companionsPath = part != nullptr          ? companionPath(*part)
-                                       : pointedPart != nullptr ? partPath(*pointedPart)
-                                                                : std::string();
+    return part != nullptr ? companionPath(*part) : pointedPart != nullptr ? partPath(*pointedPart) : std::string();
+}
+
+/// Removes the node that has no meaning without the one of `path`, which was removed. Returns it, or no node.
+XmlNode removeCompanion(XmlDocument& document, const std::string& path)
+{
+    const std::string companionsPath = companionOf(path);
     if (companionsPath.empty())
         return {};
     XmlNode companion = document.selectSingleNode(companionsPath);
@@ -153,6 +157,13 @@ Phrase objection(const NodeChange& change, Reading reading)
     if (change.action == NodeAction::Delete && change.entry.protection() == Protection::Required)
         return Message::NodeRequired;
     return {};
+}
+
+bool takesOthersAlong(const XmlDocument& document, const std::string& path)
+{
+    const std::string companionsPath = companionOf(path);
+    return holdsNodes(document.selectSingleNode(path)) ||
+           (!companionsPath.empty() && document.selectSingleNode(companionsPath));
 }
 
 ChangeResult applyChange(XmlDocument& document, const NodeChange& change, ErrorReporter& reporter)

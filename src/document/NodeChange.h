@@ -48,6 +48,9 @@ Protection protectionOf(const ConstXmlNode& node, const DictionaryEntry& entry);
 /// Why the change cannot be made to any file that is read in this way; empty when it can.
 Phrase objection(const NodeChange& change, Reading reading);
 
+/// Whether deleting the node at `path` takes others with it: those below it, or a companion (see applyChange()).
+bool takesOthersAlong(const XmlDocument& document, const std::string& path);
+
 /// Makes the change to a document, creating the node where Set or Add misses it. Deleting a node removes the entry that
 /// pointed to it too, what it pointed to, or the directory that was there for it. A node that cannot be created is
 /// reported, and the error raised; the document is then of no more use. Raises kInvalidCall for a value of a node that

@@ -129,6 +129,16 @@ private Q_SLOTS:
         };
         for (const auto& [wanted, name] : cases)
             QCOMPARE(Language(wanted).name(), name);
+        const QString before = QLocale().toString(2.5);
+        {
+            const Language german({u"de"_s}); // the system is not
+            QCOMPARE(QLocale().toString(2.5), u"2,5"_s);
+        }
+        QCOMPARE(QLocale().toString(2.5), before);
+        for (const QLocale& locale :
+             QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory))
+            QVERIFY2(!QLocale::c().toString(QTime(13, 5), timeFormat(locale)).contains(u'B'),
+                     qPrintable(locale.name()));
         const std::string folder = kData.toStdString();
         QCOMPARE(Language({u"de_AT"_s}).dictionaryTexts(folder), folder + "Merovel.de.xml");
         QCOMPARE(Language({u"en"_s}).dictionaryTexts(folder), std::string());

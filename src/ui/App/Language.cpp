@@ -44,6 +44,9 @@ QString firstSpoken(const QStringList& wanted)
 
 Language::Language(const QStringList& wanted) : m_name(firstSpoken(wanted))
 {
+    const QLocale own(m_name);
+    const QLocale system = QLocale::system();
+    QLocale::setDefault(system.language() == own.language() ? system : own);
     // Those installed last are asked first.
     if (m_qtTexts.load(QStringLiteral("qtbase_") + m_name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qtTexts);
@@ -55,6 +58,7 @@ Language::~Language()
 {
     QCoreApplication::removeTranslator(&m_texts);
     QCoreApplication::removeTranslator(&m_qtTexts);
+    QLocale::setDefault(m_localeBefore);
 }
 
 std::string Language::dictionaryTexts(const std::string& dataFolder) const

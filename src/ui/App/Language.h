@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <QLocale>
 #include <QStringList>
 #include <QTranslator>
 
@@ -9,7 +10,8 @@
 
 namespace ovisto {
 
-/// Gives the program's texts in the language of the person, and those of Qt's own dialogs, as long as it lives.
+/// Gives the program's texts in the language of the person, and those of Qt's own dialogs, as long as it lives. Numbers
+/// and dates (QLocale) are those of the system, or of the language if the system's are of another one.
 class Language {
 public:
     /// Takes the first of the languages (as QLocale::uiLanguages() names them) that the program speaks, else English.
@@ -26,6 +28,7 @@ public:
 
 private:
     QString m_name;
+    QLocale m_localeBefore;
     QTranslator m_qtTexts;
     QTranslator m_texts;
 };

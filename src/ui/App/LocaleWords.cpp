@@ -73,7 +73,8 @@ QString timeFormat(const QLocale& locale)
 {
     static const QRegularExpression zone(QStringLiteral(R"([\s,]*[(\[]?\bt\b[)\]]?)"),
                                          QRegularExpression::UseUnicodePropertiesOption);
-    return without(zone, locale.timeFormat(QLocale::LongFormat));
+    static const QRegularExpression partOfDay(QStringLiteral("'[^']*'(*SKIP)(*FAIL)|[bB]+ ?")); // unknown to Qt 6.4
+    return without(zone, without(partOfDay, locale.timeFormat(QLocale::LongFormat)));
 }
 
 std::string LocaleWords::number(double number, int decimals) const

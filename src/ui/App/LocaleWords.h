@@ -10,13 +10,13 @@ namespace ovisto {
 
 /// The locale's long form of a date without the day of the week.
 QString dayFormat(const QLocale& locale);
-/// The locale's long form of a time without the time zone, which Exif does not tell.
+/// The locale's long form of a time without the time zone, which Exif does not tell, and the part of the day.
 QString timeFormat(const QLocale& locale);
 
 /// Values in the words of the window, with numbers and dates as the locale has them.
 class LocaleWords : public ValueWords {
 public:
-    explicit LocaleWords(const QLocale& locale = QLocale::system()) : m_locale(locale) {}
+    explicit LocaleWords(const QLocale& locale = QLocale()) : m_locale(locale) {}
 
     std::string number(double number, int decimals) const override;
     std::string moment(const Moment& moment) const override;

@@ -54,9 +54,14 @@ void forgetFolders(Settings& settings)
         settings.remove(key(place));
 }
 
+bool wasFolderRemembered(const Settings& settings)
+{
+    return !allFolders(settings).isEmpty();
+}
+
 bool wasFolderChosen(const Settings& settings)
 {
-    return !allFolders(settings).isEmpty() || !settings.GetSetting(QStringLiteral("Folder"), {}).isEmpty();
+    return wasFolderRemembered(settings) || !settings.GetSetting(QStringLiteral("Folder"), {}).isEmpty();
 }
 
 QString firstFolder()

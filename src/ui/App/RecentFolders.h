@@ -17,6 +17,9 @@ QStringList recentFolders(const Settings& settings);
 void rememberFolder(const QString& folder, Settings& settings);
 void forgetFolders(Settings& settings);
 
+/// Whether any is remembered, one that is gone too.
+bool wasFolderRemembered(const Settings& settings);
+
 /// Whether a folder to search was chosen before, in this run or an earlier one.
 bool wasFolderChosen(const Settings& settings);
 

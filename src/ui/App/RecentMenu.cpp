@@ -3,6 +3,7 @@
 #include "ui/App/RecentMenu.h"
 
 #include "ui/App/RecentFolders.h"
+#include "ui/App/Text.h"
 
 #include <QDir>
 
@@ -14,7 +15,7 @@ namespace {
 QString itemText(int place, const QString& folder, const QMenu& menu)
 {
     constexpr int kWidest = 60; // characters
-    QString text = menu.fontMetrics().elidedText(QDir::toNativeSeparators(folder), Qt::ElideMiddle,
+    QString text = menu.fontMetrics().elidedText(shownPath(toPath(QDir::toNativeSeparators(folder))), Qt::ElideMiddle,
                                                  kWidest * menu.fontMetrics().averageCharWidth());
     text.replace(u'&', QStringLiteral("&&"));
     return QStringLiteral("&%1  %2").arg(place % 10).arg(text);
@@ -42,7 +43,7 @@ void RecentMenu::fill()
         m_menu.addAction(tr("No folder was searched yet"))->setEnabled(false);
     m_menu.addSeparator();
     QAction* clear = m_menu.addAction(tr("&Clear This List"));
-    clear->setEnabled(!folders.isEmpty());
+    clear->setEnabled(wasFolderRemembered(m_settings));
     connect(clear, &QAction::triggered, this, [this] { forgetFolders(m_settings); });
 }
 

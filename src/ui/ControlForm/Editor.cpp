@@ -116,7 +116,10 @@ bool Editor::leaveShownFile()
 
 bool Editor::settleChanges()
 {
+    const bool wasChanged = m_file.isChanged();
     const SaveResult saved = OfferSave(true);
+    if (saved == SaveResult::NotSaved && wasChanged)
+        m_file.MarkChanged(); // the document stays open, and what was typed is neither saved nor given up
     if (saved == SaveResult::Saved)
         OpenSelectedFile();
     else if (saved == SaveResult::Failed)
@@ -185,6 +188,13 @@ void Editor::readAgain()
 {
     m_parts.boxes.leaveFocused();
     m_list.selectShownFile();
+    if (m_file.isChanged()) {
+        const QStringList answers{tr("&Discard"), QCoreApplication::translate("QPlatformTheme", "Cancel")};
+        const QString question = tr("Discard the changes to file %1 and read it again?");
+        if (m_parts.surroundings.dialogs.choose(question.arg(shownPath(m_file.path())), answers) != 0)
+            return;
+        m_file.clearChanged();
+    }
     OpenSelectedFile();
 }
 

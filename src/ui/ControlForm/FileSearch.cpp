@@ -10,6 +10,8 @@
 #include "ui/ControlForm/ScanReports.h"
 #include "ui/ProgressForm/ProgressForm.h"
 
+#include <QScopedValueRollback>
+
 #include <optional>
 #include <utility>
 
@@ -56,6 +58,7 @@ void FileSearch::scanFolder()
 void FileSearch::openRecent(const QString& folder)
 {
     settings.FolderNameSelected = folder;
+    const QScopedValueRollback insteadOfTheList(settings.ListAppend, false);
     rememberFolder(folder, m_parts.surroundings.settings);
     findFilesAmong({toPath(folder)});
 }

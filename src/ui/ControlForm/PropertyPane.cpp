@@ -117,6 +117,7 @@ void PropertyPane::showTree(const std::vector<Leaf>& leaves)
         ui.NodeTree->setCurrentItem(ReselectItem);
         nodeClicked(ReselectItem);
     }
+    m_wasChosen = false;
 }
 
 /// On a first run, gives the labels the room that they need, as long as the values keep some.
@@ -205,12 +206,14 @@ void PropertyPane::selectionChanged()
     if (ControlsUpdating)
         return;
     m_selectedByClick = true;
+    m_wasChosen = true;
     nodeClicked(selectedItem());
 }
 
 /// A click on the item that was selected already shows its node anew.
 void PropertyPane::itemPressed(const QTreeWidgetItem* item)
 {
+    m_wasChosen = true;
     if (!std::exchange(m_selectedByClick, false))
         nodeClicked(item);
 }
@@ -405,16 +408,18 @@ void PropertyPane::deleteNode()
     nodeClicked(selectedItem());
 }
 
-/// What takes more with it than can be seen on its line is asked about, as nothing brings it back by itself.
+/// What takes more with it than can be seen on its line is asked about, as nothing brings it back by itself. So is what
+/// is selected because it was in the photograph before: the key may be meant for the list of photographs.
 void PropertyPane::deleteByKey()
 {
     const QTreeWidgetItem* item = selectedItem();
     if (!CurrentNode || item == nullptr || !ui.NodeDeleter->isEnabled())
         return;
-    const bool takesMore = holdsNodes(CurrentNode) || isThumbnail(CurrentNode);
-    const QString question = tr("Delete %1 and all that belongs to it?").arg(item->text(0));
+    const bool takesMore = takesOthersAlong(m_file.document(), NodeXPath(CurrentNode));
+    const QString question =
+        (takesMore ? tr("Delete %1 and all that belongs to it?") : tr("Delete %1?")).arg(item->text(0));
     const QStringList answers{tr("&Delete"), QCoreApplication::translate("QPlatformTheme", "Cancel")};
-    if (!takesMore || m_parts.surroundings.dialogs.choose(question, answers) == 0)
+    if ((!takesMore && m_wasChosen) || m_parts.surroundings.dialogs.choose(question, answers) == 0)
         deleteNode();
 }
 

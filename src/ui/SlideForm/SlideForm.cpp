@@ -58,7 +58,7 @@ void allowLargePictures()
 
 SlideCache::Decoder decoder(Reading reading)
 {
-    return [locale = QLocale::system(), reading](const SlideRequest& request, const DecodeLimits& limits) {
+    return [locale = QLocale(), reading](const SlideRequest& request, const DecodeLimits& limits) {
         return decodeSlide(request, locale, reading, limits);
     };
 }

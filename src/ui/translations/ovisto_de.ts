@@ -670,10 +670,6 @@
         <translation>Fotos</translation>
     </message>
     <message>
-        <source>Arrow keys open the photograph above or below</source>
-        <translation>Die Pfeiltasten öffnen das Foto darüber oder darunter</translation>
-    </message>
-    <message>
         <source>Enter inserts the keyword</source>
         <translation>Die Eingabetaste fügt das Stichwort ein</translation>
     </message>
@@ -728,6 +724,10 @@
     <message>
         <source>Read &amp;Again</source>
         <translation>&amp;Neu einlesen</translation>
+    </message>
+    <message>
+        <source>Arrow keys open the photograph above or below; the focus then moves to the property tree</source>
+        <translation>Die Pfeiltasten öffnen das Foto darüber oder darunter; der Fokus geht dann zum Eigenschaftenbaum</translation>
     </message>
 </context>
 <context>
@@ -2189,6 +2189,14 @@ Neu lesen: Was Sie hier geändert haben, wird verworfen und die Datei wird gezei
         <source>Lost, as &quot;Keep Untouched Data?&quot; is off: %1</source>
         <translation>Verloren, da „Unberührte Daten behalten?“ ausgeschaltet ist: %1</translation>
     </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>Discard the changes to file %1 and read it again?</source>
+        <translation>Die Änderungen an der Datei %1 verwerfen und sie neu einlesen?</translation>
+    </message>
 </context>
 <context>
     <name>ovisto::FileListPane</name>
@@ -2286,6 +2294,10 @@ Prüfen Sie, ob der Datenträger oder die Speicherkarte angeschlossen ist, und k
     <message>
         <source>&amp;Delete</source>
         <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Delete %1?</source>
+        <translation>%1 löschen?</translation>
     </message>
 </context>
 <context>

@@ -670,10 +670,6 @@
         <translation>Photos</translation>
     </message>
     <message>
-        <source>Arrow keys open the photograph above or below</source>
-        <translation>Les touches fléchées ouvrent la photo précédente ou suivante</translation>
-    </message>
-    <message>
         <source>Enter inserts the keyword</source>
         <translation>Entrée insère le mot-clé</translation>
     </message>
@@ -728,6 +724,10 @@
     <message>
         <source>Read &amp;Again</source>
         <translation>Re&amp;lire</translation>
+    </message>
+    <message>
+        <source>Arrow keys open the photograph above or below; the focus then moves to the property tree</source>
+        <translation>Les touches fléchées ouvrent la photo précédente ou suivante&#x202f;; le focus passe alors à l’arborescence des propriétés</translation>
     </message>
 </context>
 <context>
@@ -2189,6 +2189,14 @@ Relire&#xa0;: vos modifications sont abandonnées, et le fichier est affiché te
         <source>Lost, as &quot;Keep Untouched Data?&quot; is off: %1</source>
         <translation>Pertes, car «&#xa0;Conserver les données non modifiées&#x202f;?&#xa0;» est désactivé&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Abandonner</translation>
+    </message>
+    <message>
+        <source>Discard the changes to file %1 and read it again?</source>
+        <translation>Abandonner les modifications du fichier %1 et le relire&#x202f;?</translation>
+    </message>
 </context>
 <context>
     <name>ovisto::FileListPane</name>
@@ -2286,6 +2294,10 @@ Vérifiez que le disque ou la carte est en place, puis cliquez de nouveau sur la
     <message>
         <source>&amp;Delete</source>
         <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Delete %1?</source>
+        <translation>Supprimer %1&#x202f;?</translation>
     </message>
 </context>
 <context>

@@ -674,10 +674,6 @@
         <translation>Zdjęcia</translation>
     </message>
     <message>
-        <source>Arrow keys open the photograph above or below</source>
-        <translation>Klawisze strzałek otwierają zdjęcie powyżej lub poniżej</translation>
-    </message>
-    <message>
         <source>Enter inserts the keyword</source>
         <translation>Enter wstawia słowo kluczowe</translation>
     </message>
@@ -732,6 +728,10 @@
     <message>
         <source>Read &amp;Again</source>
         <translation>Wczyta&amp;j ponownie</translation>
+    </message>
+    <message>
+        <source>Arrow keys open the photograph above or below; the focus then moves to the property tree</source>
+        <translation>Klawisze strzałek otwierają zdjęcie powyżej lub poniżej; fokus przechodzi potem do drzewa właściwości</translation>
     </message>
 </context>
 <context>
@@ -2211,6 +2211,14 @@ Wczytaj ponownie: wprowadzone tu zmiany przepadną, a plik zostanie pokazany w o
         <source>Lost, as &quot;Keep Untouched Data?&quot; is off: %1</source>
         <translation>Utracono dane, bo opcja „Zachowuj nietknięte dane” jest wyłączona: %1</translation>
     </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Odrzuć</translation>
+    </message>
+    <message>
+        <source>Discard the changes to file %1 and read it again?</source>
+        <translation>Odrzucić zmiany w pliku %1 i wczytać go ponownie?</translation>
+    </message>
 </context>
 <context>
     <name>ovisto::FileListPane</name>
@@ -2309,6 +2317,10 @@ Sprawdź, czy podłączono dysk lub kartę, i ponownie kliknij zdjęcie.</transl
     <message>
         <source>&amp;Delete</source>
         <translation>&amp;Usuń</translation>
+    </message>
+    <message>
+        <source>Delete %1?</source>
+        <translation>Usunąć %1?</translation>
     </message>
 </context>
 <context>

@@ -666,10 +666,6 @@
         <translation>照片</translation>
     </message>
     <message>
-        <source>Arrow keys open the photograph above or below</source>
-        <translation>用方向键打开上一张或下一张照片</translation>
-    </message>
-    <message>
         <source>Enter inserts the keyword</source>
         <translation>按回车键插入关键字</translation>
     </message>
@@ -724,6 +720,10 @@
     <message>
         <source>Read &amp;Again</source>
         <translation>重新读取(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Arrow keys open the photograph above or below; the focus then moves to the property tree</source>
+        <translation>用方向键打开上一张或下一张照片；焦点随后转到属性树</translation>
     </message>
 </context>
 <context>
@@ -2167,6 +2167,14 @@ Read It Again: what you changed here is given up, and the file is shown as it is
         <source>Lost, as &quot;Keep Untouched Data?&quot; is off: %1</source>
         <translation>由于“保留未改动的数据”已关闭，有内容丢失：%1</translation>
     </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>放弃(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Discard the changes to file %1 and read it again?</source>
+        <translation>放弃对文件 %1 的更改并重新读取？</translation>
+    </message>
 </context>
 <context>
     <name>ovisto::FileListPane</name>
@@ -2263,6 +2271,10 @@ Check that the disk or card is connected, and click the photograph again.</sourc
     <message>
         <source>&amp;Delete</source>
         <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete %1?</source>
+        <translation>删除 %1？</translation>
     </message>
 </context>
 <context>
