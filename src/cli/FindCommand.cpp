@@ -9,7 +9,6 @@
 #include "collection/ContentFilter.h"
 #include "collection/FolderScan.h"
 #include "common/system/File.h"
-#include "common/system/Interruption.h"
 #include "common/text/CodePage.h"
 
 #include <CLI/CLI.hpp>
@@ -78,14 +77,14 @@ void startWalk(std::optional<FolderWalk>& walk, const ScanOptions& scan)
 /// The files to look at: those of the folder, which is gone through meanwhile, then those of the list.
 class FilesToSearch {
 public:
-    /// A folder or a list that cannot be read is reported to `output`, which must outlive the object.
+    /// Raises an error if the list cannot be read. A folder that cannot is reported to `output`, which must outlive the
+    /// object.
     FilesToSearch(const FindOptions& options, CommandOutput& output)
-        : m_output(output), m_hasFolder(!options.scan.folder.empty()), m_isWhole(!m_hasFolder)
+        : m_output(output), m_hasFolder(!options.scan.folder.empty()), m_listed(fileNames(options.files))
     {
         const ScanOptions& scan = options.scan;
-        if (!scan.folder.empty())
+        if (m_hasFolder)
             attempt(output, scan.folder, [&] { startWalk(m_walk, scan); });
-        attempt(output, "", [&] { m_listed = fileNames(options.files); });
     }
 
     /// The next file; none after the last one.
@@ -94,14 +93,13 @@ public:
         auto file = m_walk ? m_walk->next(m_output.progress(), m_output) : std::nullopt;
         if (file)
             return std::move(file->path);
-        m_isWhole = m_isWhole || (m_walk && !interrupted());
         return m_place == m_listed.size() ? std::nullopt : std::optional(m_listed[m_place++]);
     }
 
     bool hasFolder() const { return m_hasFolder; }
 
-    /// Whether the folder, if any, was gone through to its end.
-    bool isWhole() const { return m_isWhole; }
+    /// Whether the folder, if any, was gone through to its end, with all its subfolders.
+    bool isWhole() const { return !m_hasFolder || (m_walk && m_walk->isWhole()); }
 
     /// Those of the list.
     const std::vector<std::string>& listed() const { return m_listed; }
@@ -115,7 +113,6 @@ public:
 private:
     CommandOutput& m_output;
     bool m_hasFolder;
-    bool m_isWhole;
     std::optional<FolderWalk> m_walk;
     std::vector<std::string> m_listed;
     std::size_t m_place = 0;

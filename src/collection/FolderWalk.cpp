@@ -73,9 +73,11 @@ std::optional<FolderWalk::File> FolderWalk::next(Progress& progress, ErrorReport
             return std::nullopt;
         const std::string folder = std::move(m_ahead.back());
         m_ahead.pop_back();
-        if (!progress.enter(folder))
+        const bool isEntered = progress.enter(folder);
+        const bool isRead = isEntered && attempt(reporter, folder, [&] { read(folder); });
+        m_skipped = m_skipped || !isRead;
+        if (!isEntered)
             return std::nullopt;
-        attempt(reporter, folder, [&] { read(folder); });
     }
     const std::size_t place = m_place++;
     return File{.path = pathIn(m_folder, m_names[place]), .place = place, .count = m_names.size()};

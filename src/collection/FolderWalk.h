@@ -37,6 +37,9 @@ public:
     /// stops the walk. A folder that cannot be read is reported with its path and skipped, with everything below it.
     std::optional<File> next(Progress& progress, ErrorReporter& reporter);
 
+    /// Whether next() has returned all files: it was not stopped, and it skipped no folder.
+    bool isWhole() const { return m_ahead.empty() && m_place == m_names.size() && !m_skipped; }
+
 private:
     void read(const std::string& folder);
 
@@ -46,6 +49,7 @@ private:
     std::vector<std::string> m_names; ///< of its files
     std::size_t m_place = 0;          ///< of the next of them
     std::vector<std::string> m_ahead; ///< folders to read, the next one at the end
+    bool m_skipped = false;           ///< a folder that could not be read, or where the walk was stopped
     std::set<FileId> m_seen;
     std::uint64_t m_firstFileSystem = 0;
 };

@@ -332,6 +332,17 @@ TEST(CommandLine, GivesUpASearchThatRunsTooLongOnManyFiles)
     arguments.insert(arguments.end(), {"--failed-to", list});
     EXPECT_NE(ovisto(arguments).errors.find("lack files of the folder"), std::string::npos);
     EXPECT_EQ(textOf(list), "as before");
+    // Nor does it know those of a folder that it cannot read: here, one whose path is too long.
+    const std::string deep = "cd '" + lists.path("") +
+                             "' && name=$(printf %0250d 0) && for i in $(seq 20); do mkdir "
+                             "$name && cd $name; done";
+    ASSERT_EQ(runCommand({"bash", "-c", deep}).status, 0);
+    const CommandRun skipped = ovisto({"find", lists.path(""), "--failed-to", list});
+    EXPECT_NE(skipped.errors.find("lack files of the folder"), std::string::npos) << skipped.errors;
+    EXPECT_EQ(textOf(list), "as before");
+    runCommand({"rm", "-rf", lists.path(std::string(250, '0'))});
+    expectOneLine(ovisto({"find", "--files-from", lists.path("none"), "--failed-to", list}), "none", "File not found");
+    EXPECT_EQ(textOf(list), "as before");
     std::string files = found + '\n';
     for (int i = 0; i <= 20; ++i)
         files += folder.path(std::to_string(i) + ".jpg") + '\n';
