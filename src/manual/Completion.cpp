@@ -222,7 +222,7 @@ std::string bashCompletion(const std::string& script, const ProgramDescription& 
                            const std::vector<NodeDescription>& nodes)
 {
     std::string commands;
-    std::string options = bashRow("", joined({"-h", "--help", "--version"}));
+    std::string options = bashRow("-", joined({"-h", "--help", "--version"}));
     std::string values;
     std::string arguments;
     for (const CommandDescription& command : program.commands) {

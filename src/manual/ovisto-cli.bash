@@ -173,7 +173,7 @@ _ovisto_cli()
         kinds=${_ovisto_cli_values["$command $option"]-}
         _ovisto_cli_offer_kind "${kinds%% *}" "${kinds#* }" "$command"
     elif [[ $word == -* ]]; then
-        COMPREPLY=($(compgen -W "${_ovisto_cli_options[$command]-}" -- "$word"))
+        COMPREPLY=($(compgen -W "${_ovisto_cli_options[${command:--}]-}" -- "$word"))
     elif [[ ! $command ]]; then
         COMPREPLY=($(compgen -W "$_ovisto_cli_commands" -- "$word"))
     else

@@ -22,6 +22,7 @@ TAKEN = "/JPEG/Exif[@id='FFE1']/IFDE/IFD[@id='9003']"
 
 # What is typed after the name of the program, a tabulator for the Tab key, and the arguments that must come out.
 LINES = [
+    ("--vers\t", ["--version"]),
     ("rep\t--sty\tcs\tn\t", ["report", "--style", "csv", "n.jpg"]),
     ("report --style ./ow\t--encoding utf-1\tn.jpg", ["report", "--style", "./own.xsl", "--encoding", "utf-16", "n.jpg"]),
     ("clean --keep copyr\t", ["clean", "--keep", "copyright"]),
