@@ -4,6 +4,7 @@
 #include "cli/Commands.h"
 #include "cli/FailedList.h"
 #include "cli/Options.h"
+#include "cli/TerminalText.h"
 #include "collection/Report.h"
 #include "common/system/File.h"
 #include "common/system/FileListing.h"
@@ -125,8 +126,12 @@ std::vector<std::string> makeReport(const ReportCommandOptions& options, XmlDocu
 {
     std::vector<std::string> undone;
     Transformation report;
-    if (!attempt(output, "", [&] { report = transformed(options, std::move(style), files, output, undone); }) ||
-        interrupted())
+    const bool isMade =
+        attempt(output, "", [&] { report = transformed(options, std::move(style), files, output, undone); });
+    const bool isInterrupted = interrupted();
+    if (isInterrupted)
+        output.write({.notes = errorLine("", "Interrupted before the report was complete, so there is none")});
+    if (!isMade || isInterrupted)
         return files;
     if (report.error) {
         ErrorReport(output, options.styleSheet, *report.error);
@@ -151,13 +156,17 @@ void openOutput(std::optional<NewTextFile>& file, const std::string& path)
 int runReport(const ReportCommandOptions& options)
 {
     CommandOutput output;
+    std::string stylePath;
+    if (!attempt(output, "", [&] { stylePath = styleSheetPath(options.styleSheet); })) {
+        output.finish();
+        return kWrongUsage;
+    }
     XmlDocument style;
     const std::vector<std::string> files = fileNames(options.files);
     // A style sheet that never comes out of its pipe is not waited for once more, so that is before anything is
     // written.
-    const bool isReady = attempt(output, "", [&] {
-        loadStyleSheet(style, styleSheetPath(options.styleSheet), FileKind::RegularOrPipe, options.readable);
-    });
+    const bool isReady =
+        attempt(output, "", [&] { loadStyleSheet(style, stylePath, FileKind::RegularOrPipe, options.readable); });
     FailedList list(options.files);
     list.checkNames(files);
     deferInterruption();

@@ -131,7 +131,9 @@ TEST(Interruption, EndsCommandsThatWriteAfterTheFileAtHand)
         EXPECT_EQ(lists.names(), (std::vector<std::string>{"list", "undone"})) << "a report on some files is none";
         const std::string undone = textOf(lists.path("undone"));
         const std::string rest = folder.path("c.jpg") + '\n' + folder.path("d.jpg") + '\n';
-        if (c.arguments.front() == "report")
+        const bool isReport = c.arguments.front() == "report";
+        EXPECT_NE(errors.find(isReport ? "so there is none\n" : "Interrupted after "), std::string::npos) << errors;
+        if (isReport)
             EXPECT_EQ(undone, list);
         else
             EXPECT_TRUE(undone == noFile + rest || undone == noFile + folder.path("b.jpg") + '\n' + rest) << undone;
