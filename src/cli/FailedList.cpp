@@ -73,7 +73,8 @@ void FailedList::checkNames(const std::vector<std::string>& files) const
     if (m_file && m_separator == '\n' && std::ranges::any_of(files, isAmbiguous))
         throw Error{
             kInvalidCall,
-            {Message::InContext, m_path, "The name of a file has a line break, which the list can have with -0"}};
+            {Message::InContext, m_path,
+             "The name of a file has a line break or begins with a byte order mark, which the list can have with -0"}};
 }
 
 int FailedList::finish(CommandOutput& output, const std::vector<std::string>& undone,

@@ -39,8 +39,8 @@ private:
 };
 
 /// Raises an error if a JPEG file is at `path`: the name of the file to write was forgotten, and the first of the
-/// photographs taken for it. `refusal` says so. Raises one, too, if standard output or standard error goes to this file,
-/// which would lose what is printed.
+/// photographs taken for it. `refusal` says so. Raises one, too, if standard output or standard error goes to this
+/// file, which would lose what is printed.
 void refuseTarget(const std::string& path, const char* refusal);
 
 } // namespace ovisto

@@ -35,7 +35,8 @@ void addFindOptions(CLI::App& parser, FindOptions& options)
     parser
         .add_option("FOLDER", scan.folder,
                     "The folder to search; none needed with --files-from, whose files may have any name")
-        ->option_text(" ");
+        ->option_text(" ")
+        ->check(nameObjection);
     parser
         .add_option("--pattern", scan.patterns,
                     "Names of files: * stands for any characters, ? for one, ; separates patterns (default: " +

@@ -16,7 +16,6 @@
 #include <string_view>
 #include <thread>
 #include <unordered_set>
-#include <utility>
 
 namespace ovisto {
 
@@ -26,13 +25,22 @@ void readNames(std::vector<std::string>& files, std::istream& input, char separa
 {
     bool isFirst = true;
     for (std::string name; std::getline(input, name, separator);) {
-        if (std::exchange(isFirst, false) && name.starts_with(kByteOrderMark))
+        // A text file may have these; with zero bytes, every byte before one is a part of the name.
+        if (separator == '\n' && isFirst && name.starts_with(kByteOrderMark))
             name.erase(0, kByteOrderMark.size());
         if (separator == '\n' && name.ends_with('\r'))
             name.pop_back();
+        isFirst = false;
         if (!name.empty())
             files.push_back(name);
     }
+}
+
+/// What is wrong with the value of --failed-to; empty if nothing is.
+std::string failedToObjection(const std::string& name)
+{
+    return name == "-" ? "The list cannot go to standard output, where the results are; ./- is a file of that name"
+                       : nameObjection(name);
 }
 
 /// What is wrong with the value of --jobs; empty if nothing is.
@@ -43,9 +51,16 @@ std::string jobsObjection(const std::string& text)
 
 } // namespace
 
+std::string nameObjection(const std::string& name)
+{
+    return name.empty() ? "A name is empty" : "";
+}
+
 void addFiles(CLI::App& parser, FileOptions& options)
 {
-    parser.add_option("FILE", options.files, "JPEG files; none needed with --files-from")->option_text(" ");
+    parser.add_option("FILE", options.files, "JPEG files; none needed with --files-from")
+        ->option_text(" ")
+        ->check(nameObjection);
     addFileList(parser, options);
     parser.final_callback([&options] { requireFiles(options); });
 }
@@ -56,12 +71,14 @@ void addFileList(CLI::App& parser, FileOptions& options)
         .add_option("--files-from", options.filesFrom,
                     "Read more file names from FILE, one a line; - means standard input")
         ->option_text("FILE")
+        ->check(nameObjection)
         ->group(kCommonOptions);
     parser
         .add_option("--failed-to", options.failedTo,
                     "At the end, write to FILE the names of the files that were not done: those that failed and, after "
                     "an interruption, those not reached. It is empty if all were done")
         ->option_text("FILE")
+        ->check(failedToObjection)
         ->group(kCommonOptions);
     parser
         .add_flag("-0", options.zeroSeparated,

@@ -18,7 +18,7 @@ namespace ovisto {
 
 // Options that several commands take.
 
-/// What a list of names may begin with; it is no part of the first one.
+/// What a list of names, one a line, may begin with; it is no part of the first one.
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// What every command takes: files, and how to process them.
@@ -35,6 +35,8 @@ struct FileOptions {
 void addFiles(CLI::App& parser, FileOptions& options);
 /// Declares all but FILE.
 void addFileList(CLI::App& parser, FileOptions& options);
+/// What is wrong with the name of a file or folder on the command line; empty if nothing is.
+std::string nameObjection(const std::string& name);
 /// Raises the parser's error if neither files nor a list of them is given.
 void requireFiles(const FileOptions& options);
 

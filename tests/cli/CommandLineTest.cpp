@@ -431,6 +431,8 @@ TEST(CommandLine, TellsUsageFromFailure)
                                                       {"xml"},
                                                       {"frobnicate"},
                                                       {"set", kTitle},
+                                                      {"xml", ""},
+                                                      {"xml", "a.jpg", "--failed-to", "-"},
                                                       {"xml", "--jobs", "none", "a.jpg"},
                                                       {"write", "--document", "a.xml", "a.jpg", "b.jpg"},
                                                       {"xml", "--no-such-option", "a.jpg"}})
@@ -499,11 +501,12 @@ TEST(CommandLine, ListsTheFilesThatItDidNotDo)
             EXPECT_EQ(textOf(list), only.empty() ? none + '\n' + broken + '\n' : "") << command.front();
         }
     }
-    // What is still to be done may stand in the same file. A name with a line break needs -0.
+    // What is still to be done may stand in the same file. With -0, a name may have any bytes.
     const std::string strange = folder.path("line\nbreak.jpg");
-    lists.file("undone", none + '\0' + strange + '\0');
+    const std::string undone = std::string("\xEF\xBB\xBFnone.jpg") + '\0' + strange + '\0';
+    lists.file("undone", undone);
     EXPECT_EQ(ovisto({"set", kTitle, "New", "-0", "--files-from", list, "--failed-to", list}).status, 1);
-    EXPECT_EQ(textOf(list), none + '\0' + strange + '\0');
+    EXPECT_EQ(textOf(list), undone);
     const std::string good = folder.path("good3.jpg");
     const Bytes before = contentOf(good);
     expectOneLine(ovisto({"set", kTitle, "Newer", "--failed-to", list, good, strange}), list, "with -0");
@@ -512,7 +515,7 @@ TEST(CommandLine, ListsTheFilesThatItDidNotDo)
     expectOneLine(ovisto({"set", kTitle, "Newer", "--failed-to", good, good}), good, "not replaced by a list");
     EXPECT_EQ(ovisto({"set", "nonsense[", "Newer", "--failed-to", list, good}).status, 2);
     EXPECT_EQ(contentOf(good), before) << "nothing is done without the list";
-    EXPECT_EQ(textOf(list), none + '\0' + strange + '\0') << "nor is the list written when nothing is done";
+    EXPECT_EQ(textOf(list), undone) << "nor is the list written when nothing is done";
     const auto inShell = [](const std::string& arguments) {
         return runCommand({"sh", "-c", "'" OVISTO_CLI "' " + arguments});
     };

@@ -16,8 +16,9 @@ std::size_t openFilesAllowed(std::size_t wanted);
 /// Without this call, it ends the program.
 void outliveFileSizeLimit();
 
-/// Gives standard input, output and error back to a process that was started without them. Call before a file is opened:
-/// it would get the number of one that is closed, and what is printed would go into it. Nothing can be read or written.
+/// Gives standard input, output and error back to a process that was started without them. Call before a file is
+/// opened: it would get the number of one that is closed, and what is printed would go into it. Nothing can be read or
+/// written.
 void occupyStandardStreams();
 
 /// Whether the file at `path` is where standard output or standard error goes.

@@ -74,7 +74,7 @@ private:
     Ui::ControlForm& ui;
     bool& ControlsUpdating;
     ShownFile& m_file;
-    bool m_columnsFit; ///< or are as the user left them
+    bool m_columnsFit;        ///< or are as the user left them
     bool m_wasChosen = false; ///< the person has been in the tree since it was loaded
     LocaleWords m_words;
     LocaleWords m_treeWords;
