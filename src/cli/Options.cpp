@@ -11,6 +11,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdio>
 #include <iostream>
 #include <sstream>
 #include <string_view>
@@ -155,6 +156,8 @@ std::vector<std::string> fileNames(const FileOptions& options)
     const char separator = options.zeroSeparated ? '\0' : '\n';
     if (options.filesFrom == "-") {
         readNames(files, std::cin, separator);
+        if (std::ferror(stdin) != 0) // or the names that could not be read would count as done
+            throw Error{kDeviceError, "Standard input cannot be read"};
     } else if (!options.filesFrom.empty()) {
         ErrorTrap trap;
         std::istringstream input;

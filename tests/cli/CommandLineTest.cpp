@@ -524,6 +524,10 @@ TEST(CommandLine, ListsTheFilesThatItDidNotDo)
         EXPECT_EQ(inShell("xml '" + good + "' --failed-to '" + list + "' " + lost).status, 1);
         EXPECT_EQ(textOf(list), good + '\n') << "what is lost on standard output was not done: " << lost;
     }
+    for (const char* lost : {"<&-", "< /"}) {
+        EXPECT_EQ(inShell("show --files-from - --failed-to '" + list + "' " + lost).status, 1) << lost;
+        EXPECT_EQ(textOf(list), good + '\n') << lost;
+    }
     // What is printed, and what the command reads, is not replaced by the list.
     const std::string printed = lists.path("printed");
     EXPECT_EQ(inShell("xml '" + good + "' --failed-to /dev/stdout >'" + printed + "'").status, 1);
