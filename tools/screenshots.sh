@@ -5,16 +5,19 @@
 #
 #     tools/screenshots.sh [BUILD FOLDER [OUTPUT FOLDER]]
 #
+# Without an output folder, they go to the folder screenshots of the build, and those that README.md and the handbook show
+# take the place of the present ones. Those of the slide show are taken by slide-screenshots.sh.
+#
 # Needs the Debian packages xvfb, xdotool and imagemagick.
 set -euo pipefail
 
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${1:-$root/build/release}
-output=${2:-$root/docs/images}
+output=${2:-$build/screenshots}
 photographs=/tmp/Photographs # the pictures show this path
 portable=/tmp/Ovisto         # and this one, where the program's own files are chosen
 work=$(mktemp -d)
-mkdir -p "$output"
+mkdir -p "$output/handbook"
 
 fail() { echo "screenshots.sh: $1" >&2; exit 1; }
 
@@ -90,6 +93,17 @@ shoot() {
     echo "$output/$1.png"
 }
 
+# cut_out NAME GEOMETRY: makes a picture of a part of the one that was taken last
+cut_out() { convert "$work/shot.png" -crop "$2" +repage -colors 256 "PNG8:$output/$1.png"; }
+
+# shoot_dialog NAME: takes a picture of the window in front alone
+shoot_dialog() {
+    sleep 0.5
+    eval "$(xdotool getwindowgeometry --shell "$(front)")"
+    import -window root -crop "${WIDTH}x${HEIGHT}+$X+$Y" +repage "$work/dialog.png"
+    convert "$work/dialog.png" -colors 256 "PNG8:$output/$1.png"
+}
+
 # click X Y: clicks at a place in the window, counted from the right or lower edge if negative
 click() {
     eval "$(xdotool getwindowgeometry --shell "$window")"
@@ -126,16 +140,20 @@ key ctrl+a
 xdotool type --delay 30 "Mountain lake at dawn"
 key Tab
 shoot editing
+cut_out handbook/editing 404x780+796+20
 key alt+a
-xdotool windowfocus "$(front)"; key Down Down Down Down
+xdotool windowfocus "$(front)"; key Down Down Down
 shoot add-node
+shoot_dialog handbook/add-node
 key Escape
 xdotool windowfocus "$window"
 click -150 100
 key End
 shoot hex
+cut_out handbook/hex 404x215+796+390
 click -110 -377
 shoot thumbnail
+cut_out handbook/thumbnail 404x370+796+390
 key alt+i Down Return
 sleep 1
 shoot properties
@@ -161,7 +179,6 @@ for ((i = 10000; i < 40000; ++i)); do ln "$photographs/night.jpg" "$photographs/
 xdotool windowfocus "$(front)"; key shift+Tab shift+Tab shift+Tab shift+Tab
 xdotool type --delay 10 "$photographs/Archive"
 key Return
-sleep 1
 shoot progress
 xdotool windowfocus "$(front)"; key Escape
 sleep 1
@@ -174,9 +191,23 @@ start $large "$photographs"
 key alt+b
 xdotool windowfocus "$(front)"; key Down Down Down Down
 shoot batch
+xdotool type --delay 30 Art
+key Tab Tab
+xdotool type --delay 30 "Maren Tolvik"
+shoot_dialog handbook/batch
 key Escape
 xdotool windowfocus "$window"; key alt+f g
 shoot open-report
+stop
+
+# A value that cannot be saved.
+start $large "$photographs"
+key Down Down Down Down Down
+click -100 -250
+key ctrl+a
+xdotool type --delay 30 abc
+key ctrl+s
+shoot_dialog handbook/message
 stop
 
 # A dark palette, as set by a desktop.
@@ -220,3 +251,9 @@ start 0,0,57600,32400 "$photographs"
 key Down Down
 shoot large
 stop
+
+if [ $# -lt 2 ]; then
+    cp "$output/file.png" "$root/docs/images"
+    cp "$output/file.png" "$root/data/help/images/window.png"
+    cp "$output"/handbook/*.png "$root/data/help/images"
+fi

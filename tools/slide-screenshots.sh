@@ -10,7 +10,7 @@ set -euo pipefail
 
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${1:-$root/build/release}
-output=${2:-$root/docs/images}
+output=${2:-$build/screenshots}
 work=$(mktemp -d)
 mkdir -p "$output"
 

@@ -46,7 +46,8 @@ Language::Language(const QStringList& wanted) : m_name(firstSpoken(wanted))
 {
     const QLocale own(m_name);
     const QLocale system = QLocale::system();
-    QLocale::setDefault(system.language() == own.language() ? system : own);
+    const QLocale::Language language = system.language() == QLocale::C ? QLocale::English : system.language();
+    QLocale::setDefault(language == own.language() ? system : own);
     // Those installed last are asked first.
     if (m_qtTexts.load(QStringLiteral("qtbase_") + m_name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qtTexts);
