@@ -4,10 +4,11 @@
 #   bench/collection.sh [FOLDER]     (FOLDER: where to put some 2 GB of temporary files; default: TMPDIR)
 # find: a word search over 20,000 small photographs made from the samples, against cat of the same bytes.
 # set: a title for 2,000 photographs, against cp and sync, exiv2 and exiftool. Only ours waits for the disk by itself,
-# so the others are also shown followed by a sync. The best round counts.
+# so the others are also shown followed by a sync.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/install.sh
+. bench/timing.sh
 install_packages "${BUILD_PACKAGES[@]}" libbenchmark-dev libgtest-dev exiv2 libimage-exiftool-perl time
 cmake --preset release >/dev/null
 cmake --build --preset release --target ovisto-cli data >/dev/null
@@ -17,18 +18,6 @@ samples=$PWD/samples
 work=$(mktemp -d -p "${1:-${TMPDIR:-/tmp}}")
 trap 'rm -rf "$work"' EXIT
 cd "$work"
-
-# Runs a command and keeps its shortest time, in milliseconds, in the variable of the given name.
-shortest() {
-    local variable=$1 start end
-    shift
-    start=$(date +%s%N)
-    "$@" >/dev/null 2>&1
-    end=$(date +%s%N)
-    local milliseconds=$(((end - start) / 1000000 + 1))
-    [ -n "${!variable:-}" ] && [ "${!variable}" -le "$milliseconds" ] || printf -v "$variable" %s "$milliseconds"
-}
-ratio() { awk -v ours="$1" -v theirs="$2" 'BEGIN { printf "%.2f", ours / theirs }'; }
 
 # The part of a photograph that a reader needs, without most of the image data.
 kinds=(big-endian little-endian night portrait xmp)
@@ -46,14 +35,14 @@ done
 cat_all() { find many -name '*.jpg' -print0 | xargs -0 cat; }
 find_all() { "$cli" find --words 'Tolvik,lake' --all-words "$@" many; }
 for _ in 1 2 3 4 5; do
-    shortest cat_time cat_all
-    shortest find_time find_all
-    shortest find_one_time find_all --jobs 1
+    measure "cat" cat_all
+    measure "find" find_all
+    measure "find --jobs 1" find_all --jobs 1
 done
-echo "find, a word filter over 20,000 photographs (times as long as cat of the same bytes):"
-printf '  %-28s %6d ms\n' "cat" "$cat_time"
-printf '  %-28s %6d ms  %s x\n' "find ($(nproc) jobs)" "$find_time" "$(ratio "$find_time" "$cat_time")" \
-    "find --jobs 1" "$find_one_time" "$(ratio "$find_one_time" "$cat_time")"
+echo "find, a word filter over 20,000 photographs, $(nproc) jobs:"
+print_times "cat" "find" "find --jobs 1"
+echo "  as long as cat of the same bytes: $(ratio "find" "cat")"
+echo "  with one job: $(ratio "find --jobs 1" "cat")"
 echo "  peak memory: $(/usr/bin/time -f %M "$cli" find --words Tolvik many 2>&1 >/dev/null | tail -n 1) KiB"
 
 mkdir photographs
@@ -91,18 +80,18 @@ with_sync() {
     sync
 }
 for round in $(seq "$rounds"); do
-    shortest cp_time cp_sync "runs/cp$round"
-    shortest set_time set_all "runs/set$round"
-    shortest set_one_time set_all "runs/set_one$round" --jobs 1
-    shortest exiv2_time exiv2_all "runs/exiv2$round"
-    shortest exiv2_sync_time with_sync exiv2_all "runs/exiv2_sync$round"
-    shortest exiftool_time exiftool_all "runs/exiftool$round"
-    shortest exiftool_sync_time with_sync exiftool_all "runs/exiftool_sync$round"
+    measure "cp and sync" cp_sync "runs/cp$round"
+    measure "set" set_all "runs/set$round"
+    measure "set --jobs 1" set_all "runs/set_one$round" --jobs 1
+    measure "exiv2" exiv2_all "runs/exiv2$round"
+    measure "exiv2 and sync" with_sync exiv2_all "runs/exiv2_sync$round"
+    measure "exiftool" exiftool_all "runs/exiftool$round"
+    measure "exiftool and sync" with_sync exiftool_all "runs/exiftool_sync$round"
 done
-echo "set, a title for 2,000 photographs:"
-row() { printf '  %-28s %6d ms\n' "$@"; }
-row "cp and sync" "$cp_time" "set ($(nproc) jobs)" "$set_time" "set --jobs 1" "$set_one_time" "exiv2" "$exiv2_time" \
-    "exiv2 and sync" "$exiv2_sync_time" "exiftool" "$exiftool_time" "exiftool and sync" "$exiftool_sync_time"
-echo "  as long as cp and sync: $(ratio "$set_time" "$cp_time") x ($(nproc) jobs), $(ratio "$set_one_time" "$cp_time") x (one)"
-echo "  faster than exiv2: $(ratio "$exiv2_time" "$set_time") x, with sync $(ratio "$exiv2_sync_time" "$set_time") x"
-echo "  faster than exiftool: $(ratio "$exiftool_time" "$set_time") x, with sync $(ratio "$exiftool_sync_time" "$set_time") x"
+echo "set, a title for 2,000 photographs, $(nproc) jobs:"
+print_times "cp and sync" "set" "set --jobs 1" "exiv2" "exiv2 and sync" "exiftool" "exiftool and sync"
+echo "  as long as cp and sync: $(ratio "set" "cp and sync")"
+echo "  with one job: $(ratio "set --jobs 1" "cp and sync")"
+for other in "exiv2" "exiv2 and sync" "exiftool" "exiftool and sync"; do
+    echo "  faster than $other: $(ratio "$other" "set")"
+done

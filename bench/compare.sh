@@ -2,11 +2,12 @@
 # SPDX-License-Identifier: MIT
 # Prints how many times faster metadata documents of many photographs are made than other programs print metadata:
 #   bench/compare.sh [FOLDER]     (default: OVISTO_SAMPLES, else the project's own samples)
-# All programs get the same files, repeated until there are enough to measure, in one process each; the best of five
-# runs counts. Also prints the time of a whole command line for one file, and the peak memory.
+# All programs get the same files, repeated until there are enough to measure, in one process each, in turn, for five rounds. Also
+# prints the time of a whole command line for one file, and the peak memory.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/install.sh
+. bench/timing.sh
 install_packages "${BUILD_PACKAGES[@]}" libbenchmark-dev libgtest-dev exiv2 libimage-exiftool-perl time
 cmake --preset release >/dev/null
 cmake --build --preset release >/dev/null
@@ -22,42 +23,26 @@ while [ "$count" -lt 1500 ]; do
     count=$(wc -l <"$list")
 done
 
-# Prints the seconds of the best of five runs of a command.
-best() {
-    local fastest=""
-    for _ in 1 2 3 4 5; do
-        local start end
-        start=$(date +%s%N)
-        "$@" >/dev/null 2>&1 || true
-        end=$(date +%s%N)
-        local nanoseconds=$((end - start))
-        if [ -z "$fastest" ] || [ "$nanoseconds" -lt "$fastest" ]; then
-            fastest=$nanoseconds
-        fi
-    done
-    awk -v n="$fastest" 'BEGIN { printf "%.4f", n / 1e9 }'
-}
 all() { tr '\n' '\0' <"$list" | xargs -0 -s 2000000 "$@"; }
 some() { head -n "$fewer" "$list" | tr '\n' '\0' | xargs -0 -s 2000000 "$@"; }
-ratio() { awk -v ours="$1" -v theirs="$2" -v scale="$3" 'BEGIN { printf "%.1f", theirs * scale / ours }'; }
+each() { for _ in $(seq 20); do "$@"; done; }
 
 all true # fails if the list does not fit into one command line
 fewer=$((count / 20))
-one=$(best "$cli" xml --jobs 1 --files-from "$list")
-many=$(best "$cli" xml --files-from "$list")
-exiv2=$(best all exiv2 -pa)
-exiftool=$(best some exiftool -X)
-printf '%d photographs of %s, seconds of the best of five runs:\n' "$count" "$folder"
-printf '  %-28s %8s\n' "ovisto-cli xml --jobs 1" "$one" "ovisto-cli xml ($(nproc) jobs)" "$many" "exiv2 -pa" "$exiv2" \
-    "exiftool -X (of 1/20)" "$exiftool"
-printf 'faster than exiv2 -pa:   %s x with one job, %s x with %s\n' "$(ratio "$one" "$exiv2" 1)" \
-    "$(ratio "$many" "$exiv2" 1)" "$(nproc)"
-printf 'faster than exiftool -X: %s x with one job, %s x with %s\n' "$(ratio "$one" "$exiftool" 20)" \
-    "$(ratio "$many" "$exiftool" 20)" "$(nproc)"
-
 photograph=$(head -n 1 "$list")
-single=$(best "$cli" xml "$photograph")
-shown=$(best "$cli" show "$photograph")
-printf 'a whole command line for one file: xml %s s, show %s s\n' "$single" "$shown"
+for _ in 1 2 3 4 5; do
+    measure "xml --jobs 1" "$cli" xml --jobs 1 --files-from "$list"
+    measure "xml" "$cli" xml --files-from "$list"
+    measure "exiv2 -pa" all exiv2 -pa
+    measure "exiftool -X, 1/20 of them" some exiftool -X
+    measure "xml, one file, 20 times" each "$cli" xml "$photograph"
+    measure "show, one file, 20 times" each "$cli" show "$photograph"
+done
+echo "$count photographs of $folder, $(nproc) jobs:"
+print_times "xml --jobs 1" "xml" "exiv2 -pa" "exiftool -X, 1/20 of them" "xml, one file, 20 times" "show, one file, 20 times"
+echo "faster than exiv2 -pa, one job:   $(ratio "exiv2 -pa" "xml --jobs 1")"
+echo "faster than exiv2 -pa, $(nproc) jobs:  $(ratio "exiv2 -pa" "xml")"
+echo "faster than exiftool -X, one job: $(ratio "exiftool -X, 1/20 of them" "xml --jobs 1" 20)"
+echo "faster than exiftool -X, $(nproc) jobs: $(ratio "exiftool -X, 1/20 of them" "xml" 20)"
 printf 'peak memory of all files in one process: %s KiB\n' \
     "$(/usr/bin/time -f %M "$cli" xml --files-from "$list" 2>&1 >/dev/null | tail -n 1)"
