@@ -29,7 +29,7 @@ print_times() {
 }
 
 # ratio NAME OTHER [FACTOR]: how many times as long as OTHER the first took: by the shortest times, by the medians, and by
-# the processor times. FACTOR is how many times the work of OTHER NAME would have to do to be like it.
+# the shortest processor times. With FACTOR, NAME did only that part (20 for a twentieth) of the work of OTHER.
 ratio() {
     # shellcheck disable=SC2086
     awk -v factor="${3:-1}" -v least="$(minimum ${wall_times[$1]})/$(minimum ${wall_times[$2]})" \

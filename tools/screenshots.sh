@@ -5,8 +5,8 @@
 #
 #     tools/screenshots.sh [BUILD FOLDER [OUTPUT FOLDER]]
 #
-# Without an output folder, they go to the folder screenshots of the build, and those that README.md and the handbook show
-# take the place of the present ones. Those of the slide show are taken by slide-screenshots.sh.
+# Without an output folder, they go to the folder screenshots of the build, and those that are in README.md or the handbook
+# take the place of the present ones. It does not take find-files.png; slide-screenshots.sh takes those of the slide show.
 #
 # Needs the Debian packages xvfb, xdotool and imagemagick.
 set -euo pipefail

@@ -31,8 +31,7 @@ void addNodePath(CLI::App& parser, ChangeOptions& options)
     parser
         .add_option("NODEPATH", options.nodePath,
                     "The path of the node, as in \"/JPEG/Exif[@id='FFE1']/IFD[@id='9C9B']\", the title; the command "
-                    "xml --full shows "
-                    "how the elements are nested")
+                    "xml --full shows how the elements are nested")
         ->option_text(" ")
         ->required();
 }

@@ -39,10 +39,8 @@ std::string kindsText()
             "  " + std::string(row.name).append(12 - std::string(row.name).size(), ' ') + sourceText(row.words) + "\n";
     return text + "\n"
                   "A thumbnail that shows the picture stays, and so do orientation, resolution, colours, dates and the "
-                  "settings "
-                  "of the camera. An Exif segment stays even if nothing is left in it. If something cannot be taken "
-                  "away, it is "
-                  "named, and the file counts as failed.";
+                  "settings of the camera. An Exif segment stays even if nothing is left in it. If something cannot be "
+                  "taken away, it is named, and the file counts as failed.";
 }
 
 void addCleanOptions(CLI::App& parser, CleanOptions& options)

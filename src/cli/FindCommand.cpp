@@ -45,8 +45,8 @@ void addFindOptions(CLI::App& parser, FindOptions& options)
     parser
         .add_option(
             "--words", scan.content.words,
-            "Only files whose metadata contains one of these words, with commas between them; names of elements count, "
-            "too")
+            "Only files whose metadata contains one of these words, with commas between them; names of elements "
+            "count, too")
         ->option_text("W");
     parser.add_flag("--all-words", scan.content.allWords, "Only files that contain all of the words");
     parser.add_flag("--whole-words", scan.content.wholeWords, "Only whole words, not parts of longer ones");

@@ -80,8 +80,7 @@ void addReportOptions(CLI::App& parser, ReportCommandOptions& options)
     parser.footer([] {
         return "Style sheets that come with the program: " + joined(styleSheetNames()) +
                ". A name without folder and extension means one of these, and a file only if none has it; ./table is "
-               "always "
-               "a file.";
+               "always a file.";
     });
 }
 

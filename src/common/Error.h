@@ -23,14 +23,14 @@ struct Error {
 inline constexpr int kInvalidCall = 5;       ///< what was asked for makes no sense or is refused; nothing was done
 inline constexpr int kOverflow = 6;          ///< a number does not fit
 inline constexpr int kOutOfMemory = 7;       ///< or a limit was reached that keeps a hostile file from taking it all
-inline constexpr int kTypeMismatch = 13;     ///< a text is no number
+inline constexpr int kTypeMismatch = 13;     ///< a text is not a number
 inline constexpr int kFileNotFound = 53;     ///< there is no such file or folder
 inline constexpr int kInternalError = 51;    ///< a library failed
 inline constexpr int kDeviceError = 57;      ///< a disk failed while reading or writing
 inline constexpr int kDiskFull = 61;         ///< also: a quota or the largest file size is reached
 inline constexpr int kPermissionDenied = 70; ///< also: another save is writing the same file
 inline constexpr int kPathAccessError = 75;  ///< not a regular file, or anything else that the system says
-inline constexpr int kPathNotFound = 76;     ///< what has to be a folder of the path is none
+inline constexpr int kPathNotFound = 76;     ///< a part of the path that must be a folder is not one
 inline constexpr int kObjectNotSet = 91;     ///< something that is needed is missing
 
 // The program's own failures.

@@ -6,6 +6,7 @@
 #include "common/Error.h"
 #include "common/system/File.h"
 #include "ui/App/FoundFiles.h"
+#include "ui/App/Language.h"
 #include "ui/App/LocaleWords.h"
 #include "ui/App/PictureFit.h"
 #include "ui/App/Placement.h"
@@ -265,6 +266,8 @@ private Q_SLOTS:
         QCOMPARE(english.number(-0.001, 2), "0");
         QCOMPARE(english.moment({.date = {}, .time = TimeOfDay{12, 3, 4.25}}), "12:03:04.250");
         QCOMPARE(english.moment({.date = {}, .time = TimeOfDay{23, 59, 60}}), "23:59:60");
+        const Language withoutLocale({u"C"_s});
+        QCOMPARE(LocaleWords().moment(morning), "14 May 2023, 06:42:18");
     }
 
     void tellsWhatAReportLeavesOut()

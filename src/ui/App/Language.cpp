@@ -46,6 +46,7 @@ Language::Language(const QStringList& wanted) : m_name(firstSpoken(wanted))
 {
     const QLocale own(m_name);
     const QLocale system = QLocale::system();
+    // A system without a locale has plain dates (14 May 2023) and English words, which are not to become American.
     const QLocale::Language language = system.language() == QLocale::C ? QLocale::English : system.language();
     QLocale::setDefault(language == own.language() ? system : own);
     // Those installed last are asked first.

@@ -53,7 +53,7 @@ public:
     void saveXml();
     /// Opens it again, discarding its changes.
     void reset();
-    /// Opens it again, as another program may have left it, and offers to save its changes before.
+    /// Opens it again, as another program may have left it. Asks before its changes are discarded.
     void readAgain();
     /// Puts the caret into the value of the selected property.
     void editValue() { m_properties.editValue(); }
