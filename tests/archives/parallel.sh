@@ -35,9 +35,11 @@ block() {
         "$source/docs/large-archives.md" | sed 's/-l 10000 /-l 20 /'
 }
 
-# In the place of ssh: HOST -- COMMAND, run here, in the home folder. When $WORK/hang is there, the jobs after the eighth hang.
+# In the place of ssh: HOST -- COMMAND, run here, in the home folder, with the shell in the environment as after each login.
+# When $WORK/hang is there, the jobs after the eighth hang.
 cat >"$work/ssh" <<'END'
 #!/bin/sh
+export SHELL=/bin/sh
 shift
 [ "$1" != -- ] || shift
 if [ -e "$WORK/hang" ]; then
@@ -83,12 +85,13 @@ parts=$(ls parts | wc -l)
 : >"$work/hang"
 setsid sh -c 'echo $$ >"$WORK/session"; exec sh -c "$0"' "$(block run)" >"$work/said" 2>&1 &
 job=$!
-for ((i = 0; i < 600; ++i)); do
-    done=$(find parts -name '*.failed' | wc -l)
-    [ "$done" -lt 4 ] || break
+done=0
+for ((deadline = SECONDS + 120; done < 4 && SECONDS < deadline; )); do
     sleep 0.01
+    done=$(find parts -name '*.failed' | wc -l)
+    kill -0 "$job" 2>/dev/null || break
 done
-[ "$done" -ge 4 ] || fail "nothing was done: $(cat "$work/said")"
+[ "$done" -ge 4 ] || fail "only $done parts were done: $(cat "$work/said")"
 for ((i = 0; i < 1000; ++i)); do
     session "$(cat "$work/session")" >"$work/left"
     [ -s "$work/left" ] || break
